@@ -1,0 +1,62 @@
+// The questions the editor asks its user. The desktop answers with dialogs, scripts and tests from a
+// queue.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/colour.h"
+
+namespace velk {
+
+enum class Answer { Yes, No, Ok, Cancel };
+
+struct MessageBox {
+  enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+  enum class Icon { None, Information, Warning, Question, Error };
+  std::string caption;
+  std::string text;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+};
+
+struct FileChooser {
+  enum class Kind { Open, OpenMany, Save };
+  std::string title;
+  std::string filter;     // "Map Files (*.map)|*.map|"
+  std::string directory;  // where to start, an editor path
+  std::string fileName;   // preset, may be empty
+  Kind kind = Kind::Open;
+};
+
+struct TextInput {
+  std::string title;
+  std::string prompt;
+  std::string text;       // preset
+  int maxLength = 127;
+};
+
+struct ColourChooser {
+  std::string title;
+  Colour colour;                // the one to start from
+  std::vector<Colour> custom;   // up to 16 custom colours
+};
+
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+  virtual Answer ask(const MessageBox& box) = 0;
+  // The chosen paths; empty on Cancel. Only Kind::OpenMany gives more than one.
+  virtual std::vector<std::string> chooseFiles(const FileChooser& chooser) = 0;
+  virtual std::optional<std::string> input(const TextInput& input) = 0;
+  virtual std::optional<Colour> chooseColour(const ColourChooser& chooser) = 0;
+
+  // The one chosen path, or none.
+  std::optional<std::string> chooseFile(const FileChooser& chooser) {
+    std::vector<std::string> files = chooseFiles(chooser);
+    return files.empty() ? std::nullopt : std::optional(files.front());
+  }
+};
+
+}  // namespace velk

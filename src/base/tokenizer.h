@@ -1,0 +1,58 @@
+// The tokenizer of all of the editor's text formats: words and quoted strings parted by whitespace,
+// "//" comments to the end of a line, and a strict notion of a token on the same line.
+#pragma once
+
+#include <string_view>
+
+namespace velk {
+
+class Tokenizer {
+ public:
+  // Longest token, in characters.
+  static constexpr int kMaxToken = 255;
+
+  Tokenizer() = default;
+  explicit Tokenizer(std::string_view text) { StartScript(text); }
+
+  // Starts at the beginning of `text`, line 1. The text must outlive the reading; it ends at its first
+  // NUL byte or at its end.
+  void StartScript(std::string_view text);
+
+  // Reads the next token; false at the end of the text. With acrossLines the token may stand on a later
+  // line than the one before; without, a missing token is fatal "Line %i is incomplete".
+  // Also fatal: "EOF inside quoted token", "Token too large on line %i".
+  bool GetScriptToken(bool acrossLines);
+
+  // The last token, without its quotes; valid as long as the text is.
+  std::string_view token() const { return token_; }
+  // The last token was quoted.
+  bool quoted() const { return quoted_; }
+  // 1 at the start of the text.
+  int line() const { return line_; }
+  // Line number on which the last token ends. Bytes of quoted tokens never count as lines.
+
+  // While on, every skipped comment is examined for a group number: //"dddd".
+  void setCapture(bool on) { capture_ = on; }
+  // The number in the last comment examined, 0 when it held none.
+  int capturedGroup() const { return capturedGroup_; }
+
+  // The text not read yet, for readers with a faster path through well-formed lines.
+  const char* position() const { return position_; }
+  const char* end() const { return end_; }
+  // Goes on at `position`, which must lie in the rest of the same line.
+  void setPosition(const char* position) { position_ = position; }
+
+ private:
+  bool skipToToken(bool acrossLines);
+  bool skipComment(bool acrossLines);
+
+  const char* position_ = nullptr;
+  const char* end_ = nullptr;
+  std::string_view token_;
+  int line_ = 1;
+  int capturedGroup_ = 0;
+  bool capture_ = false;
+  bool quoted_ = false;
+};
+
+}  // namespace velk

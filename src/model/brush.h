@@ -1,0 +1,92 @@
+// Brushes: convex solids of up to 64 faces.
+#pragma once
+
+#include <vector>
+
+#include "model/counters.h"
+#include "model/face.h"
+
+namespace velk {
+
+class entity;
+struct HitList;
+
+inline constexpr int MAX_FACES = 64;
+
+struct brush {
+  explicit brush(ObjectCounters* counters = nullptr);
+  // A copy carries everything but polygons and texture caches; its source is the brush copied. Run
+  // buildWindings on it when polygons are needed.
+  brush(const brush& other);
+  brush& operator=(const brush&) = delete;
+  // Takes the brush out of the hit list. It must have left its owner's list before.
+  ~brush();
+
+  bool selected = false;
+  bool invalid = false;          // no valid solid; see buildWindings
+  bool hidden = false;           // left out by the view filter
+  entity* owner = nullptr;       // the entity that holds this brush
+  vec3 mins;                     // bounds of all polygons, world units
+  vec3 maxs;
+  vec3 color;                    // of the owner's entity class, channels nominally 0..1
+  int currentFace = 0;           // 0..numfaces-1
+  int group = 0;
+  std::vector<face> faces;       // at most MAX_FACES
+  const brush* source = nullptr; // in an undo copy: the live brush
+  HitList* hits = nullptr;       // the hit list that holds this brush, if any
+
+  int numfaces() const { return static_cast<int>(faces.size()); }
+  // The texture of face 0; an empty definition when there is no face.
+  const texturedef& brushTexture() const;
+
+  // Makes a box owned by `owner`, in its class colour. Without extent on every axis the brush is invalid
+  // and has no faces.
+  void initBox(entity& owner, const vec3& mins, const vec3& maxs, const texturedef& texture);
+  // Faces of the box, in the fixed order: four sides, top, bottom.
+  void setBox(const vec3& mins, const vec3& maxs, const texturedef& texture);
+
+  // Rebuilds planes, polygons, shades and bounds from the plane points and textures; to be run after every
+  // change of either. Degenerate and repeated faces get no polygon; the rest of the brush is built. Sets
+  // invalid (and zero bounds) when no solid is left or a polygon is not acceptable.
+  void buildWindings();
+
+  // A face number not below numfaces is fatal "setTexturedef:forFace: bad face number %i".
+  void setTexturedef(const texturedef& texture, int faceNumber);
+  void setAllTexturedefs(const texturedef& texture);
+
+  // Adds a face with the texture of face 0, rebuilds, and drops faces left without polygon. With fewer
+  // than 4 faces left the brush is invalid and false is returned; the caller removes it from its entity
+  // (see RemoveFromEntity). A full brush is fatal "addFace: numfaces == MAX_FACES".
+  bool addFace(const face& added);
+
+  void reverseFaces();
+  void translate(const vec3& offset);
+  // p becomes m (p - centre) + centre, m row by row.
+  void transform(const float m[3][3], const vec3& centre);
+
+  // Deselects; the owner map's work range takes the brush's depth.
+  void deselect();
+
+  struct Hit {
+    double t = -1;   // distance from the start, -1 for a miss
+    int face = -1;
+  };
+  // Where the segment enters the brush. A start inside without any crossing gives t 0 on face 0. A
+  // negative distance is fatal "hitByRay: negative t".
+  Hit hitByRay(const vec3& start, const vec3& end) const;
+
+  struct RayClip {
+    vec3 p1;
+    vec3 p2;
+    int entry = -2;   // faces crossed; -2 none crossed, -1 missed
+    int exit = -2;
+  };
+  RayClip clipRay(const vec3& start, const vec3& end) const;
+
+ private:
+  int alignment() const;
+
+  ObjectCounters* counters_ = nullptr;
+};
+
+}  // namespace velk

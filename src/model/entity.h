@@ -1,0 +1,100 @@
+// Entities: key/value pairs and the brushes that give them shape.
+#pragma once
+
+#include <memory>
+#include <ranges>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "entities/entityclass.h"
+#include "model/brush.h"
+
+namespace velk {
+
+class map;
+
+inline constexpr int MAX_KEY = 64;     // bytes with the terminator
+inline constexpr int MAX_VALUE = 128;
+inline constexpr int MAX_ENTITY_BRUSHES = 4096;
+
+struct KeyPair {
+  std::string key;
+  std::string value;
+};
+
+class entity {
+ public:
+  // Belongs to `parent` from the start, whether or not it is in its list yet.
+  explicit entity(map& parent);
+  ~entity();
+  entity(const entity&) = delete;
+  entity& operator=(const entity&) = delete;
+
+  map& parent() const { return *parent_; }
+
+  // The brushes are the entity's own (world, doors, triggers); false: one box of a fixed-size class.
+  bool isModel = false;
+  const entity* source = nullptr;   // in a copy: the entity copied
+
+  // Brushes, owned. A 4097th is fatal "entity->addobject, too many objects".
+  int numbrushes() const { return static_cast<int>(brushes_.size()); }
+  brush* at(int index) const { return index >= 0 && index < numbrushes() ? brushes_[static_cast<size_t>(index)].get() : nullptr; }
+  int indexOf(const brush* b) const;   // -1 when it is not there
+  brush& addobject(std::unique_ptr<brush> added);
+  // Takes the brush out; the last one moves into its slot. None when it is not in the list. An entity
+  // other than the world that is left empty leaves the map's list and is handed over in `emptied`, when
+  // that is given, for the caller to destroy.
+  std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
+  void destroyBrushes() { brushes_.clear(); }
+  auto brushes() const { return brushes_ | std::views::transform([](const auto& p) -> brush& { return *p; }); }
+  std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
+
+  // Pairs, newest first, as they are written.
+  auto pairs() const { return std::views::reverse(pairs_); }
+  // A key of 64 characters or more is fatal "setKey: %s > MAX_KEY", a value of 128 or more "setKey: %s >
+  // MAX_VALUE". Leading bytes up to 32 of the key are dropped; an empty key is ignored.
+  void setKey(std::string_view key, std::string_view value);
+  // An absent key warns on standard output, unless there are no pairs at all.
+  void removeKeyPair(std::string_view key);
+  // "" when the key is absent.
+  const std::string& valueOfKey(std::string_view key) const;
+  // Missing components stay 0.
+  vec3 vectorOfKey(std::string_view key) const;
+
+  const EntityClass& entityClass() const;
+  bool isWorld() const;
+
+  enum class Copy { Rebuilt, ForUndo, PairsOnly };
+  // A copy in `target` (not added to its list), its pairs in the same order. Brushes are rebuilt, or left
+  // without polygons for undo.
+  std::unique_ptr<entity> copy(map& target, Copy kind) const;
+
+  // The entity's "targetname", made as "t<n>" from the largest in the map when it has none.
+  std::string makeTargetName();
+
+  // Sets "classname"; a fixed-size class also gets "origin" and its box at the first selected brush, or at
+  // the map's origin when none is selected.
+  void setClass(std::string_view classname);
+  // Adds the box of the entity's class at `origin`, 16 units a side for an unknown class.
+  void makeClassBox(const vec3& origin);
+  // "origin" of a fixed-size entity: its box's mins less the class mins, truncated.
+  void updateOriginFromBox();
+
+ private:
+  friend class map;
+  map* parent_;
+  std::vector<std::unique_ptr<brush>> brushes_;
+  std::vector<KeyPair> pairs_;   // oldest first
+};
+
+// Removes the brush from its entity and destroys it. A valid one leaves its depth as the map's work range;
+// an entity other than the world that is left empty is removed from the map and destroyed.
+void DestroyBrush(brush& b);
+// The same, but the brush is handed over; its owner is none when that was destroyed.
+std::unique_ptr<brush> RemoveFromEntity(brush& b);
+// Moves the brush into `target`, taking its class colour. With multi_select on, brushes of fixed-size
+// entities stay.
+void MoveToEntity(brush& b, entity& target);
+
+}  // namespace velk

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "model/plane.h"
+#include "model/texturedef.h"
+#include "model/textureref.h"
+#include "model/winding.h"
+
+namespace velk {
+
+// One side of a brush: three points and a texture definition, and what brush::buildWindings makes of
+// them.
+struct face {
+  vec3 planepts[3];
+  texturedef texture;
+
+  plane facePlane;                     // derived; its normal points out of the brush
+  float shade = 0;                     // derived, 0..1
+  WindingPtr polygon;                  // derived; none when degenerate, repeated or clipped away
+  std::unique_ptr<TextureRef> cache;   // filled by the camera view, dropped with the polygon
+
+  face() = default;
+  face(face&&) = default;
+  face& operator=(face&&) = default;
+  // Copies carry points, texture definition, plane and shade; no polygon and no cache.
+  face(const face& other);
+  face& operator=(const face& other);
+};
+
+}  // namespace velk
