@@ -1,0 +1,67 @@
+// Commands as data. One table is the source of the menu bar, the key table, the button bars, the script
+// vocabulary and the help's page of keys.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velk {
+
+class Editor;
+
+// When a command can be given.
+enum class When {
+  Always,
+  MapOpen,
+  RoomForMap,         // fewer than ten maps are open
+  SelectionInEntity,  // the current entity has a selected brush
+  UndoKept,
+  LeaksShown,
+  Never,              // no operation stands behind it
+};
+
+struct Command {
+  int id = 0;
+  const char* name = "";     // as button bars and scripts write it; "" when it has none
+  const char* menu = "";     // path of menu labels parted by '|': "&Edit|&Copy"; "" for keys and bars only
+  const char* label = "";    // with its mnemonic marker
+  const char* keyText = "";  // as the menu shows it
+  const char* keys = "";     // strokes parted by blanks: "Ctrl+Shift+Space Ctrl+Space", "Num-"
+  const char* hint = "";
+  When when = When::Always;
+  bool (*checked)(const Editor&) = nullptr;  // none: not a check mark item
+  void (*run)(Editor&) = nullptr;            // none: not built yet
+  const char* reason = "";   // why there is no handler
+};
+
+// Every command, in menu order; those without a menu item last.
+std::span<const Command> Commands();
+const Command* FindCommand(int id);
+// Without regard to case; also accepts the number as text. None when there is no such command.
+const Command* FindCommand(std::string_view nameOrNumber);
+
+// A key with its modifiers, independent of the toolkit.
+struct KeyStroke {
+  enum class Key {
+    None, Character, Up, Down, Left, Right, Home, End, PageUp, PageDown, Insert, Delete, Escape, Enter, Space,
+    F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12
+  };
+  Key key = Key::None;
+  char character = 0;   // upper case letter, digit or sign, for Key::Character
+  bool numPad = false;  // the number pad's key, distinct from the main one
+  bool ctrl = false;
+  bool alt = false;
+  bool shift = false;
+  friend bool operator==(const KeyStroke&, const KeyStroke&) = default;
+};
+
+// Reads "Ctrl+PgUp", "Num4", "Alt+A", "`", "Ctrl+Num+", "Ctrl+comma"; Key::None when it is no stroke.
+KeyStroke ParseKeyStroke(std::string_view text);
+// The strokes of a command.
+std::vector<KeyStroke> StrokesOf(const Command& command);
+// The command on that key; none when it is free.
+const Command* CommandOnKey(const KeyStroke& stroke);
+
+}  // namespace velk
