@@ -40,6 +40,12 @@ class Canvas {
   virtual void text(const std::string& text, Pixel at, int height, Colour colour, const Colour* background) = 0;
   // Width of the text in pixels at that height.
   virtual int textWidth(const std::string& text, int height) const = 0;
+
+  // For drawings sharper than the editor's pixels: how many device pixels one of them has a side, and
+  // strokes whose corners are counted in device pixels (pen widths stay in the editor's).
+  virtual double deviceScale() const { return 1; }
+  virtual void devicePolygon(const Pen& pen, std::span<const Pixel> points) { polygon(pen, points); }
+  virtual void devicePoints(Colour colour, std::span<const Pixel> points) { this->points(colour, points); }
 };
 
 }  // namespace velk
