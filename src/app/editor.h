@@ -13,7 +13,9 @@
 #include "base/prompts.h"
 #include "entities/entityclass.h"
 #include "model/map.h"
+#include "planview/drawplanview.h"
 #include "planview/planview.h"
+#include "planview/pointer.h"
 #include "settings/settings.h"
 
 namespace velk {
@@ -77,6 +79,14 @@ class Editor {
 
   PlanViewSet& planViews() { return planViews_; }
   const PlanViewSet& planViews() const { return planViews_; }
+  // What the picture of a plan view is drawn from.
+  PlanScene planScene(const StripColours& strip);
+  // Mouse input of a plan view (0..2); statuses are posted and redraws asked for on the way.
+  PointerOutcome pressPlanView(int view, const PointerEvent& event);
+  PointerOutcome movePlanView(int view, const PointerEvent& event);
+  PointerOutcome releasePlanView(int view, const PointerEvent& event);
+  PointerOutcome wheelPlanView(int view, const PointerEvent& event, int steps);
+  void flipPlanView(int view);
 
   // One tick of ten seconds.
   void tick();
@@ -90,6 +100,7 @@ class Editor {
   EntityClassList classes_;
   ObjectCounters counters_;
   PlanViewSet planViews_;
+  PlanPointer planPointer_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;
   std::string status_;
