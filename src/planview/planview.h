@@ -53,7 +53,6 @@ struct PlanView {
   // Texts of the header strip that last between repaints.
   std::string coordinateText;
   std::string deltaText;
-  std::string depthRangeText;
 
   // Sets the axes; the view looks down its depth axis again.
   void setOrientation(Orientation shown);
@@ -93,8 +92,8 @@ std::string cameraText(const map& m);
 std::string coordinateText(ViewPoint at, const Settings& settings);
 // "D(64,-8)", truncated.
 std::string deltaText(ViewPoint delta);
-// The map's bounds along the view's depth axis and their difference.
-std::string depthRangeText(const PlanView& view, map& m);
+// The depth that new brushes get in the view: low, high and their difference.
+std::string depthRangeText(const PlanView& view, const map& m);
 
 // Nearest multiple of the grid size, halves away from zero.
 int snapToGrid(double value, const Settings& settings);
@@ -104,9 +103,8 @@ ViewPoint snapToGrid(ViewPoint at, const Settings& settings);
 // to be redrawn.
 bool setPlanCenter(PlanViewSet& set, const map* m, const vec3& p, bool locked);
 
-// The current view turns to its next orientation (XY, YZ, XZ, XY); its depth-range field is filled when a
-// map is given. Returns the status text.
-std::string switchMapView(PlanViewSet& set, map* m);
+// The current view turns to its next orientation (XY, YZ, XZ, XY). Returns the status text.
+std::string switchMapView(PlanViewSet& set);
 
 // The offset of one grid step that nudges the selection in a view's terms.
 enum class Nudge { Down, Up, Left, Right, In, Out };

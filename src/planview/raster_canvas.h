@@ -31,10 +31,14 @@ class RasterCanvas : public Canvas {
   int deviceHeight() const { return height_; }
   std::ptrdiff_t stride() const { return stride_; }
   // A position of the editor's pixels in device pixels.
-  int toDevice(int position) const;
+  int toDevice(double position) const;
+  Pixel toDevice(Pixel position) const { return {toDevice(position.x), toDevice(position.y)}; }
 
  private:
-  void deviceLine(const Pen& pen, Pixel from, Pixel to);
+  int deviceWidthOf(const Pen& pen) const;
+  // Right and bottom do not belong to the rectangle.
+  void fillDevice(int left, int top, int right, int bottom, std::uint32_t colour);
+  void deviceLine(std::uint32_t colour, int width, Pixel from, Pixel to);
 
   std::uint32_t* pixels_;
   int width_;

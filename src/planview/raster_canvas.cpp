@@ -1,0 +1,168 @@
+#include "planview/raster_canvas.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+
+namespace velk {
+
+namespace {
+
+// Lines whose ends lie farther away are shortened first, so that exact stepping cannot overflow.
+constexpr int kFar = 1 << 20;  // device pixels
+
+bool isFar(Pixel p) { return p.x < -kFar || p.x > kFar || p.y < -kFar || p.y > kFar; }
+
+// Shortens the line to the square of half side kFar; false when it lies outside.
+bool bringNear(Pixel& from, Pixel& to) {
+  double first = 0, last = 1;
+  const double startX = from.x, startY = from.y;
+  const double dx = double(to.x) - startX, dy = double(to.y) - startY;
+  const auto limit = [&](double direction, double distance) {  // direction * t <= distance
+    if (direction == 0) return distance >= 0;
+    const double t = distance / direction;
+    if (direction < 0) {
+      first = std::max(first, t);
+    } else {
+      last = std::min(last, t);
+    }
+    return first <= last;
+  };
+  if (!limit(-dx, startX + kFar) || !limit(dx, kFar - startX) || !limit(-dy, startY + kFar) ||
+      !limit(dy, kFar - startY)) {
+    return false;
+  }
+  from = {Truncate(startX + dx * first), Truncate(startY + dy * first)};
+  to = {Truncate(startX + dx * last), Truncate(startY + dy * last)};
+  return true;
+}
+
+std::int64_t ceilDivide(std::int64_t a, std::int64_t b) { return a / b + (a % b > 0 ? 1 : 0); }
+
+// A line along its longer axis ("major"), which it climbs from `start`; on the other it moves by `minorSign`
+// every now and then.
+struct Run {
+  int major = 0;  // start
+  int minor = 0;
+  int length = 0;  // steps along the major axis
+  int climb = 0;   // total movement on the minor axis, not negative
+  int minorSign = 1;
+  int majorSize = 0;  // limits of the picture
+  int minorSize = 0;
+  std::ptrdiff_t majorStep = 1;
+  std::ptrdiff_t minorStep = 1;
+};
+
+// Draws the pixels of the run that lie in the picture; the same ones as without clipping.
+void drawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
+  // After i steps the line has climbed floor((2 climb i + length) / (2 length)).
+  const std::int64_t twiceClimb = 2 * std::int64_t(run.climb), twiceLength = 2 * std::int64_t(run.length);
+  std::int64_t first = std::max<std::int64_t>(0, -std::int64_t(run.major));
+  std::int64_t last = std::min<std::int64_t>(run.length, std::int64_t(run.majorSize) - 1 - run.major);
+  const std::int64_t lowest = run.minorSign > 0 ? -std::int64_t(run.minor) : run.minor - run.minorSize + 1;
+  const std::int64_t highest = run.minorSign > 0 ? run.minorSize - 1 - std::int64_t(run.minor) : run.minor;
+  if (highest < 0 || lowest > run.climb) return;
+  if (run.climb > 0) {
+    first = std::max(first, ceilDivide(twiceLength * lowest - run.length, twiceClimb));
+    last = std::min(last, ceilDivide(twiceLength * (highest + 1) - run.length, twiceClimb) - 1);
+  }
+  if (first > last) return;
+
+  const std::int64_t reached = twiceClimb * first + run.length;
+  const std::int64_t climbed = reached / twiceLength;
+  const int over = static_cast<int>(twiceLength);
+  const int step = static_cast<int>(twiceClimb);
+  int error = static_cast<int>(reached % twiceLength);
+  const std::ptrdiff_t minorStep = run.minorSign * run.minorStep;
+  std::uint32_t* p =
+      pixels + (run.major + first) * run.majorStep + run.minor * run.minorStep + climbed * minorStep;
+  for (std::int64_t n = last - first; n >= 0; --n) {
+    *p = colour;
+    p += run.majorStep;
+    error += step;
+    const int carry = -static_cast<int>(error >= over);  // all bits or none, for want of a branch
+    error -= over & carry;
+    p += minorStep & carry;
+  }
+}
+
+}  // namespace
+
+RasterCanvas::RasterCanvas(std::uint32_t* pixels, int width, int height, std::ptrdiff_t stride, double scale)
+    : pixels_(pixels), width_(width), height_(height), stride_(stride), scale_(scale) {}
+
+int RasterCanvas::toDevice(double position) const { return Truncate(RoundHalfAway(position * scale_)); }
+
+int RasterCanvas::deviceWidthOf(const Pen& pen) const { return std::max(1, toDevice(pen.width)); }
+
+void RasterCanvas::fill(const PixelRect& rect, Colour colour) {
+  fillDevice(toDevice(rect.left), toDevice(rect.top), toDevice(double(rect.left) + rect.width),
+             toDevice(double(rect.top) + rect.height), PixelOf(colour));
+}
+
+void RasterCanvas::fillDevice(int left, int top, int right, int bottom, std::uint32_t colour) {
+  left = std::max(left, 0);
+  right = std::min(right, width_);
+  bottom = std::min(bottom, height_);
+  if (left >= right) return;
+  for (int y = std::max(top, 0); y < bottom; ++y) {
+    std::fill_n(pixels_ + y * stride_ + left, right - left, colour);
+  }
+}
+
+void RasterCanvas::line(const Pen& pen, Pixel from, Pixel to) {
+  deviceLine(PixelOf(pen.colour), deviceWidthOf(pen), toDevice(from), toDevice(to));
+}
+
+void RasterCanvas::polygon(const Pen& pen, std::span<const Pixel> points) {
+  std::vector<Pixel> scaled;
+  scaled.reserve(points.size());
+  for (const Pixel& p : points) scaled.push_back(toDevice(p));
+  devicePolygon(pen, scaled);
+}
+
+void RasterCanvas::devicePolygon(const Pen& pen, std::span<const Pixel> points) {
+  const std::uint32_t colour = PixelOf(pen.colour);
+  const int width = deviceWidthOf(pen);
+  for (size_t i = 1; i < points.size(); ++i) deviceLine(colour, width, points[i - 1], points[i]);
+  if (points.size() != 2 && !points.empty()) deviceLine(colour, width, points.back(), points.front());
+}
+
+void RasterCanvas::points(Colour colour, std::span<const Pixel> points) {
+  for (const Pixel& p : points) {
+    const Pixel at = toDevice(p);
+    devicePoints(colour, {&at, 1});
+  }
+}
+
+void RasterCanvas::devicePoints(Colour colour, std::span<const Pixel> points) {
+  const int size = deviceWidthOf({colour, 1});
+  const std::uint32_t value = PixelOf(colour);
+  for (const Pixel& p : points) {
+    if (p.x <= -size || p.y <= -size || p.x >= width_ || p.y >= height_) continue;
+    fillDevice(p.x, p.y, p.x + size, p.y + size, value);
+  }
+}
+
+void RasterCanvas::deviceLine(std::uint32_t colour, int width, Pixel from, Pixel to) {
+  if ((isFar(from) || isFar(to)) && !bringNear(from, to)) return;
+  const int before = (width - 1) / 2;  // the part of a wide line above or left of it
+  if (from.x == to.x || from.y == to.y) {
+    fillDevice(std::min(from.x, to.x) - before, std::min(from.y, to.y) - before,
+               std::max(from.x, to.x) - before + width, std::max(from.y, to.y) - before + width, colour);
+    return;
+  }
+  const int dx = std::abs(to.x - from.x), dy = std::abs(to.y - from.y);
+  const bool steep = dy > dx;
+  // Always drawn in the same direction, so that an edge shared by two polygons meets the same pixels.
+  if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
+  Run run = steep ? Run{from.y, from.x, dy, dx, to.x > from.x ? 1 : -1, height_, width_, stride_, 1}
+                  : Run{from.x, from.y, dx, dy, to.y > from.y ? 1 : -1, width_, height_, 1, stride_};
+  run.minor -= before;
+  for (int i = 0; i < width; ++i, ++run.minor) drawRun(pixels_, run, colour);
+}
+
+}  // namespace velk
