@@ -2,21 +2,26 @@
 // events in; scripts and tests drive it the same way.
 #pragma once
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "app/command.h"
 #include "app/observer.h"
+#include "app/place.h"
 #include "base/paths.h"
 #include "base/prompts.h"
+#include "camera/movement.h"
+#include "camera/renderer.h"
 #include "entities/entityclass.h"
+#include "mapfile/mapreader.h"
 #include "model/map.h"
 #include "planview/drawplanview.h"
 #include "planview/planview.h"
 #include "planview/pointer.h"
 #include "settings/settings.h"
+#include "textures/texturebrowser.h"
+#include "textures/texturemanager.h"
 
 namespace velk {
 
@@ -24,15 +29,19 @@ inline constexpr int MAX_MAPS = 10;
 
 // An open map: the model and what belongs to its file.
 struct MapDocument {
-  MapDocument(const Settings& settings, const EntityClassList& classes, ObjectCounters* counters)
-      : model(settings, classes, counters) {}
+  MapDocument(const Settings& settings, const EntityClassList& classes, ObjectCounters* counters,
+              const TextureRef& badtex)
+      : textures(badtex), model(settings, classes, counters) {}
+  TextureSet textures;
   map model;  // model.name is the path, as given
 };
 
-// Where the editor's own files are.
-struct EditorPlace {
-  std::filesystem::path home;  // the folder of velk.ini
-  std::filesystem::path data;  // holds one folder per drive letter
+// The camera view's window and what it keeps between frames.
+struct CameraView {
+  int clientWidth = 320;  // pixels
+  int clientHeight = 200;
+  WireLens lens;
+  Renderer renderer;
 };
 
 class Editor {
@@ -40,8 +49,11 @@ class Editor {
   // Prompts and observer must outlive the editor.
   Editor(EditorPlace place, Prompts& prompts, Observer& observer);
   ~Editor();
+  Editor(const Editor&) = delete;
+  Editor& operator=(const Editor&) = delete;
 
-  // Start-up in its fixed order: settings, the badtex check, entity classes, "Welcome to Velk...".
+  // Start-up in its fixed order: settings, the badtex check, entity classes, default wads, light table,
+  // "Welcome to Velk...".
   void start();
 
   Settings& settings() { return settings_; }
@@ -58,6 +70,7 @@ class Editor {
   MapDocument* document(int index) const;  // none outside the range
   MapDocument* current() const { return document(current_); }
   map* currentMap() const { return current() ? &current()->model : nullptr; }
+  // Shows another open map; an index outside the range is ignored.
   void setCurrentIndex(int index);
 
   // Commands. Running a disabled or unbuilt one does nothing and returns false.
@@ -65,8 +78,16 @@ class Editor {
   bool isChecked(const Command& command) const { return command.checked && command.checked(*this); }
   bool run(const Command& command);
 
-  // Opens a file as the Open command does after its chooser.
+  // What New, Open, Save and Close do once their questions are answered. A fatal error on the way leaves
+  // the list of open maps as it was. New and open refuse an eleventh map with a message box.
+  void newMap();
   void openFile(const std::string& path);
+  // Writes a map to its path, or to the one given, which becomes its own. False, with a message box, when
+  // it could not be written: the map then stays modified and keeps its name.
+  bool saveDocument(MapDocument& document, const std::string& path);
+  void closeDocument(int index);
+  // Reads the entity classes again.
+  void reloadClasses();
   // "[Velk - <path>]"
   std::string title() const;
 
@@ -88,10 +109,49 @@ class Editor {
   PointerOutcome wheelPlanView(int view, const PointerEvent& event, int steps);
   void flipPlanView(int view);
 
+  TextureManager& textureManager() { return textureManager_; }
+  const TextureManager& textureManager() const { return textureManager_; }
+  TextureBrowser& textureBrowser() { return textureBrowser_; }
+  const TextureBrowser& textureBrowser() const { return textureBrowser_; }
+  // The wad whose palette the views are drawn in; none when nothing was loaded.
+  const Wad* paletteWad() const {
+    return textureManager_.paletteWad(current() ? &current()->textures : nullptr);
+  }
+
+  CameraView& cameraView() { return cameraView_; }
+  const CameraView& cameraView() const { return cameraView_; }
+  // What the camera view's picture is drawn from, until the next call; a map must be open.
+  RenderScene cameraScene();
+  // The picture's size in the camera view as it is.
+  RenderSize renderSize() const;
+  // Draws the picture of the flat and textured modes into the camera view's renderer. Without a map
+  // nothing happens.
+  void renderCamera();
+  // The brush and face at a pixel of the camera view; none without a map.
+  FacePick pickInCamera(Pixel at);
+  // Flags, plan view centre and status of a camera command.
+  void apply(const CameraOutcome& outcome);
+
   // One tick of ten seconds.
   void tick();
 
  private:
+  bool refuseEleventh(const char* caption);
+  bool refuseSave(const std::string& text, MessageBox::Icon icon);
+  std::unique_ptr<MapDocument> makeDocument();
+  MapReadOptions readOptions();
+  void addDocument(std::unique_ptr<MapDocument> added);
+  void noticed(const MapDocument& from, MapNotice what);
+  void showCurrent();
+  void checkBadtex();
+  void startTextures();
+  WadProgressSink wadProgress();
+  void refreshAssets();
+  void carryOutRedraws();
+  PointerOutcome apply(PointerOutcome outcome);
+  PlanPointerContext pointerContext(int view);
+  std::string statusLine(const std::string& text) const;
+
   EditorPlace place_;
   Paths paths_;
   Prompts& prompts_;
@@ -101,6 +161,10 @@ class Editor {
   ObjectCounters counters_;
   PlanViewSet planViews_;
   PlanPointer planPointer_;
+  TextureManager textureManager_;
+  TextureBrowser textureBrowser_;
+  CameraView cameraView_;
+  RenderAssets assets_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;
   std::string status_;

@@ -23,6 +23,9 @@ class Observer {
   virtual void texturesChanged() {}
   // Menus, bars and check marks may look different.
   virtual void commandsChanged() {}
+  // The user asked for the window that replaces textures, which stays open beside the others. False when
+  // there is none: the texts are asked for one after the other instead.
+  virtual bool showReplaceTexture() { return false; }
   // The user asked to exit and gave no Cancel.
   virtual void exitRequested() {}
 };

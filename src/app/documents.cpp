@@ -1,0 +1,136 @@
+// The open maps: making, reading, writing and closing them.
+#include "app/editor.h"
+#include "base/text.h"
+#include "mapfile/mapwriter.h"
+
+namespace velk {
+
+MapDocument* Editor::document(int index) const {
+  return index >= 0 && index < mapCount() ? documents_[static_cast<size_t>(index)].get() : nullptr;
+}
+
+std::string Editor::title() const {
+  return Format("[Velk - %s]", currentMap() ? currentMap()->name.c_str() : "Velk");
+}
+
+bool Editor::refuseEleventh(const char* caption) {
+  if (mapCount() < MAX_MAPS) return false;
+  prompts_.ask({.caption = caption,
+                .text = "No more maps available...",
+                .buttons = MessageBox::Buttons::Ok,
+                .icon = MessageBox::Icon::Warning});
+  return true;
+}
+
+std::unique_ptr<MapDocument> Editor::makeDocument() {
+  auto made = std::make_unique<MapDocument>(settings_, classes_, &counters_, textureManager_.badtex());
+  made->model.notice = [this, document = made.get()](MapNotice what) { noticed(*document, what); };
+  return made;
+}
+
+void Editor::noticed(const MapDocument& from, MapNotice what) {
+  if (&from != current()) return;
+  switch (what) {
+    case MapNotice::CurrentEntity:
+      observer_.entityChanged();
+      break;
+    case MapNotice::Groups:
+      observer_.groupsChanged();
+      break;
+    case MapNotice::WorkRange:
+      flagPlanViews();
+      break;
+  }
+}
+
+void Editor::addDocument(std::unique_ptr<MapDocument> added) {
+  documents_.push_back(std::move(added));
+  current_ = mapCount() - 1;
+  showCurrent();
+}
+
+// Every window shows the current map.
+void Editor::showCurrent() {
+  flagAllViews();
+  observer_.mapsChanged();
+  observer_.texturesChanged();
+  observer_.groupsChanged();
+  observer_.entityChanged();
+}
+
+void Editor::newMap() {
+  if (refuseEleventh("Velk - Cannot Open New Map")) return;
+  auto made = makeDocument();
+  made->model.initNew(settings_.default_wad);
+  made->model.name = settings_.newmap;
+  textureManager_.openMapWads(made->model, made->textures, wadProgress());
+  textureBrowser_.takeFirstTexture(made->textures);
+  addDocument(std::move(made));
+  autosaveTicks_ = 0;
+  postStatus(Format("Map [%s] created...", settings_.newmap.c_str()));
+}
+
+MapReadOptions Editor::readOptions() {
+  MapReadOptions options;
+  options.paths = paths_;
+  options.progress = [this](const std::string& text) { postStatus(text, false); };
+  options.currentTexture = textureBrowser_.current();
+  return options;
+}
+
+void Editor::openFile(const std::string& path) {
+  if (refuseEleventh("Velk - Cannot Open")) return;
+  auto made = makeDocument();
+  const MapReadResult read = ReadMapFile(made->model, path, readOptions());
+  made->model.name = path;
+  made->model.favourites = read.favourites;
+  textureManager_.openMapWads(made->model, made->textures, wadProgress());
+  addDocument(std::move(made));
+  postStatus(Format("File [%s] processed...", path.c_str()));
+}
+
+bool Editor::refuseSave(const std::string& text, MessageBox::Icon icon) {
+  prompts_.ask({.caption = "Velk - Save", .text = text, .buttons = MessageBox::Buttons::Ok, .icon = icon});
+  return false;
+}
+
+bool Editor::saveDocument(MapDocument& document, const std::string& path) {
+  map& m = document.model;
+  if (!m.world() || m.world()->numbrushes() == 0) {
+    return refuseSave("Nothing to save...\nMap must have at least one world brush!",
+                      MessageBox::Icon::Warning);
+  }
+  // Not through WriteMapFile, for which a file that cannot be made is fatal: other work would be lost.
+  const WriteResult written = ReplaceFile(paths_.native(path), MapFileText(m, {}));
+  if (!written.ok) {
+    return refuseSave(Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()),
+                      MessageBox::Icon::Error);
+  }
+  m.name = path;
+  m.modified = false;
+  observer_.mapsChanged();
+  postStatus(Format("File [%s] saved...", path.c_str()));
+  return true;
+}
+
+void Editor::closeDocument(int index) {
+  if (!document(index)) return;
+  std::swap(documents_[static_cast<size_t>(index)], documents_.back());
+  documents_.pop_back();
+  current_ = 0;
+  showCurrent();
+  if (mapCount() > 0) {
+    postStatus("Map closed...");
+    return;
+  }
+  // No map is open: the status line's redraws would not run.
+  carryOutRedraws();
+}
+
+void Editor::setCurrentIndex(int index) {
+  if (!document(index)) return;
+  current_ = index;
+  showCurrent();
+}
+
+}  // namespace velk

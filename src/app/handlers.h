@@ -1,0 +1,168 @@
+// What the rows of the command table run. A handler checks the selection, asks through the prompts, calls
+// an operation of a lower layer, flags the views and posts the status.
+#pragma once
+
+#include "app/editor.h"
+
+namespace velk::commands {
+
+// Documents.
+void newMap(Editor& editor);
+void openMaps(Editor& editor);
+void closeMap(Editor& editor);
+void saveMap(Editor& editor);
+void saveMapAs(Editor& editor);
+void exitEditor(Editor& editor);
+void nextMap(Editor& editor);
+void previousMap(Editor& editor);
+void reloadClasses(Editor& editor);
+void about(Editor& editor);
+
+// Selection.
+void selectAll(Editor& editor);
+void deselectAll(Editor& editor);
+void selectTotal(Editor& editor);
+void selectPartial(Editor& editor);
+void deleteSelection(Editor& editor);
+void nudgeSelection(Editor& editor, Nudge direction);
+void moveSelectionByStep(Editor& editor, int axis, int sign);
+template <Nudge direction>
+void nudge(Editor& editor) {
+  nudgeSelection(editor, direction);
+}
+template <int axis, int sign>
+void moveByStep(Editor& editor) {
+  moveSelectionByStep(editor, axis, sign);
+}
+
+// Hit list of the last pick.
+void toggleHitBrush(Editor& editor, int number);
+void selectAllHits(Editor& editor);
+void nextHit(Editor& editor);
+void previousHit(Editor& editor);
+template <int number>
+void toggleHit(Editor& editor) {
+  toggleHitBrush(editor, number);
+}
+
+// What the views show.
+void redrawAll(Editor& editor);
+void toggleNames(Editor& editor);
+void toggleCoordinates(Editor& editor);
+void toggleHits(Editor& editor);
+void toggleConnections(Editor& editor);
+void toggleOutline(Editor& editor);
+void toggleGroupMode(Editor& editor);
+void omitLights(Editor& editor);
+void omitEntities(Editor& editor);
+void omitWorld(Editor& editor);
+void omitWater(Editor& editor);
+void omitClip(Editor& editor);
+bool namesOn(const Editor& editor);
+bool coordinatesOn(const Editor& editor);
+bool hitsOn(const Editor& editor);
+bool connectionsOn(const Editor& editor);
+bool outlineOn(const Editor& editor);
+bool groupModeOn(const Editor& editor);
+bool lightsOmitted(const Editor& editor);
+bool entitiesOmitted(const Editor& editor);
+bool worldOmitted(const Editor& editor);
+bool waterOmitted(const Editor& editor);
+bool clipOmitted(const Editor& editor);
+
+// Grid, scale and orientation of the plan views. Presets are numbered as in planview/viewsteps.h.
+void setGrid(Editor& editor, int preset);
+void gridUp(Editor& editor);
+void gridDown(Editor& editor);
+void toggleGrid(Editor& editor);
+void toggleGridStyle(Editor& editor);
+void setScale(Editor& editor, int preset);
+void scaleUp(Editor& editor);
+void scaleDown(Editor& editor);
+void otherScale(Editor& editor);
+void switchMapView(Editor& editor);
+void flipView(Editor& editor);
+bool gridOn(const Editor& editor);
+bool gridSizeIs(const Editor& editor, int preset);
+bool scaleIsPreset(const Editor& editor, int preset);
+template <int preset>
+void gridPreset(Editor& editor) {
+  setGrid(editor, preset);
+}
+template <int preset>
+bool gridIs(const Editor& editor) {
+  return gridSizeIs(editor, preset);
+}
+template <int preset>
+void scalePreset(Editor& editor) {
+  setScale(editor, preset);
+}
+template <int preset>
+bool scaleIs(const Editor& editor) {
+  return scaleIsPreset(editor, preset);
+}
+
+// Textures on faces.
+void setFaceTexture(Editor& editor);
+void setBrushTexture(Editor& editor);
+void nextFace(Editor& editor);
+void previousFace(Editor& editor);
+void replaceTexture(Editor& editor);
+// One press of Replace in its dialog: asks once more, then renames.
+void replaceTextureBy(Editor& editor, const std::string& from, const std::string& to);
+void selectByTexture(Editor& editor);
+
+// The camera view: moving and choosing cameras, and how it draws. Render qualities are numbered as in
+// camera/movement.h, draw modes 0 wire, 1 flat, 2 texture.
+using MapCameraCommand = CameraOutcome (*)(map&, const Settings&);
+using CameraCommand = CameraOutcome (*)(map&);
+using CameraSettingCommand = CameraOutcome (*)(Settings&);
+using LensCommand = CameraOutcome (*)(WireLens&);
+void moveCamera(Editor& editor, MapCameraCommand command);
+void changeCamera(Editor& editor, CameraCommand command);
+void changeCameraSettings(Editor& editor, CameraSettingCommand command);
+void changeLens(Editor& editor, LensCommand command);
+void selectCameraNumber(Editor& editor, int number);
+void centreView(Editor& editor);
+void setDrawMode(Editor& editor, int mode);
+void nextDrawMode(Editor& editor);
+void setRenderQuality(Editor& editor, int index);
+void qualityWindow(Editor& editor);
+bool windowQualityOn(const Editor& editor);
+template <MapCameraCommand command>
+void cameraMove(Editor& editor) {
+  moveCamera(editor, command);
+}
+template <CameraCommand command>
+void cameraChange(Editor& editor) {
+  changeCamera(editor, command);
+}
+template <CameraSettingCommand command>
+void cameraSetting(Editor& editor) {
+  changeCameraSettings(editor, command);
+}
+template <LensCommand command>
+void cameraLens(Editor& editor) {
+  changeLens(editor, command);
+}
+template <int number>
+void selectCamera(Editor& editor) {
+  selectCameraNumber(editor, number);
+}
+template <int mode>
+void drawMode(Editor& editor) {
+  setDrawMode(editor, mode);
+}
+template <int mode>
+bool drawModeIs(const Editor& editor) {
+  return editor.settings().drawmode == mode;
+}
+template <int index>
+void renderQuality(Editor& editor) {
+  setRenderQuality(editor, index);
+}
+
+// The check mark of rows whose state does not exist yet.
+inline bool never(const Editor&) { return false; }
+
+}  // namespace velk::commands

@@ -1,0 +1,93 @@
+#include "app/handlers.h"
+#include "base/text.h"
+
+namespace velk::commands {
+namespace {
+
+constexpr const char* kMapFilter = "Map Files (*.map)|*.map|";
+
+bool saveAs(Editor& editor, MapDocument& document) {
+  const auto path = editor.prompts().chooseFile({.title = "Output Map File",
+                                                 .filter = kMapFilter,
+                                                 .directory = editor.settings().map_directory,
+                                                 .fileName = FileNamePart(document.model.name),
+                                                 .kind = FileChooser::Kind::Save});
+  return path && editor.saveDocument(document, *path);
+}
+
+bool save(Editor& editor, MapDocument& document) {
+  const std::string path = document.model.name;
+  if (path == editor.settings().newmap) return saveAs(editor, document);
+  return editor.saveDocument(document, path);
+}
+
+// Asks what becomes of unsaved changes; false when the map has to stay open.
+bool mayClose(Editor& editor, MapDocument& document) {
+  if (!document.model.modified) return true;
+  const Answer answer =
+      editor.prompts().ask({.caption = "Velk - Save Changes?",
+                            .text = Format("Save changes to map %s?", document.model.name.c_str()),
+                            .buttons = MessageBox::Buttons::YesNoCancel,
+                            .icon = MessageBox::Icon::Question});
+  if (answer == Answer::Yes) return save(editor, document);
+  return answer == Answer::No;
+}
+
+void switchMap(Editor& editor, int step) {
+  const int count = editor.mapCount();
+  if (count == 0) return;
+  editor.setCurrentIndex((editor.currentIndex() + step + count) % count);
+  editor.postStatus("Map switched...");
+}
+
+}  // namespace
+
+void newMap(Editor& editor) { editor.newMap(); }
+
+void openMaps(Editor& editor) {
+  const auto paths = editor.prompts().chooseFiles({.title = "Select MAP File",
+                                                   .filter = kMapFilter,
+                                                   .directory = editor.settings().map_directory,
+                                                   .fileName = {},
+                                                   .kind = FileChooser::Kind::OpenMany});
+  for (const std::string& path : paths) {
+    const bool full = editor.mapCount() >= MAX_MAPS;
+    editor.openFile(path);
+    if (full) return;
+  }
+}
+
+void closeMap(Editor& editor) {
+  MapDocument* document = editor.current();
+  if (document && mayClose(editor, *document)) editor.closeDocument(editor.currentIndex());
+}
+
+void saveMap(Editor& editor) {
+  if (MapDocument* document = editor.current()) save(editor, *document);
+}
+
+void saveMapAs(Editor& editor) {
+  if (MapDocument* document = editor.current()) saveAs(editor, *document);
+}
+
+void exitEditor(Editor& editor) {
+  for (int i = 0; i < editor.mapCount(); ++i) {
+    if (!mayClose(editor, *editor.document(i))) return;
+  }
+  editor.observer().exitRequested();
+}
+
+void nextMap(Editor& editor) { switchMap(editor, 1); }
+
+void previousMap(Editor& editor) { switchMap(editor, -1); }
+
+void reloadClasses(Editor& editor) { editor.reloadClasses(); }
+
+void about(Editor& editor) {
+  editor.prompts().ask({.caption = "About Velk...",
+                        .text = "Velk " VELK_VERSION "\nA level editor for Quake maps.",
+                        .buttons = MessageBox::Buttons::Ok,
+                        .icon = MessageBox::Icon::Information});
+}
+
+}  // namespace velk::commands

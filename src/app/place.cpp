@@ -1,0 +1,78 @@
+#include "app/place.h"
+
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <system_error>
+
+namespace velk {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array kPaths{&Settings::entity_qc_directory, &Settings::wad_directory,
+                            &Settings::map_directory,       &Settings::bat_directory,
+                            &Settings::bspbuild_directory,  &Settings::badtex};
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+fs::path homeFolder(const Surroundings& around) {
+  std::error_code ignored;
+  if (fs::exists(around.workingDirectory / "velk.ini", ignored)) return around.workingDirectory;
+  if (!around.velkHome.empty()) return fs::absolute(around.velkHome, ignored);
+  // Relative configuration folders are to be ignored.
+  if (fs::path(around.configHome).is_absolute()) return fs::path(around.configHome) / "velk";
+  return fs::path(around.userHome) / ".config" / "velk";
+}
+
+bool copyKit(const fs::path& kit, const fs::path& home) {
+  std::error_code failed;
+  fs::create_directories(home, failed);
+  if (!failed) fs::copy(kit, home, fs::copy_options::recursive | fs::copy_options::skip_existing, failed);
+  return !failed;
+}
+
+bool isRelative(const std::string& path) {
+  if (path.empty()) return false;
+  const bool drive = path.size() > 1 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0]));
+  return !drive && path[0] != '/' && path[0] != '\\';
+}
+
+}  // namespace
+
+Surroundings CurrentSurroundings() {
+  std::error_code ignored;
+  return {fs::current_path(ignored), environment("VELK_HOME"), environment("XDG_CONFIG_HOME"),
+          environment("HOME")};
+}
+
+EditorPlace FindPlace(const Surroundings& surroundings, const fs::path& kit) {
+  fs::path home = homeFolder(surroundings);
+  std::error_code ignored;
+  const fs::path drives = home / "drives";
+  if (!fs::exists(home / "velk.ini", ignored) && !kit.empty() && !copyKit(kit, home)) home = kit;
+  return {home, drives};
+}
+
+void ResolvePaths(Settings& settings, const fs::path& home) {
+  for (const auto member : kPaths) {
+    std::string& path = settings.*member;
+    if (!isRelative(path)) continue;
+    if (path.starts_with(".\\") || path.starts_with("./")) path.erase(0, 2);
+    path.insert(0, home.string() + '/');
+  }
+}
+
+Settings WithRelativePaths(Settings settings, const fs::path& home) {
+  const std::string prefix = home.string() + '/';
+  for (const auto member : kPaths) {
+    std::string& path = settings.*member;
+    if (path.starts_with(prefix)) path = ".\\" + path.substr(prefix.size());
+  }
+  return settings;
+}
+
+}  // namespace velk
