@@ -127,6 +127,10 @@ class Editor {
   // Draws the picture of the flat and textured modes into the camera view's renderer. Without a map
   // nothing happens.
   void renderCamera();
+  // Mouse input of the camera view.
+  PointerOutcome pressCamera(const PointerEvent& event);
+  PointerOutcome moveInCamera(const PointerEvent& event);
+  PointerOutcome releaseCamera(const PointerEvent& event);
   // The brush and face at a pixel of the camera view; none without a map.
   FacePick pickInCamera(Pixel at);
   // Flags, plan view centre and status of a camera command.

@@ -88,6 +88,11 @@ void Editor::renderCamera() {
   if (currentMap()) cameraView_.renderer.renderFrame(cameraScene(), renderSize());
 }
 
+// Nothing claims the camera view's mouse yet.
+PointerOutcome Editor::pressCamera(const PointerEvent&) { return {}; }
+PointerOutcome Editor::moveInCamera(const PointerEvent&) { return {}; }
+PointerOutcome Editor::releaseCamera(const PointerEvent&) { return {}; }
+
 FacePick Editor::pickInCamera(Pixel at) {
   if (!currentMap()) return {};
   const RenderSize size = renderSize();

@@ -1,0 +1,50 @@
+// The editor's questions in a script: answered from a queue, and kept for looking at.
+#pragma once
+
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "base/prompts.h"
+
+namespace velk {
+
+// Ends a script; the runner adds the line.
+struct ScriptFailure : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// A text as a script names it: in quotes, with quotes, backslashes and line ends written as \", \\ and \n.
+std::string ScriptQuoted(const std::string& text);
+
+// Every prompt takes one answer off the queue. Without one, or with one that does not fit, the prompt
+// throws ScriptFailure with its caption and text.
+class ScriptPrompts : public Prompts {
+ public:
+  // The words of one answer: paths, a text, "yes", "no", "ok", "cancel", or three numbers of a colour.
+  // `literal` keeps a single word "cancel" from meaning Cancel.
+  void queue(std::vector<std::string> words, bool literal);
+  int queued() const { return static_cast<int>(answers_.size()); }
+
+  // One line a prompt so far: kind, caption, text, answer.
+  const std::vector<std::string>& log() const { return log_; }
+
+  Answer ask(const MessageBox& box) override;
+  std::vector<std::string> chooseFiles(const FileChooser& chooser) override;
+  std::optional<std::string> input(const TextInput& input) override;
+  std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
+
+ private:
+  struct Queued {
+    std::vector<std::string> words;
+    bool literal = false;
+    bool cancels() const { return !literal && words.size() == 1 && words[0] == "cancel"; }
+  };
+  Queued take(const char* kind, const std::string& caption, const std::string& text);
+
+  std::deque<Queued> answers_;
+  std::vector<std::string> log_;
+};
+
+}  // namespace velk
