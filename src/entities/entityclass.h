@@ -2,7 +2,7 @@
 #pragma once
 
 #include <array>
-#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,11 +17,11 @@ namespace velk {
 
 struct EntityClass {
   std::string name;
-  bool fixedSize = true;               // a point with the box mins..maxs; false: built of brushes
-  std::array<float, 3> mins{};         // relative to the entity's origin, world units
+  bool fixedSize = true;        // a point with the box mins..maxs; false: built of brushes
+  std::array<float, 3> mins{};  // relative to the entity's origin, world units
   std::array<float, 3> maxs{};
-  std::array<float, 3> color{};        // red, green, blue, nominally 0..1
-  std::optional<std::string> comments; // free text, absent when the definition is malformed
+  std::array<float, 3> color{};          // red, green, blue, nominally 0..1
+  std::optional<std::string> comments;   // free text, absent when the definition is malformed
   std::array<std::string, 8> flagNames;  // spawnflag bits 0..7, at most 31 characters each
 
   // Name of a spawnflag bit; a bit outside 0..7 is fatal "EntityClass flagName: bad number".
@@ -62,9 +62,10 @@ class EntityClassList {
   int indexOf(const EntityClass& entityClass) const;
 
  private:
-  void scanFile(const std::filesystem::path& native, const std::string& shown);
+  void scanFile(const Paths& paths, const std::string& shown);
 
   std::vector<std::unique_ptr<EntityClass>> table_;
+  std::map<std::string_view, const EntityClass*> byName_;  // the first of each name
   EntityClass unknown_;
   bool sorted_ = true;
 };

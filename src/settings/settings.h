@@ -45,44 +45,44 @@ struct Settings {
   std::string newmap = "NEWMAP.MAP";
   std::string entity_qc_directory = "c:\\bc45\\velk3\\";  // also the editor's home directory
   std::string wad_directory = "c:\\qbsp\\";
-  std::string default_wad = "wizard.wad";                 // several parted by ';'
+  std::string default_wad = "wizard.wad";  // several parted by ';'
   std::string map_directory = "c:\\qbsp\\";
   std::string bat_directory = "c:\\qbsp\\";
   std::string bspbuild_directory = "c:\\velk\\";
   std::string badtex = "badtex.bmp";
-  std::string entities = "ents.qc";                       // several parted by ';'
+  std::string entities = "ents.qc";  // several parted by ';'
 
   // General and plan views.
-  int gridsize = 8;                  // world units
-  int drawmode = 0;                  // 0 wire, 1 flat, 2 texture
-  float stepsize = 64;               // world units
-  float far_clip_distance = -8192;   // view depth, negative
+  int gridsize = 8;                 // world units
+  int drawmode = 0;                 // 0 wire, 1 flat, 2 texture
+  float stepsize = 64;              // world units
+  float far_clip_distance = -8192;  // view depth, negative
   bool show_grid = false;
   bool show_coordinates = true;
   bool show_names = false;
   bool show_hits = false;
-  int gammashift = 0;                // 0..128, 0 is off
+  int gammashift = 0;  // 0..128, 0 is off
   bool groupmode = false;
   bool debugmode = false;
   bool showeye = false;
-  int drag_vertex = 0;               // 0 off, 1, 2
-  int select_delta = 4;              // pixels
+  int drag_vertex = 0;   // 0 off, 1, 2
+  int select_delta = 4;  // pixels
   bool vertex_use_grid = false;
   int steps_per_turn = 16;
   int vertex_drag_sensitivity = 32;
-  double face_drag_percent = 0;      // held as a fraction
+  double face_drag_percent = 0;  // held as a fraction
   int cloneDeltaX = 0;
   int cloneDeltaY = 0;
   bool query_wall_width = true;
   bool show_cameras = true;
   bool multi_select = true;
-  int render_width = 320;            // pixels
+  int render_width = 320;  // pixels
   int render_height = 200;
-  int texture_alignment = 0;         // 0 standard, 1 alternative choice at 45 degrees
+  int texture_alignment = 0;  // 0 standard, 1 alternative choice at 45 degrees
   bool lock_cameras = false;
-  float lightintensity = 32;         // 0..63
-  float ambientintensity = 16;       // 0..63
-  int flatlevel = 32;                // 0..63
+  float lightintensity = 32;    // 0..63
+  float ambientintensity = 16;  // 0..63
+  int flatlevel = 32;           // 0..63
   bool shadeflats = true;
   bool shadetextures = true;
   bool showtexturedrag = true;
@@ -93,7 +93,7 @@ struct Settings {
   // Main window.
   std::string velk_font = "Arial";
   int velk_font_size = 12;
-  int show_tabs = 1;                 // 0 off, 1 top, 2 bottom
+  int show_tabs = 1;  // 0 off, 1 top, 2 bottom
   int texture_list_width = 120;
 
   // Texture browser.
@@ -110,7 +110,7 @@ struct Settings {
   bool stretch_textures = false;
   bool nosmallstretch = true;
   bool animate = true;
-  int timerdelay = 250;              // milliseconds
+  int timerdelay = 250;  // milliseconds
   Colour brush_outline{255, 255, 255};
   Colour select_outline{255, 0, 0};
   Colour face_outline{255, 255, 0};
@@ -141,29 +141,29 @@ struct Settings {
   int entity_window_width = 200;
   int entity_comment_size = 50;
   int entity_keypair_size = 60;
-  int box_size = 15;                 // camera markers, pixels
+  int box_size = 15;  // camera markers, pixels
   bool show_dots = true;
   int num_dots = 6;
   int box_font_size = 9;
   bool use_crosshair = true;
   int drag_brushes = -1;
-  int select_delay = 1000;           // milliseconds
-  int start_set_scale = 100;         // key "start_set->scale", percent
-  int grid_style = 0;                // nonzero: dots
+  int select_delay = 1000;    // milliseconds
+  int start_set_scale = 100;  // key "start_set->scale", percent
+  int grid_style = 0;         // nonzero: dots
 
   // Beyond the classic keys; built-in values keep the classic behaviour.
-  bool wheel_zoom = false;           // the wheel zooms plan views at the cursor
-  bool middle_drag = false;          // the middle button drags plan views where no binding claims it
-  bool window_quality = false;       // the camera view renders at its window's own pixel size
+  bool wheel_zoom = false;      // the wheel zooms plan views at the cursor
+  bool middle_drag = false;     // the middle button drags plan views where no binding claims it
+  bool window_quality = false;  // the camera view renders at its window's own pixel size
   int undo_levels = 1;
 
   ViewColours colours;
 
   // Held here while the editor runs, never saved.
   ViewFilter filter;
-  float scale = 1.0f;                // plan views, pixels per world unit
-  bool connections = false;          // entity connections drawn in plan views
-  bool outline = false;              // face outlines in the camera view
+  float scale = 1.0f;        // plan views, pixels per world unit
+  bool connections = false;  // entity connections drawn in plan views
+  bool outline = false;      // face outlines in the camera view
 
   // The view-plane turn of one turn command, radians.
   double turnStep() const { return 6.283185307179586 / steps_per_turn; }
