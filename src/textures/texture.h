@@ -14,7 +14,8 @@ namespace velk {
 struct SkyRecord {
   int rowOffset = 0;
   int columnOffset = 0;
-  std::vector<unsigned char> pixels;  // twice the texture's width: front layer left, back layer right
+  int width = 0;                      // of a row of both layers
+  std::vector<unsigned char> pixels;  // the lump's: in each row first the front layer, then the back layer
 };
 
 struct Texture {

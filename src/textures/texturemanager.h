@@ -32,8 +32,8 @@ class TextureManager {
   // becomes the current one.
   Wad& openWad(const std::string& name, const WadProgressSink& progress);
   // Finds or loads the wads of the world's "wad" value (file names parted by ';', at most 8) and builds
-  // the map's textures.
-  void openMapWads(map& m, TextureSet& set, const WadProgressSink& progress);
+  // the map's textures. Returns how many wads were loaded.
+  int openMapWads(map& m, TextureSet& set, const WadProgressSink& progress);
 
   // Newest first.
   const std::deque<std::unique_ptr<Wad>>& wads() const { return wads_; }
