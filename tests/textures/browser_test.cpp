@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "textures/texturebrowser.h"
+
+namespace velk {
+namespace {
+
+TEST(BrowserSteps, ButtonsStepAndWrap) {
+  struct Case {
+    TextureField field;
+    float before;
+    int direction;
+    const char* after;
+  };
+  using enum TextureField;
+  for (const Case& c : {Case{ShiftS, 3, 1, "4"},
+                        {ShiftT, -0.4f, -1, "-1"},
+                        {Rotate, 0, -1, "355"},
+                        {Rotate, 355, 1, "0"},
+                        {Rotate, -700, 1, "25"},
+                        {Rotate, 1e30f, 1, nullptr},
+                        {ScaleS, 1, 1, "1.1"},
+                        {ScaleS, 0.1f, -1, "-0.1"},
+                        {ScaleT, -0.1f, 1, "0.1"},
+                        {ScaleT, 0.2f, -1, "0.1"},
+                        {ScaleT, 0, 1, "0.1"}}) {
+    TextureBrowser browser;
+    texturedef start = browser.current();
+    float* const values[] = {&start.shift[0], &start.shift[1], &start.rotate, &start.scale[0],
+                             &start.scale[1]};
+    *values[static_cast<size_t>(c.field)] = c.before;
+    browser.setCurrent(start);
+    browser.step(c.field, c.direction);
+    if (c.after) {
+      EXPECT_EQ(browser.fieldText(c.field), c.after) << c.before;
+    }
+    EXPECT_GE(browser.current().rotate, 0);
+    EXPECT_LT(browser.current().rotate, 360);
+  }
+}
+
+class BrowserSelection : public testing::Test {
+ protected:
+  BrowserSelection() {
+    for (const char* name : {"FLOOR", "WALL"}) {
+      wad.textures.push_back(std::make_unique<Texture>());
+      wad.textures.back()->name = name;
+    }
+    set.build({&wad});
+  }
+  Wad wad;
+  TextureRef badtex;
+  TextureSet set{badtex};
+  TextureBrowser browser;
+};
+
+TEST_F(BrowserSelection, SelectingKeepsTheNumbers) {
+  browser.takeFirstTexture(wad);
+  EXPECT_EQ(browser.current().name, "FLOOR");
+  browser.step(TextureField::Rotate, 1);
+  EXPECT_TRUE(browser.selectTexture(set, 1));
+  EXPECT_FALSE(browser.selectTexture(set, 2));
+  EXPECT_FALSE(browser.selectTexture(set, -1));
+  EXPECT_EQ(browser.currentIndex(), 1);
+  EXPECT_EQ(browser.current().name, "WALL");
+  EXPECT_EQ(browser.current().rotate, 5);
+  EXPECT_EQ(set.currentName, "WALL");
+  browser.wadLoaded();
+  EXPECT_EQ(browser.currentIndex(), 0);
+  EXPECT_EQ(browser.current().rotate, 0);
+}
+
+TEST_F(BrowserSelection, LiftingTakesTheDefinition) {
+  EXPECT_FALSE(browser.liftTexture({"Entity", 90, {1, 2}, {3, 4}}, &set));
+  EXPECT_EQ(browser.current().rotate, 0);
+  EXPECT_TRUE(browser.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set));  // not that exact name
+  EXPECT_EQ(browser.current().name, "wall");
+  EXPECT_EQ(browser.currentIndex(), 0);
+  EXPECT_TRUE(browser.liftTexture({"WALL", 45, {1, 2}, {3, 4}}, &set));
+  EXPECT_EQ(browser.currentIndex(), 1);
+  EXPECT_EQ(browser.current().rotate, 45);
+  EXPECT_TRUE(browser.liftTexture({"none", 0, {0, 0}, {1, 1}}, nullptr));
+  EXPECT_EQ(browser.current().name, "none");
+}
+
+}  // namespace
+}  // namespace velk

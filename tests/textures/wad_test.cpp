@@ -1,0 +1,204 @@
+#include "textures/wad.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fatal.h"
+#include "support/queuedprompts.h"
+#include "support/tempfolder.h"
+#include "support/wadbuilder.h"
+#include "textures/colormap.h"
+
+namespace velk {
+namespace {
+
+using test::QueuedPrompts;
+using test::TempFolder;
+using test::TextureLump;
+using test::WadBuilder;
+
+class WadTest : public testing::Test {
+ protected:
+  WadTest() {
+    settings.wad_directory = folder.directory("wads");
+    settings.entity_qc_directory = folder.directory("qc");
+  }
+
+  Wad load(const std::string& name) {
+    Wad wad;
+    loadWad(wad, name, services, random, [this](const WadProgress& p) { told.push_back(p.text); });
+    return wad;
+  }
+  // The textures of a wad with these contents.
+  Wad read(const std::string& contents) {
+    Wad wad;
+    wad.path = "a.wad";
+    loadTextures(contents, wad, 3, random, {});
+    return wad;
+  }
+
+  TempFolder folder;
+  Settings settings;
+  Paths paths;
+  QueuedPrompts prompts;
+  Random random;
+  WadServices services{settings, paths, prompts};
+  std::vector<std::string> told;
+};
+
+TEST_F(WadTest, TexturesComeSortedWithUpperCaseNames) {
+  const Wad wad =
+      read(WadBuilder().texture("wall2", 3, 2, "abcdef").texture("wall1").palette().texture("WALL2").bytes());
+  ASSERT_EQ(wad.count(), 3);
+  const Texture& second = *wad.textures[1];
+  EXPECT_EQ(wad.textures[0]->name, "WALL1");
+  EXPECT_EQ(second.name, "WALL2");
+  EXPECT_EQ(second.index, 0);
+  EXPECT_EQ(second.width, 3);
+  EXPECT_EQ(second.height, 2);
+  EXPECT_EQ(std::string(second.pixels.begin(), second.pixels.end()), std::string("abcdef\0\0\0", 9));
+  EXPECT_EQ(wad.textures[2]->index, 3);
+}
+
+TEST_F(WadTest, NamesWithoutATerminatorAreCut) {
+  EXPECT_EQ(read(WadBuilder().texture("abcdefghijklmnop").bytes()).textures[0]->name, "ABCDEFGHIJKLMNO");
+}
+
+TEST_F(WadTest, LumpsThatAreNoPictureBecomeBlank) {
+  const std::string lumps[] = {
+      WadBuilder().lump("a", 'D', TextureLump(2, 2, "abcd"), 256001).bytes(),
+      WadBuilder().lump("a", 'D', TextureLump(2, 2, "abcd"), -1).bytes(),
+      WadBuilder().lump("a", 'D', TextureLump(0, 2, "abcd")).bytes(),
+      WadBuilder().lump("a", 'D', TextureLump(2, 0, "abcd")).bytes(),
+      WadBuilder().lump("sky", 'D', TextureLump(1, 2, "abcd")).bytes(),
+  };
+  for (const std::string& contents : lumps) {
+    const Wad wad = read(contents);
+    const Texture& blank = *wad.textures[0];
+    EXPECT_EQ(blank.width, 32);
+    EXPECT_EQ(blank.height, 32);
+    EXPECT_EQ(blank.pixels, std::vector<unsigned char>(1027, 255));
+    EXPECT_EQ(blank.averageColour, (Colour{255, 255, 255}));
+  }
+}
+
+TEST_F(WadTest, SkiesAreHalvedAndComposed) {
+  const Wad wad =
+      read(WadBuilder().texture("Sky1", 5, 2, std::string("\1\2\13\14\11\3\0\15\16\11", 10)).bytes());
+  const Texture& sky = *wad.textures[0];
+  EXPECT_EQ(sky.width, 2);
+  EXPECT_EQ(sky.pixels, (std::vector<unsigned char>{3, 12, 1, 2, 0, 0, 0}));
+  ASSERT_TRUE(sky.sky);
+  EXPECT_EQ(sky.sky->rowOffset, 1);
+}
+
+TEST_F(WadTest, PlacesOutsideTheFileAreRefused) {
+  const std::string whole = WadBuilder().texture("a", 2, 2, "abcd").bytes();
+  auto patched = [&](size_t at, std::uint32_t value) {
+    return std::string(whole).replace(at, 4, test::LittleEndian(value));
+  };
+  const size_t entry = whole.size() - 32;
+  const std::string broken[] = {
+      whole.substr(0, 8),
+      whole.substr(0, whole.size() - 1),
+      patched(4, 2),  // lumps
+      patched(4, 0xffffffff),
+      patched(8, 0x7fffffff),  // directory
+      patched(8, 0xfffffff0),
+      patched(entry, 0x7fffffff),  // lump
+      patched(entry, 0xffffffff),
+      patched(12 + 16, 3000),  // width
+      patched(12 + 16, 0xffffffff),
+      patched(12 + 24, 0xffffffff),  // first mip
+  };
+  for (const std::string& contents : broken) EXPECT_FATAL(read(contents), "Error:  couldn't read bits...");
+  EXPECT_FATAL(read(patched(0, 0)), "Error: a.wad isn't a WAD type wadfile");
+}
+
+TEST_F(WadTest, EntriesThatShareTheirBytesCannotFillTheMemory) {
+  std::string contents = WadBuilder().texture("a", 500, 500).bytes();
+  const std::string entry = contents.substr(contents.size() - 32);
+  for (int i = 1; i < 2000; ++i) contents += entry;
+  contents.replace(4, 4, test::LittleEndian(2000));
+  EXPECT_FATAL(read(contents), "Error:  couldn't read bits...");
+}
+
+TEST_F(WadTest, FilesAreFoundInTheWadDirectory) {
+  folder.write("wads/base.wad", WadBuilder().texture("wall").palette().bytes("WAD3"));
+  folder.write("wads/gfx/deep.wad", WadBuilder().palette().bytes());
+  for (const char* name : {"base.wad", "gfx/base.wad", "\\quake\\id1\\gfx\\BASE.WAD", "gfx/deep.wad"}) {
+    load(name);
+    EXPECT_TRUE(prompts.choosers.empty()) << name;
+  }
+  EXPECT_EQ(load("base.wad").path, settings.wad_directory + "base.wad");
+}
+
+TEST_F(WadTest, AMissingWadIsAskedFor) {
+  prompts.answers = {folder.write("else.wad", WadBuilder().texture("wall").palette().bytes())};
+  EXPECT_EQ(load("gfx\\none.wad").count(), 1);
+  ASSERT_EQ(prompts.choosers.size(), 1u);
+  EXPECT_EQ(prompts.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
+  EXPECT_EQ(prompts.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
+  EXPECT_EQ(prompts.choosers[0].directory, settings.wad_directory);
+
+  EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
+  prompts.answers = {"/nowhere/none.wad"};
+  EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
+}
+
+TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
+  const std::string plain =
+      folder.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
+  const std::string lines = [] {
+    std::string text;
+    for (int i = 0; i < 256; ++i) text += "1 2 3\n";
+    return text;
+  }();
+  EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
+  EXPECT_EQ(prompts.choosers[0].title, "Select Quake.Pal File");
+  EXPECT_EQ(prompts.choosers[0].fileName, "quake.pal");
+  prompts.answers = {folder.write("own.pal", lines)};
+  EXPECT_EQ(load(plain).palette[2], 3);
+  folder.write("qc/QUAKE.PAL", lines);
+  EXPECT_EQ(load(plain).palette[765], 1);
+  EXPECT_EQ(prompts.choosers.size(), 2u);
+
+  const std::string own = folder.write("own.wad", WadBuilder().palette(test::GreyPalette() + "more").bytes());
+  settings.gammashift = 128;
+  EXPECT_EQ(load(own).palette[3 * 100], 177);
+  EXPECT_FATAL(load(folder.write("short.wad", "not a wad")),
+               "Error: " + folder.directory() + "short.wad isn't a wadfile");
+}
+
+TEST_F(WadTest, OutlinesAndProgress) {
+  settings.brush_outline = {100, 100, 100};
+  WadBuilder builder;
+  for (int i = 0; i < 6; ++i) builder.texture("t");
+  const std::string path = folder.write("t.wad", builder.palette().bytes());
+  EXPECT_EQ(load(path).outlines.brush, 100);
+  EXPECT_EQ(told, (std::vector<std::string>{"", "Loading " + path + " [0/7] ", "Loading " + path + " [5/7] ",
+                                            "Done..."}));
+}
+
+TEST_F(WadTest, AFailedReloadLeavesTheWadAsItWas) {
+  Wad wad = load(folder.write("t.wad", WadBuilder().texture("wall").palette().bytes()));
+  const std::string broken =
+      folder.write("broken.wad", WadBuilder().texture("wall", 9, 9, "").palette().bytes());
+  EXPECT_FATAL(loadWad(wad, broken, services, random, {}), "Error:  couldn't read bits...");
+  EXPECT_EQ(wad.count(), 1);
+}
+
+TEST_F(WadTest, ColormapIsWholeOrNone) {
+  EXPECT_FATAL(loadColormap(services), "You must select a valid colormap.lmp file.");
+  EXPECT_EQ(prompts.choosers[0].title, "Where is the colormap.lmp file?");
+  prompts.answers = {"/nowhere/colormap.lmp"};
+  EXPECT_FATAL(loadColormap(services), "Invalid colormap.lmp file.");
+  prompts.answers = {folder.write("own.lmp", std::string(16000, 'x'))};
+  EXPECT_EQ(loadColormap(services), nullptr);
+  folder.write("qc/colormap.lmp", std::string(16384, 'x'));
+  const auto table = loadColormap(services);
+  ASSERT_TRUE(table);
+  EXPECT_EQ(table->back(), 'x');
+}
+
+}  // namespace
+}  // namespace velk
