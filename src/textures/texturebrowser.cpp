@@ -74,8 +74,8 @@ void TextureBrowser::wadLoaded() {
   reset();
 }
 
-void TextureBrowser::takeFirstTexture(const Wad& wad) {
-  if (wad.count() > 0) current_.name = wad.textures.front()->name;
+void TextureBrowser::takeFirstTexture(const TextureSet& set) {
+  if (set.count() > 0) current_.name = set.at(0).texture->name;
 }
 
 bool TextureBrowser::selectTexture(TextureSet& set, int index) {

@@ -30,8 +30,8 @@ class TextureBrowser {
 
   // After a wad was loaded: the first texture's place, numbers reset; the name stays.
   void wadLoaded();
-  // Start-up: takes the name of the wad's first texture, when it has one.
-  void takeFirstTexture(const Wad& wad);
+  // Start-up: takes the name of the set's first texture, when it has one.
+  void takeFirstTexture(const TextureSet& set);
 
   // Makes the texture of that place current, its name that of the definition; numbers stay. Places
   // outside the set are ignored. True when there was one to select.
