@@ -1,0 +1,1 @@
+velk_fuzz(textures SOURCES textures.cpp USES textures)
