@@ -2,13 +2,13 @@
 #pragma once
 
 #include <memory>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "entities/entityclass.h"
 #include "model/brush.h"
+#include "model/ranges.h"
 
 namespace velk {
 
@@ -47,11 +47,11 @@ class entity {
   // that is given, for the caller to destroy.
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
   void destroyBrushes() { brushes_.clear(); }
-  auto brushes() const { return brushes_ | std::views::transform([](const auto& p) -> brush& { return *p; }); }
+  Pointees<brush> brushes() const { return Pointees(brushes_); }
   std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
 
   // Pairs, newest first, as they are written.
-  auto pairs() const { return std::views::reverse(pairs_); }
+  Reversed<KeyPair> pairs() const { return Reversed(pairs_); }
   // A key of 64 characters or more is fatal "setKey: %s > MAX_KEY", a value of 128 or more "setKey: %s >
   // MAX_VALUE". Leading bytes up to 32 of the key are dropped; an empty key is ignored.
   void setKey(std::string_view key, std::string_view value);

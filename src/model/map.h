@@ -99,7 +99,7 @@ class map {
   // Entities, owned; 0 is the world.
   int numentities() const { return static_cast<int>(entities_.size()); }
   entity* at(int index) const { return index >= 0 && index < numentities() ? entities_[static_cast<size_t>(index)].get() : nullptr; }
-  auto entities() const { return entities_ | std::views::transform([](const auto& p) -> entity& { return *p; }); }
+  Pointees<entity> entities() const { return Pointees(entities_); }
   entity* world() const { return at(0); }
   int indexOf(const entity* e) const;    // -1 when it is not there
   // A 1025th is fatal "map->addobject, too many brushes on entity...".
