@@ -1,0 +1,171 @@
+// Walls and floors of brick, stone and earth.
+#include <algorithm>
+#include <cmath>
+
+#include "catalogue.h"
+#include "materials.h"
+#include "noise.h"
+
+namespace velk::kit {
+namespace {
+
+// Green growth, thickest at the bottom or in patches all over.
+void GrowMoss(Surface& surface, bool fromBelow, uint32_t seed) {
+  surface.eachPart([&](double u, double v, Texel& t) {
+    const double cover = CloudNoise(u, v, 4, 4, 3, seed) + (fromBelow ? 0.5 * (v - 0.75) : 0.0);
+    const double ragged =
+        cover + 0.05 * (Hash(static_cast<int>(u * 97), static_cast<int>(v * 97), seed + 3) - 0.5);
+    if (ragged > 0.53) t.ramp = ramp::moss, t.level = t.level * 0.85 + 0.12 * (cover - 0.5);
+  });
+}
+
+Surface BandedWall(Masonry style, Ramp band, int bandHeight) {
+  style.shifted = true;
+  Surface wall = MakeMasonry(style);
+  Surface trim(style.width, bandHeight, band, 0.42);
+  trim.raise(trim.all(), 2.5, 3);
+  for (int x = 0; x < style.width; x += 16) trim.frame({x + 3, 4, 10, bandHeight - 8}, 1, 1.5);
+  trim.grain(0.12, style.seed);
+  trim.light();
+  const int top = (style.height - bandHeight) / 2;
+  wall.each({0, top, style.width, bandHeight}, [&](int x, int y, Texel& t) { t = trim.at(x, y - top); });
+  return wall;
+}
+
+Surface Plaster(Ramp ramp, double level, uint32_t seed) {
+  Surface surface(64, 64, ramp, level);
+  surface.roughen(2.2, 10, seed);
+  surface.mottle(0.22, 2, seed + 1);
+  surface.grain(0.08, seed + 2);
+  surface.eachPart([&](double u, double v, Texel& t) {
+    const double crack = std::abs(CloudNoise(u, v, 3, 3, 3, seed + 3) - 0.5);
+    if (crack < 0.008) t.level -= 0.16;
+  });
+  surface.light();
+  return surface;
+}
+
+Surface Marble(Ramp ramp, double level, uint32_t seed) {
+  Surface surface(64, 64, ramp, level);
+  surface.eachPart([&](double u, double v, Texel& t) {
+    const double vein = std::abs(std::sin((u + v + 0.7 * CloudNoise(u, v, 3, 3, 4, seed)) * 6.2832));
+    t.level += 0.14 * (std::pow(vein, 0.4) - 0.8) + 0.12 * (CloudNoise(u, v, 4, 4, 3, seed + 1) - 0.5);
+  });
+  surface.raise(surface.all(), 1.5, 2);
+  surface.light();
+  return surface;
+}
+
+// Square tiles in two tones.
+Surface Tiles(int size, int tile, Ramp first, Ramp second, double level, uint32_t seed) {
+  Surface surface(size, size, ramp::grey, 0.15);
+  for (int y = 0; y < size; y += tile) {
+    for (int x = 0; x < size; x += tile) {
+      const bool odd = (x / tile + y / tile) % 2 == 1;
+      surface.fill({x, y, tile - 1, tile - 1}, odd ? second : first, level + 0.1 * (Hash(x, y, seed) - 0.5));
+      surface.raise({x, y, tile - 1, tile - 1}, 1.6, 2);
+    }
+  }
+  surface.roughen(0.8, 12, seed + 1);
+  surface.mottle(0.2, 3, seed + 2);
+  surface.grain(0.06, seed + 3);
+  surface.light();
+  return surface;
+}
+
+Surface Grass() {
+  Surface surface(64, 64, ramp::moss, 0.38);
+  surface.eachPart([&](double u, double v, Texel& t) {
+    t.level += 0.35 * (CloudNoise(u, v, 4, 4, 3, 21) - 0.5) + 0.3 * (SmoothNoise(u, v, 32, 16, 22) - 0.5);
+    if (CloudNoise(u, v, 5, 5, 3, 23) > 0.62) t.ramp = ramp::wood;
+  });
+  surface.grain(0.16, 24);
+  return surface;
+}
+
+Surface Runes() {
+  Surface surface =
+      MakeMasonry({.stoneWidth = 64, .stoneHeight = 64, .stone = ramp::stone, .level = 0.36, .rough = 1.5});
+  Surface carved(64, 64, ramp::stone, 0);
+  carved.frame({8, 8, 48, 48}, 3, 2);
+  const double middle = 32;
+  carved.each(carved.all(), [&](int x, int y, Texel& t) {
+    const double d = std::hypot(x + 0.5 - middle, y + 0.5 - middle);
+    const bool spoke = std::abs(x - y) < 2 || std::abs(x + y - 63) < 2 || std::abs(x - 31.5) < 1;
+    if (std::abs(d - 17) < 1.5 || (spoke && d < 16) || d < 4) t.height -= 2, t.level -= 0.12;
+  });
+  carved.light(0.09, 0);
+  surface.each(surface.all(), [&](int x, int y, Texel& t) { t.level += carved.at(x, y).level; });
+  return surface;
+}
+
+}  // namespace
+
+void AddWalls(Catalogue& out) {
+  const Masonry brick{};
+  Masonry brown = brick, grey = brick, small = brick;
+  brown.stone = ramp::wood, brown.level = 0.46, brown.seed = 12;
+  grey.stone = ramp::grey, grey.level = 0.4, grey.seed = 13;
+  small.stoneWidth = 8, small.stoneHeight = 4, small.stone = ramp::sand, small.rise = 1.4, small.seed = 14;
+  Surface mossy = MakeMasonry(grey);
+  GrowMoss(mossy, true, 15);
+  out.push_back({"BRICK_RED", MakeMasonry(brick).image()});
+  out.push_back({"BRICK_BROWN", MakeMasonry(brown).image()});
+  out.push_back({"BRICK_GREY", MakeMasonry(grey).image()});
+  out.push_back({"BRICK_MOSS", mossy.image()});
+  out.push_back({"BRICK_SMALL", MakeMasonry(small).image()});
+
+  const Masonry block{.width = 128,
+                      .height = 128,
+                      .stoneWidth = 64,
+                      .stoneHeight = 32,
+                      .stone = ramp::stone,
+                      .joint = ramp::stone,
+                      .level = 0.42,
+                      .jointLevel = 0.14,
+                      .variety = 0.07,
+                      .rough = 2.2,
+                      .rise = 3,
+                      .gap = 2,
+                      .seed = 31};
+  Masonry cut = block, castle = block, sand = block, steel = block;
+  cut.width = cut.height = 64, cut.stoneWidth = 32, cut.stoneHeight = 16, cut.seed = 32;
+  castle.stone = ramp::grey, castle.stoneWidth = 32, castle.stoneHeight = 32, castle.level = 0.38,
+  castle.seed = 33;
+  sand.width = sand.height = 64, sand.stone = sand.joint = ramp::sand, sand.stoneWidth = 32,
+  sand.stoneHeight = 32;
+  sand.level = 0.44, sand.jointLevel = 0.2, sand.seed = 34;
+  steel.width = steel.height = 64, steel.stone = steel.joint = ramp::steel, steel.stoneWidth = 32,
+  steel.stoneHeight = 16;
+  steel.seed = 35;
+  Surface overgrown = MakeMasonry(block);
+  GrowMoss(overgrown, false, 36);
+  out.push_back({"STONE_BLOCK", MakeMasonry(block).image()});
+  out.push_back({"STONE_MOSS", overgrown.image()});
+  out.push_back({"STONE_CUT", MakeMasonry(cut).image()});
+  out.push_back({"STONE_CASTLE", MakeMasonry(castle).image()});
+  out.push_back({"STONE_BLUE", MakeMasonry(steel).image()});
+  out.push_back({"STONE_RUNE", Runes().image()});
+  out.push_back({"SAND_BLOCK", MakeMasonry(sand).image()});
+  out.push_back({"SAND_BAND", BandedWall(sand, ramp::rust, 20).image()});
+  out.push_back({"ROCK_GREY", MakeRock(128, ramp::grey, 0.36, 1.3, 41).image()});
+  out.push_back({"ROCK_BROWN", MakeRock(128, ramp::stone, 0.36, 1.4, 42).image()});
+  out.push_back({"ROCK_RED", MakeRock(64, ramp::rust, 0.36, 1.2, 43).image()});
+  out.push_back({"PLASTER_SAND", Plaster(ramp::sand, 0.48, 51).image()});
+  out.push_back({"PLASTER_GREY", Plaster(ramp::stone, 0.46, 52).image()});
+  out.push_back({"MARBLE_GREEN", Marble(ramp::teal, 0.36, 53).image()});
+  out.push_back({"MARBLE_RED", Marble(ramp::flesh, 0.36, 54).image()});
+}
+
+void AddFloors(Catalogue& out) {
+  out.push_back({"FLOOR_COBBLE", MakeCobbles(64, 5, ramp::stone, ramp::stone, 0.44, 61).image()});
+  out.push_back({"FLOOR_PEBBLE", MakeCobbles(64, 9, ramp::grey, ramp::stone, 0.4, 62).image()});
+  out.push_back({"FLOOR_FLAGS", MakeCobbles(128, 4, ramp::steel, ramp::stone, 0.42, 63).image()});
+  out.push_back({"FLOOR_TILE", Tiles(64, 32, ramp::stone, ramp::stone, 0.42, 64).image()});
+  out.push_back({"FLOOR_CHECK", Tiles(64, 16, ramp::stone, ramp::rust, 0.38, 65).image()});
+  out.push_back({"FLOOR_SLAB", Tiles(128, 64, ramp::grey, ramp::grey, 0.36, 66).image()});
+  out.push_back({"DIRT", MakeRock(64, ramp::wood, 0.36, 0.6, 67).image()});
+  out.push_back({"GRASS", Grass().image()});
+}
+
+}  // namespace velk::kit
