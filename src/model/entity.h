@@ -43,8 +43,8 @@ class entity {
   int indexOf(const brush* b) const;   // -1 when it is not there
   brush& addobject(std::unique_ptr<brush> added);
   // Takes the brush out; the last one moves into its slot. None when it is not in the list. An entity
-  // other than the world that is left empty leaves the map's list and is handed over in `emptied`, when
-  // that is given, for the caller to destroy.
+  // other than the world that is left empty leaves the map's list and is handed over in `emptied`, for the
+  // caller to destroy; when that is null it stays in the map, empty.
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
   void destroyBrushes() { brushes_.clear(); }
   Pointees<brush> brushes() const { return Pointees(brushes_); }
@@ -87,6 +87,9 @@ class entity {
   std::vector<std::unique_ptr<brush>> brushes_;
   std::vector<KeyPair> pairs_;   // oldest first
 };
+
+// The colour in which brushes of the entity's class are drawn flat.
+vec3 ClassColour(const entity& e);
 
 // Removes the brush from its entity and destroys it. A valid one leaves its depth as the map's work range;
 // an entity other than the world that is left empty is removed from the map and destroyed.

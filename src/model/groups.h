@@ -47,6 +47,8 @@ class GroupList {
   bool passes(int number) const { return number < 0 || visible(number); }
 
  private:
+  bool has(int index) const { return index >= 0 && index < count(); }
+
   std::vector<group> groups_;
 };
 

@@ -43,7 +43,8 @@ struct PerformValues {
   vec3 boxMins;                  // methods 6 and 7
   vec3 boxMaxs;
   vec3 offset;                   // method 9
-  // Methods that later layers carry out; without one, the method does nothing.
+  // Methods that later layers carry out; without one, the method does nothing. They leave their brush in
+  // its entity; the dispatcher destroys what 8 and 13 leave invalid.
   std::function<void(brush&)> cut;         // 8
   std::function<void(brush&)> floorSearch; // 10
   std::function<void(brush&)> draw;        // 12
@@ -69,6 +70,9 @@ enum class Method {
   SetHidden = 14,
   Pick = 15,
 };
+
+// Widens a box by the bounds of a brush.
+void WidenBounds(vec3& mins, vec3& maxs, const brush& by);
 
 class map {
  public:

@@ -29,6 +29,22 @@ struct TexCoords {
   float t = 0;
 };
 
+// Cosine and sine of a texture's rotation.
+struct TextureTurn {
+  double cosine = 1;
+  double sine = 0;
+};
+TextureTurn TurnOf(float degrees);
+
+// faceTexCoords for callers that project many points with the same rotation.
+inline TexCoords ProjectTexture(const texturedef& definition, const TextureTurn& turn, const TextureAxes& axes,
+                                const vec3& point) {
+  const double s = dot(point, axes.s);
+  const double t = dot(point, axes.t);
+  return {float((turn.cosine * s - turn.sine * t) / definition.scale[0] + definition.shift[0]),
+          float((turn.cosine * t + turn.sine * s) / definition.scale[1] + definition.shift[1])};
+}
+
 // Texture coordinates of a point; the scales must not be 0.
 TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, const vec3& point);
 

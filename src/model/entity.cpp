@@ -1,0 +1,143 @@
+#include "model/entity.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+
+#include "base/error.h"
+#include "base/text.h"
+#include "model/map.h"
+
+namespace velk {
+namespace {
+
+const std::string kNoValue;
+
+constexpr std::string_view kBlanks = " \t\n\v\f\r";
+
+// Reads the next number and takes it off `text`; false at the end or at anything else.
+bool TakeNumber(std::string_view& text, float& number) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  if (text.starts_with('+')) text.remove_prefix(1);
+  float read = 0;
+  const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), read);
+  if (error != std::errc() || !std::isfinite(read)) return false;
+  text.remove_prefix(size_t(rest - text.data()));
+  number = read;
+  return true;
+}
+
+std::string_view WithoutLeadingBlanks(std::string_view key) {
+  const auto start =
+      std::find_if(key.begin(), key.end(), [](char c) { return static_cast<unsigned char>(c) > 32; });
+  return key.substr(size_t(start - key.begin()));
+}
+
+}  // namespace
+
+entity::entity(map& parent) : parent_(&parent) {
+  if (parent.counters()) ++parent.counters()->entitiesConstructed;
+}
+
+entity::~entity() {
+  if (parent_->counters()) ++parent_->counters()->entitiesDestroyed;
+}
+
+int entity::indexOf(const brush* b) const {
+  const auto found =
+      std::find_if(brushes_.begin(), brushes_.end(), [&](const auto& p) { return p.get() == b; });
+  return found == brushes_.end() ? -1 : int(found - brushes_.begin());
+}
+
+brush& entity::addobject(std::unique_ptr<brush> added) {
+  if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
+  added->owner = this;
+  brushes_.push_back(std::move(added));
+  return *brushes_.back();
+}
+
+std::unique_ptr<brush> entity::removeObject(const brush* b, std::unique_ptr<entity>* emptied) {
+  const int index = indexOf(b);
+  if (index < 0) return nullptr;
+  std::unique_ptr<brush> removed = std::move(brushes_[size_t(index)]);
+  if (index != numbrushes() - 1) brushes_[size_t(index)] = std::move(brushes_.back());
+  brushes_.pop_back();
+  if (brushes_.empty() && emptied && !isWorld()) *emptied = parent_->removeEntity(this);
+  return removed;
+}
+
+std::unique_ptr<brush> entity::replaceAt(int index, std::unique_ptr<brush> with) {
+  with->owner = this;
+  std::swap(brushes_[size_t(index)], with);
+  return with;
+}
+
+void entity::setKey(std::string_view key, std::string_view value) {
+  if (key.size() >= MAX_KEY) Error("setKey: %s > MAX_KEY", std::string(key).c_str());
+  if (value.size() >= MAX_VALUE) Error("setKey: %s > MAX_VALUE", std::string(value).c_str());
+  key = WithoutLeadingBlanks(key);
+  if (key.empty()) return;
+  for (KeyPair& pair : pairs_) {
+    if (pair.key == key) {
+      pair.value = value;
+      return;
+    }
+  }
+  pairs_.push_back({std::string(key), std::string(value)});
+}
+
+void entity::removeKeyPair(std::string_view key) {
+  if (pairs_.empty()) return;
+  if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) == 0) {
+    std::printf("WARNING: removeKeyPair: %s not found\n", std::string(key).c_str());
+  }
+}
+
+const std::string& entity::valueOfKey(std::string_view key) const {
+  for (const KeyPair& pair : pairs_) {
+    if (pair.key == key) return pair.value;
+  }
+  return kNoValue;
+}
+
+vec3 entity::vectorOfKey(std::string_view key) const {
+  std::string_view text = valueOfKey(key);
+  vec3 v;
+  (void)(TakeNumber(text, v.x) && TakeNumber(text, v.y) && TakeNumber(text, v.z));
+  return v;
+}
+
+bool entity::isWorld() const { return parent_->world() == this; }
+
+std::unique_ptr<entity> entity::copy(map& target, Copy kind) const {
+  auto made = std::make_unique<entity>(target);
+  made->isModel = isModel;
+  made->pairs_ = pairs_;
+  if (kind != Copy::Rebuilt) made->source = this;
+  if (kind == Copy::PairsOnly) return made;
+
+  made->brushes_.reserve(brushes_.size());
+  for (const auto& original : brushes_) {
+    brush& b = made->addobject(std::make_unique<brush>(*original));
+    if (kind == Copy::Rebuilt) b.buildWindings();
+  }
+  if (made->numbrushes() != numbrushes()) Error("Copying entity, counts didn't match");
+  return made;
+}
+
+std::string entity::makeTargetName() {
+  if (const std::string& given = valueOfKey("targetname"); !given.empty()) return given;
+  std::int64_t largest = 0;
+  for (int i = 1; i < parent_->numentities(); ++i) {
+    const std::string& name = parent_->at(i)->valueOfKey("targetname");
+    if (name.starts_with('t'))
+      largest = std::max<std::int64_t>(largest, TextToInt(std::string_view(name).substr(1)));
+  }
+  std::string made = "t" + std::to_string(largest + 1);
+  setKey("targetname", made);
+  return made;
+}
+
+}  // namespace velk

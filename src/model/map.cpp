@@ -1,0 +1,160 @@
+#include "model/map.h"
+
+#include <algorithm>
+
+#include "base/error.h"
+#include "base/text.h"
+
+namespace velk {
+namespace {
+
+// Work range values must lie above the one, below the other.
+constexpr float kLowestWork = -2048;
+constexpr float kHighestWork = 2048;
+
+constexpr float kNoBound = 32765;
+
+}  // namespace
+
+map::map(const Settings& settings, const EntityClassList& classes, ObjectCounters* counters)
+    : settings_(settings), classes_(classes), counters_(counters) {}
+
+// Brushes handed over to others must not keep a list that goes.
+map::~map() { hits.clear(); }
+
+int map::indexOf(const entity* e) const {
+  const auto found =
+      std::find_if(entities_.begin(), entities_.end(), [&](const auto& p) { return p.get() == e; });
+  return found == entities_.end() ? -1 : int(found - entities_.begin());
+}
+
+entity& map::addobject(std::unique_ptr<entity> added) {
+  if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
+  entities_.push_back(std::move(added));
+  modified = true;
+  return *entities_.back();
+}
+
+std::unique_ptr<entity> map::removeEntity(const entity* e) {
+  modified = true;
+  const int index = indexOf(e);
+  if (index < 1) return nullptr;
+  std::unique_ptr<entity> removed = std::move(entities_[size_t(index)]);
+  if (index != numentities() - 1) entities_[size_t(index)] = std::move(entities_.back());
+  entities_.pop_back();
+  if (currentEntity_ == e) setCurrentEntity(world());
+  return removed;
+}
+
+entity* map::currentEntity() {
+  if (!currentEntity_) currentEntity_ = world();
+  return currentEntity_;
+}
+
+void map::setCurrentEntity(entity* e) {
+  modified = true;
+  const bool changed = e != currentEntity_;
+  currentEntity_ = e;
+  if (changed) notify(MapNotice::CurrentEntity);
+}
+
+brush* map::firstSelected() {
+  const auto selectedOf = [](const entity& e) -> brush* {
+    for (brush& b : e.brushes()) {
+      if (b.selected) return &b;
+    }
+    return nullptr;
+  };
+  const entity* current = currentEntity();
+  if (!current) return nullptr;
+  if (brush* found = selectedOf(*current)) return found;
+  for (int i = numentities() - 1; i >= 0; --i) {
+    if (at(i) == current) continue;
+    if (brush* found = selectedOf(*at(i))) return found;
+  }
+  return nullptr;
+}
+
+int map::selectedCount() {
+  const entity* current = currentEntity();
+  return current ? int(std::ranges::count_if(current->brushes(), &brush::selected)) : 0;
+}
+
+int map::totalSelected() const {
+  int count = 0;
+  for (const entity& e : entities()) count += int(std::ranges::count_if(e.brushes(), &brush::selected));
+  return count;
+}
+
+int map::brushCount() const {
+  int count = 0;
+  for (const entity& e : entities()) count += e.numbrushes();
+  return count;
+}
+
+vec3 map::selectionCentre() {
+  const bool selectedOnly = selectedCount() > 0;
+  vec3 low{kNoBound, kNoBound, kNoBound};
+  vec3 high{-kNoBound, -kNoBound, -kNoBound};
+  for (const entity& e : entities()) {
+    for (const brush& b : e.brushes()) {
+      if (!passesGroupFilter(b) || (selectedOnly && !b.selected)) continue;
+      WidenBounds(low, high, b);
+    }
+  }
+  return {float((double(low.x) + high.x) / 2), float((double(low.y) + high.y) / 2),
+          float((double(low.z) + high.z) / 2)};
+}
+
+void map::setWorkLow(const vec3& low) {
+  modified = true;
+  for (int axis = 0; axis < 3; ++axis) {
+    if (low[axis] > kLowestWork) workLow_[axis] = float(Snap(low[axis], settings_.gridsize));
+  }
+  notify(MapNotice::WorkRange);
+}
+
+void map::setWorkHigh(const vec3& high) {
+  modified = true;
+  for (int axis = 0; axis < 3; ++axis) {
+    if (high[axis] < kHighestWork) workHigh_[axis] = float(Snap(high[axis], settings_.gridsize));
+  }
+  notify(MapNotice::WorkRange);
+}
+
+void map::copyWorkRange(const map& other) {
+  workLow_ = other.workLow_;
+  workHigh_ = other.workHigh_;
+  notify(MapNotice::WorkRange);
+}
+
+bool map::isFiltered(const brush& b) const {
+  const ViewFilter& filter = settings_.filter;
+  if (b.owner && b.owner->isWorld()) {
+    if (filter.omitWorld) return true;
+  } else if (b.owner) {
+    if (filter.omitEntities) return true;
+    if (filter.omitLights && b.owner->valueOfKey("classname").starts_with("light")) return true;
+  }
+  const std::string& texture = b.brushTexture().name;
+  return (filter.omitClip && EqualNoCase(texture, "clip")) || (filter.omitWater && texture.starts_with('*'));
+}
+
+void map::initNew(const std::string& wads) {
+  clearEntities();
+  groups.clear();
+  auto made = std::make_unique<entity>(*this);
+  made->setClass("worldspawn");
+  made->setKey("wad", wads);
+  setCurrentEntity(&addobject(std::move(made)));
+  notify(MapNotice::Groups);
+  modified = false;
+}
+
+void map::clearEntities() {
+  hits.clear();
+  currentEntity_ = nullptr;
+  entities_.clear();
+}
+
+}  // namespace velk
