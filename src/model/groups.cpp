@@ -17,7 +17,7 @@ void GroupList::clear() { groups_.resize(1); }
 
 int GroupList::add(std::string_view name) {
   if (count() >= kMaxGroups) Error("Group:  Too many groups %i", count());
-  groups_.push_back({Shortened(name)});
+  groups_.push_back({Shortened(name), true, {}, 0});
   return count() - 1;
 }
 

@@ -1,0 +1,176 @@
+#include "model/winding.h"
+
+#include <cmath>
+
+#include "model/face.h"
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+WindingPtr Square(float z = 0) {
+  WindingPtr w = NewWinding(4);
+  const WindingPoint corners[] = {
+      {-32, 32, z, 0, 0}, {32, 32, z, 64, 0}, {32, -32, z, 64, 64}, {-32, -32, z, 0, 64}};
+  for (const WindingPoint& c : corners) (*w)[w->count++] = c;
+  return w;
+}
+
+TEST(PlaneTest, PointsOutOfTheSolidAndRefusesDegeneratePoints) {
+  plane p;
+  ASSERT_TRUE(PlaneFromPoints({0, 0, 64}, {0, 64, 64}, {64, 64, 64}, p));
+  EXPECT_TRUE(VecEqual(p.normal, {0, 0, 1}));
+  EXPECT_EQ(p.dist, 64);
+  EXPECT_FALSE(PlaneFromPoints({0, 0, 0}, {1, 1, 1}, {2, 2, 2}, p));
+  EXPECT_EQ(p.dist, 64);
+}
+
+TEST(WindingTest, HoldsAtMost64Corners) {
+  const WindingPtr w = NewWinding(64);
+  EXPECT_EQ(w->count, 0);
+  EXPECT_EQ((*w)[63].t, 0);
+  EXPECT_FATAL(NewWinding(65), "NewWinding: 65 points");
+}
+
+TEST(ClipTest, KeepsWhatIsInFrontOrOnThePlane) {
+  const double slant = std::sqrt(0.5);
+  const struct {
+    const char* what;
+    plane split;
+    int count;  // 0: nothing left
+    bool same;  // the winding comes back as it was
+  } cases[] = {
+      {"in front", {{1, 0, 0}, -40}, 4, true},
+      {"behind", {{1, 0, 0}, 40}, 0, false},
+      {"in the plane, within the tolerance", {{0, 0, 1}, 0.1f - 0.001f}, 4, true},
+      {"in the plane, at the other side of it", {{0, 0, 1}, -0.1f + 0.001f}, 4, true},
+      {"touching from behind", {{1, 0, 0}, 32}, 0, false},
+      {"touching in front", {{1, 0, 0}, -32}, 4, true},
+      {"cut through opposite edges", {{1, 0, 0}, 10}, 4, false},
+      {"a corner cut off", {{float(slant), float(slant), 0}, -30}, 5, false},
+      {"a corner left", {{float(slant), float(slant), 0}, 30}, 3, false},
+      {"through two corners", {{float(slant), float(slant), 0}, 0}, 3, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    WindingPtr w = Square();
+    const winding* before = w.get();
+    w = ClipWinding(std::move(w), c.split);
+    ASSERT_EQ(w != nullptr, c.count > 0);
+    if (w) {
+      EXPECT_EQ(w->count, c.count);
+      EXPECT_EQ(w.get() == before, c.same);
+    }
+  }
+}
+
+TEST(ClipTest, PutsCornersOnAxialPlanesExactlyAndInterpolatesTexture) {
+  const float third = 1.0f / 3;
+  for (const float direction : {1.0f, -1.0f}) {
+    const WindingPtr w = ClipWinding(Square(), {{direction, 0, 0}, direction * third});
+    ASSERT_EQ(w->count, 4);
+    int onPlane = 0;
+    for (const WindingPoint& p : *w) {
+      if (std::fabs(p.x) == 32) continue;
+      ++onPlane;
+      EXPECT_EQ(p.x, third);
+      EXPECT_FLOAT_EQ(p.s, 32 + third);
+    }
+    EXPECT_EQ(onPlane, 2);
+  }
+}
+
+TEST(ClipTest, KeepsTheOrderOfCorners) {
+  const WindingPtr w = ClipWinding(Square(), {{0, 1, 0}, 0});
+  ASSERT_EQ(w->count, 4);
+  const vec3 expected[] = {{-32, 32, 0}, {32, 32, 0}, {32, 0, 0}, {-32, 0, 0}};
+  for (int i = 0; i < 4; ++i) EXPECT_TRUE(VecEqual((*w)[i].position(), expected[i])) << i;
+}
+
+TEST(ClipTest, RefusesTooManyCorners) {
+  // A zigzag about the plane: every edge is cut.
+  const auto zigzag = [](int count) {
+    WindingPtr w = NewWinding(count);
+    for (; w->count < count; ++w->count)
+      (*w)[w->count] = {float(w->count), w->count % 2 ? 1.0f : -1.0f, 0, 0, 0};
+    return w;
+  };
+  EXPECT_EQ(ClipWinding(zigzag(8), {{0, 1, 0}, 0})->count, 12);
+  EXPECT_FATAL(ClipWinding(zigzag(10), {{0, 1, 0}, 0}), "ClipWinding: points exceeded estimate");
+  EXPECT_FATAL(ClipWinding(zigzag(62), {{0, 1, 0}, 0}), "NewWinding: 66 points");
+}
+
+face FaceOn(const vec3& normal, float dist) {
+  face f;
+  f.facePlane = {normal, dist};
+  f.texture.scale[0] = 2;
+  return f;
+}
+
+TEST(BasePolygonTest, IsASquareInThePlane) {
+  face f = FaceOn({0, 0, 1}, 64);
+  const WindingPtr w = BasePolyForPlane(f, 0);
+  ASSERT_EQ(w->count, 4);
+  const vec3 expected[] = {{8192, 8192, 64}, {8192, -8192, 64}, {-8192, -8192, 64}, {-8192, 8192, 64}};
+  for (int i = 0; i < 4; ++i) EXPECT_TRUE(VecEqual((*w)[i].position(), expected[i])) << i;
+  EXPECT_EQ(f.shade, 1.0f);
+  EXPECT_EQ(f.texture.scale[0], 2);
+  EXPECT_EQ(f.texture.scale[1], 1) << "a scale of 0 is replaced in the face";
+  EXPECT_EQ((*w)[0].s, 4096);
+  EXPECT_EQ((*w)[0].t, -8192);
+}
+
+TEST(BasePolygonTest, TakesTheEarlierOfEqualAxes) {
+  // With x chosen, "up" lies in the plane of z and the normal; with z it would lie along x.
+  const float third = float(std::sqrt(1.0 / 3));
+  face f = FaceOn({third, third, third}, 0);
+  const WindingPtr w = BasePolyForPlane(f, 0);
+  const vec3 up = subtract((*w)[0].position(), (*w)[3].position());
+  EXPECT_FLOAT_EQ(up.x, up.y);
+  EXPECT_GT(up.z, 0);
+}
+
+TEST(BasePolygonTest, NeedsAnAxis) {
+  face f = FaceOn({NAN, NAN, NAN}, 0);
+  EXPECT_FATAL(BasePolyForPlane(f, 0), "BasePolyForPlane: no axis found");
+}
+
+TEST(CheckFaceTest, AcceptsOrRefuses) {
+  const struct {
+    const char* what;
+    int corner;
+    WindingPoint moved;
+    bool accepted;
+  } cases[] = {
+      {"as it is", 0, {-32, 32, 0, 0, 0}, true},
+      {"at the upper limit", 1, {18000, 32, 0, 0, 0}, false},
+      {"at the lower limit", 0, {-18000, 32, 0, 0, 0}, true},
+      {"off the plane", 2, {32, -32, 0.11f, 0, 0}, false},
+      {"off the plane, other side", 2, {32, -32, -0.11f, 0, 0}, false},
+      {"nearly on the plane", 2, {32, -32, 0.09f, 0, 0}, true},
+      {"a short edge", 1, {-31.95f, 32, 0, 0, 0}, false},
+      {"an edge just long enough", 1, {-31.89f, 32, 0, 0, 0}, true},
+      {"hollow, within the tolerance", 1, {31.95f, 0, 0, 0, 0}, true},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    face f = FaceOn({0, 0, 1}, 0);
+    f.polygon = Square();
+    (*f.polygon)[c.corner] = c.moved;
+    EXPECT_EQ(CheckFace(f), c.accepted);
+  }
+}
+
+TEST(CheckFaceTest, FatalCases) {
+  face f = FaceOn({0, 0, 1}, 0);
+  EXPECT_FATAL(CheckFace(f), "CheckFace: no winding");
+  f.polygon = Square();
+  f.polygon->count = 2;
+  EXPECT_FATAL(CheckFace(f), "CheckFace: 2 points");
+  f.polygon->count = 4;
+  (*f.polygon)[1] = {-10, -10, 0, 0, 0};
+  EXPECT_FATAL(CheckFace(f), "CheckFace: non-convex");
+}
+
+}  // namespace
+}  // namespace velk
