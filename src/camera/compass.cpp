@@ -1,0 +1,44 @@
+#include "camera/compass.h"
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "base/text.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int kRingSegments = 24;
+constexpr int kTickLength = 4;
+constexpr double kNeedleHalfWidth = 4;
+
+Pixel At(Pixel centre, double angle, double radius) {
+  return {centre.x + Truncate(RoundHalfAway(radius * std::cos(angle))),
+          centre.y + Truncate(RoundHalfAway(radius * std::sin(angle)))};
+}
+
+}  // namespace
+
+void DrawCompass(Canvas& canvas, int canvasWidth, double yaw, Colour ring, Colour needle) {
+  constexpr double kPi = std::numbers::pi;
+  const Pixel centre{canvasWidth - kCompassInset, kCompassInset};
+  std::array<Pixel, kRingSegments> circle;
+  for (int i = 0; i < kRingSegments; ++i) {
+    circle[size_t(i)] = At(centre, 2 * kPi * i / kRingSegments, kCompassRadius);
+  }
+  canvas.polygon({ring, 1}, circle);
+  for (int quarter = 0; quarter < 4; ++quarter) {
+    const double angle = quarter * kPi / 2;
+    canvas.line({ring, 1}, At(centre, angle, kCompassRadius - kTickLength),
+                At(centre, angle, kCompassRadius));
+  }
+  const std::array<Pixel, 3> arrow = {At(centre, yaw, kCompassRadius - kTickLength - 1),
+                                      At(centre, yaw + kPi / 2, kNeedleHalfWidth),
+                                      At(centre, yaw - kPi / 2, kNeedleHalfWidth)};
+  canvas.polygon({needle, 1}, arrow);
+  canvas.line({ring, 1}, centre, At(centre, yaw + kPi, kCompassRadius / 2));
+}
+
+}  // namespace velk

@@ -1,0 +1,123 @@
+#include "camera/culling.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace velk {
+
+namespace {
+
+// Added to every half extent against rounding, world units.
+constexpr float kMargin = 0.0625f;
+// Nearer than this a brush counts as all over the picture.
+constexpr float kNearDepth = 1;
+
+bool AnyOmitted(const ViewFilter& filter) {
+  return filter.omitLights || filter.omitEntities || filter.omitWorld || filter.omitWater || filter.omitClip;
+}
+
+float Reach(const vec3& axis, const vec3& half) {
+  return std::abs(axis.x) * half.x + std::abs(axis.y) * half.y + std::abs(axis.z) * half.z;
+}
+
+float Along(const vec3& axis, const vec3& offset) {
+  return axis.x * offset.x + axis.y * offset.y + axis.z * offset.z;
+}
+
+}  // namespace
+
+bool IsShown(const RenderScene& scene, const brush& b) {
+  if (!scene.model.passesGroupFilter(b)) return false;
+  return !AnyOmitted(scene.settings.filter) || !scene.model.isFiltered(b);
+}
+
+brush& ShownShape(const RenderScene& scene, brush& b) {
+  if (!b.selected || !scene.preview) return b;
+  brush* copy = scene.preview(b);
+  return copy ? *copy : b;
+}
+
+BrushCuller::BrushCuller(const FrameView& view) : view_(view) {
+  const Eye& eye = view.eye;
+  for (int axis = 0; axis < 3; ++axis) {
+    for (int i = 0; i < 4; ++i) {
+      const vec3& normal = view.projection.frustum[i].normal;
+      const float component =
+          normal.x * eye.right[axis] + normal.y * eye.up[axis] + normal.z * eye.forward[axis];
+      planes_[axis][i] = component;
+      planeSizes_[axis][i] = std::abs(component);
+    }
+  }
+}
+
+bool BrushCuller::place(const brush& b, BrushDraw& draw) const {
+  if (b.invalid) {
+    // Its bounds say nothing, yet some of its faces may have polygons.
+    fillPicture(draw);
+    draw.onBorder = true;
+    draw.depth = 0;
+    return true;
+  }
+  const vec3& eye = view_.eye.origin;
+  const vec3 half{(b.maxs.x - b.mins.x) * 0.5f + kMargin, (b.maxs.y - b.mins.y) * 0.5f + kMargin,
+                  (b.maxs.z - b.mins.z) * 0.5f + kMargin};
+  const vec3 centre{(b.mins.x + b.maxs.x) * 0.5f - eye.x, (b.mins.y + b.maxs.y) * 0.5f - eye.y,
+                    (b.mins.z + b.maxs.z) * 0.5f - eye.z};
+  const Four middle = planes_[0] * centre.x + planes_[1] * centre.y + planes_[2] * centre.z;
+  const Four reach = planeSizes_[0] * half.x + planeSizes_[1] * half.y + planeSizes_[2] * half.z;
+  const Four farthest = middle + reach;
+  const Four closest = middle - reach;
+  draw.onBorder = false;
+  for (int i = 0; i < 4; ++i) {
+    if (farthest[i] <= float(SIDE_EPSILON)) return false;
+    draw.onBorder |= closest[i] < 0;
+  }
+  findOutline(centre, half, draw);
+  return draw.left < draw.right && draw.top < draw.bottom;
+}
+
+void BrushCuller::fillPicture(BrushDraw& draw) const {
+  draw.left = draw.top = 0;
+  draw.right = view_.projection.width;
+  draw.bottom = view_.projection.height;
+  draw.nearest = std::numeric_limits<float>::infinity();
+}
+
+// The box of the projected corners, widened by the picture's rounding.
+void BrushCuller::findOutline(const vec3& centre, const vec3& half, BrushDraw& draw) const {
+  const Projection& projection = view_.projection;
+  const Eye& eye = view_.eye;
+  const float z = Along(eye.forward, centre);
+  draw.depth = z - Reach(eye.forward, half);
+  fillPicture(draw);
+  if (draw.depth < kNearDepth) return;
+  draw.nearest = projection.halfWidth / draw.depth * 1.0001f;
+
+  constexpr Four kFirstSigns{1, -1, 1, -1};
+  constexpr Four kSecondSigns{1, 1, -1, -1};
+  const auto corners = [&](const vec3& axis, float third) {
+    return Along(axis, centre) + kFirstSigns * (axis.x * half.x) + kSecondSigns * (axis.y * half.y) +
+           third * (axis.z * half.z);
+  };
+  float left = 1e9f, right = -1e9f, top = 1e9f, bottom = -1e9f;
+  for (const float third : {-1.0f, 1.0f}) {
+    const Four w = projection.halfWidth / corners(eye.forward, third);
+    const Four x = corners(eye.right, third) * w;
+    const Four y = corners(eye.up, third) * w;
+    for (int i = 0; i < 4; ++i) {
+      left = std::min(left, x[i]);
+      right = std::max(right, x[i]);
+      bottom = std::max(bottom, -y[i]);
+      top = std::min(top, -y[i]);
+    }
+  }
+  const auto column = [&](float value) { return ColumnOf(value + projection.halfWidth); };
+  const auto row = [&](float value) { return ColumnOf(value + projection.centerY); };
+  draw.left = std::clamp(column(left) - 2, 0, projection.width);
+  draw.right = std::clamp(column(right) + 3, 0, projection.width);
+  draw.top = std::clamp(row(top) - 2, 0, projection.height);
+  draw.bottom = std::clamp(row(bottom) + 3, 0, projection.height);
+}
+
+}  // namespace velk

@@ -1,0 +1,54 @@
+// The table of the faces being drawn: their edges on the picture and how their pixels are coloured.
+#pragma once
+
+#include <vector>
+
+#include "camera/culling.h"
+#include "camera/kernels.h"
+#include "camera/polygon.h"
+
+namespace velk {
+
+// How the faces of one brush are drawn.
+struct BrushLook {
+  bool flat = false;
+  bool fixedColour = false;  // the box of a fixed-size entity
+  int colour = 0;            // its palette index
+};
+
+class FaceList {
+ public:
+  // Begins an empty table; scene and view must stay until it is done with.
+  void begin(const RenderScene& scene, const FrameView& view);
+
+  // Appends the faces of the brush that the eye sees and that cover a row, and notes them in `draw`.
+  void addBrush(BrushDraw& draw);
+  // Appends one face in that state, when the eye sees it.
+  void addFace(brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
+               bool onBorder);
+
+  BrushLook lookOf(const brush& b) const;
+
+  FaceTable table() const { return {faces_.data(), edges_.data()}; }
+  std::uint32_t count() const { return std::uint32_t(faces_.size()); }
+  FaceDraw& operator[](std::uint32_t number) { return faces_[number]; }
+
+ private:
+  Paint paintOf(face& f, FaceState state, const BrushLook& look) const;
+  const std::uint8_t* shadesOf(const face& f, const BrushLook& look) const;
+
+  const RenderScene* scene_ = nullptr;
+  const FrameView* view_ = nullptr;
+  const brush* currentBrush_ = nullptr;
+  std::vector<FaceDraw> faces_;
+  std::vector<Edge> edges_;
+  ViewPolygon polygon_;
+  ViewPolygon scratch_;
+};
+
+// The polygon of a face as the picture shows it, before projection; false when the eye does not see it.
+// onBorder: it may reach beyond the picture.
+bool VisiblePolygon(const FrameView& view, const face& f, bool onBorder, ViewPolygon& polygon,
+                    ViewPolygon& scratch);
+
+}  // namespace velk

@@ -1,0 +1,131 @@
+#include "camera/renderer.h"
+
+#include <algorithm>
+
+#include "camera/pick.h"
+#include "camera/picture.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int kLargestSize = 16384;
+// Below this focal length of the wire view the lens of the last picture stays.
+constexpr double kShortestFocalLength = 0.001;
+
+RenderSize ClampedSize(RenderSize size) {
+  return {std::clamp(size.width, 1, kLargestSize), std::clamp(size.height, 1, kLargestSize)};
+}
+
+}  // namespace
+
+struct Renderer::State {
+  const Kernels& kernels = BestKernels();
+  FrameView view;
+  Picture picture;
+  FaceList faces;
+  PictureDrawer drawer{kernels};
+  std::vector<BrushDraw> brushes;
+  RenderStatistics statistics;
+
+  void aim(const RenderScene& scene, RenderSize size);
+  void collectBrushes(const RenderScene& scene);
+};
+
+void Renderer::State::aim(const RenderScene& scene, RenderSize size) {
+  view.eye = MakeEye(scene.model.activeCamera());
+  const bool usable = scene.lens.focalLength() >= kShortestFocalLength;
+  if (usable || view.projection.width == 0) view.projection = MakeProjection(size.width, size.height);
+  view.projection.width = size.width;
+  view.projection.height = size.height;
+}
+
+void Renderer::State::collectBrushes(const RenderScene& scene) {
+  const BrushCuller culler(view);
+  brushes.clear();
+  BrushDraw draw;
+  std::uint32_t rank = 1;
+  VisitShownBrushes(scene, [&](brush& b) {
+    draw.shape = &b;
+    draw.rank = rank;
+    rank += MAX_FACES;
+    if (culler.place(b, draw)) brushes.push_back(draw);
+  });
+}
+
+Renderer::Renderer() : state_(std::make_unique<State>()) {}
+Renderer::~Renderer() = default;
+Renderer::Renderer(Renderer&&) noexcept = default;
+Renderer& Renderer::operator=(Renderer&&) noexcept = default;
+
+RenderSize RenderSizeFor(const Settings& settings, int windowWidth, int windowHeight) {
+  if (settings.window_quality) return {windowWidth, windowHeight};
+  return {settings.render_width, settings.render_height};
+}
+
+void Renderer::renderFrame(const RenderScene& scene, RenderSize size) {
+  State& s = *state_;
+  size = ClampedSize(size);
+  s.picture.resize(size.width, size.height);
+  s.aim(scene, size);
+  s.statistics = {};
+  s.faces.begin(scene, s.view);
+  s.collectBrushes(scene);
+  s.drawer.draw(s.picture, s.brushes, s.faces, DrawOver::Nothing, s.statistics);
+}
+
+void Renderer::renderBrush(const RenderScene& scene, brush& b) {
+  State& s = *state_;
+  if (s.picture.width == 0 || !IsShown(scene, b)) return;
+  s.aim(scene, {s.picture.width, s.picture.height});
+  s.faces.begin(scene, s.view);
+  s.brushes.assign(1, BrushDraw());
+  BrushDraw& draw = s.brushes[0];
+  draw.shape = &ShownShape(scene, b);
+  draw.rank = 1;
+  if (!BrushCuller(s.view).place(*draw.shape, draw)) return;
+  s.drawer.draw(s.picture, s.brushes, s.faces,
+                noDepthTest ? DrawOver::PictureWithoutDepthTest : DrawOver::Picture, s.statistics);
+}
+
+void Renderer::renderFace(const RenderScene& scene, brush& b, int face, FaceState state) {
+  State& s = *state_;
+  if (s.picture.width == 0 || face < 0 || face >= b.numfaces()) return;
+  s.aim(scene, {s.picture.width, s.picture.height});
+  s.faces.begin(scene, s.view);
+  s.brushes.assign(1, BrushDraw());
+  BrushDraw& draw = s.brushes[0];
+  draw.shape = &b;
+  draw.isSetUp = true;
+  draw.firstFace = s.faces.count();
+  if (!BrushCuller(s.view).place(b, draw)) return;
+  s.faces.addFace(b, face, state, s.faces.lookOf(b), 1, true);
+  draw.faceCount = s.faces.count() - draw.firstFace;
+  s.drawer.draw(s.picture, s.brushes, s.faces,
+                noDepthTest ? DrawOver::PictureWithoutDepthTest : DrawOver::Picture, s.statistics);
+}
+
+FacePick Renderer::pickFace(const RenderScene& scene, RenderSize size, int px, int py) {
+  State& s = *state_;
+  s.aim(scene, ClampedSize(size));
+  return PickFace(scene, s.view, px, py);
+}
+
+void Renderer::clearBuffers() { state_->picture.clear(); }
+
+int Renderer::width() const { return state_->picture.width; }
+int Renderer::height() const { return state_->picture.height; }
+
+std::span<const unsigned char> Renderer::frameBuffer() const {
+  const Picture& picture = state_->picture;
+  return {picture.frame.data(), size_t(picture.width) * size_t(picture.height)};
+}
+
+std::span<const float> Renderer::depthBuffer() const {
+  const Picture& picture = state_->picture;
+  return {picture.depth.data(), size_t(picture.width) * size_t(picture.height)};
+}
+
+const RenderStatistics& Renderer::statistics() const { return state_->statistics; }
+
+}  // namespace velk
