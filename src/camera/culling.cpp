@@ -42,9 +42,9 @@ BrushCuller::BrushCuller(const FrameView& view) : view_(view) {
   const Eye& eye = view.eye;
   for (int axis = 0; axis < 3; ++axis) {
     for (int i = 0; i < 4; ++i) {
-      const vec3& normal = view.projection.frustum[i].normal;
+      const double* normal = view.projection.frustum[i].normal;
       const float component =
-          normal.x * eye.right[axis] + normal.y * eye.up[axis] + normal.z * eye.forward[axis];
+          float(normal[0] * eye.right[axis] + normal[1] * eye.up[axis] + normal[2] * eye.forward[axis]);
       planes_[axis][i] = component;
       planeSizes_[axis][i] = std::abs(component);
     }

@@ -7,46 +7,6 @@ namespace velk {
 
 namespace {
 
-enum class Side : signed char { Back = -1, On = 0, Front = 1 };
-
-struct Sides {
-  double distance[ViewPolygon::kCapacity + 1];
-  Side side[ViewPolygon::kCapacity + 1];
-  bool anyFront = false;
-  bool anyBack = false;
-};
-
-void Classify(const ViewPolygon& polygon, const plane& split, Sides& sides) {
-  for (int i = 0; i < polygon.count; ++i) {
-    const double d = dot(polygon.points[i].position(), split.normal) - split.dist;
-    sides.distance[i] = d;
-    sides.side[i] = d > SIDE_EPSILON ? Side::Front : (d < -SIDE_EPSILON ? Side::Back : Side::On);
-    sides.anyFront |= sides.side[i] == Side::Front;
-    sides.anyBack |= sides.side[i] == Side::Back;
-  }
-  sides.distance[polygon.count] = sides.distance[0];
-  sides.side[polygon.count] = sides.side[0];
-}
-
-WindingPoint Between(const WindingPoint& a, const WindingPoint& b, double f) {
-  const auto mix = [f](float from, float to) { return float(from + f * (double(to) - from)); };
-  return {mix(a.x, b.x), mix(a.y, b.y), mix(a.z, b.z), mix(a.s, b.s), mix(a.t, b.t)};
-}
-
-// The part in front of the plane, of a polygon with corners on both sides.
-void CutInto(const ViewPolygon& polygon, const Sides& sides, ViewPolygon& part) {
-  part.count = 0;
-  for (int i = 0; i < polygon.count; ++i) {
-    if (part.count + 2 > ViewPolygon::kCapacity) return;
-    const WindingPoint& corner = polygon.points[i];
-    if (sides.side[i] != Side::Back) part.points[part.count++] = corner;
-    if (sides.side[i] == Side::On) continue;
-    if (sides.side[i + 1] == Side::On || sides.side[i + 1] == sides.side[i]) continue;
-    const double f = sides.distance[i] / (sides.distance[i] - sides.distance[i + 1]);
-    part.points[part.count++] = Between(corner, polygon.points[(i + 1) % polygon.count], f);
-  }
-}
-
 struct ScreenPolygon {
   int count = 0;
   int rows[ViewPolygon::kCapacity];
@@ -103,17 +63,17 @@ void MoveToView(const Eye& eye, const winding& w, ViewPolygon& polygon) {
 }
 
 bool CutToPicture(const Projection& projection, ViewPolygon& polygon, ViewPolygon& scratch) {
-  Sides sides;
-  for (const plane& edge : projection.frustum) {
-    sides.anyFront = sides.anyBack = false;
-    Classify(polygon, edge, sides);
-    if (!sides.anyBack) continue;
-    if (!sides.anyFront) return false;
-    CutInto(polygon, sides, scratch);
-    polygon.count = scratch.count;
-    std::copy_n(scratch.points, scratch.count, polygon.points);
+  CornerSides sides;
+  for (const SplitPlane& edge : projection.frustum) {
+    FindSides(polygon.points, polygon.count, edge, sides);
+    if (sides.back == 0) continue;
+    if (sides.front == 0) return false;
+    const int count = CutCorners(polygon.points, polygon.count, edge, sides, scratch.points);
+    // The largest windings lose a corner's sliver rather than outgrow what can be cut again.
+    polygon.count = std::min(count, WINDING_MAX_POINTS);
+    std::copy_n(scratch.points, polygon.count, polygon.points);
   }
-  return polygon.count > 0;
+  return true;
 }
 
 bool MakeOutline(const Projection& projection, const ViewPolygon& polygon, std::vector<Edge>& edges,

@@ -9,9 +9,9 @@
 
 namespace velk {
 
-// A polygon with room for what each of the four cuts may add to the largest winding.
+// A polygon with room for what a cut may write.
 struct ViewPolygon {
-  static constexpr int kCapacity = WINDING_MAX_POINTS + 4 * 4;
+  static constexpr int kCapacity = WINDING_MAX_POINTS + CLIP_EXTRA_POINTS + 1;
   int count = 0;
   WindingPoint points[kCapacity];
 };

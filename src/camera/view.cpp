@@ -39,9 +39,9 @@ vec3 Row(const Matrix& matrix, int row) {
 // A quarter turn held in a float misses its axis by a hair; faces square to it are to be lit as such.
 float WithoutHair(double component) { return std::abs(component) < 1e-6 ? 0.0f : float(component); }
 
-plane Through(double x, double y, double z) {
+SplitPlane Through(double x, double y, double z) {
   const double size = std::sqrt(x * x + y * y + z * z);
-  return {{float(x / size), float(y / size), float(z / size)}, 0};
+  return SplitPlane({{float(x / size), float(y / size), float(z / size)}, 0});
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "model/camera.h"
 #include "model/plane.h"
+#include "model/polygon.h"
 #include "model/winding.h"
 
 namespace velk {
@@ -33,7 +34,7 @@ struct Projection {
   float centerY = 0;
   // In view space, through the eye: right, left, top and bottom edge of the picture. Normals have unit
   // length, as those of every plane; they point into the picture.
-  plane frustum[4];
+  SplitPlane frustum[4];
 };
 
 Projection MakeProjection(int width, int height);

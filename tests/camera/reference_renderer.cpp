@@ -26,7 +26,8 @@ class SideWalk {
     const ScreenVertex& to = polygon_[next()];
     const float rows = float(rowOf(next()) - firstRow_);
     const auto along = [&](float a, float b) { return a + float(row - firstRow_) * ((b - a) / rows); };
-    return {along(from.x, to.x), along(from.y, to.y), along(from.w, to.w), along(from.sw, to.sw), along(from.tw, to.tw)};
+    return {along(from.x, to.x), along(from.y, to.y), along(from.w, to.w), along(from.sw, to.sw),
+            along(from.tw, to.tw)};
   }
 
  private:
@@ -102,8 +103,8 @@ void ReferenceRenderer::renderFace(const RenderScene& scene, brush& b, int index
     (*w)[i].y = p.y;
     (*w)[i].z = p.z;
   }
-  for (const plane& edge : projection_.frustum) {
-    w = ClipWinding(std::move(w), edge);
+  for (const SplitPlane& edge : projection_.frustum) {
+    w = ClipWinding(std::move(w), {{float(edge.normal[0]), float(edge.normal[1]), float(edge.normal[2])}, 0});
     if (!w) return;
   }
   std::vector<ScreenVertex> polygon;
@@ -111,7 +112,8 @@ void ReferenceRenderer::renderFace(const RenderScene& scene, brush& b, int index
   rasterize(polygon, fillFor(scene, b, f, state));
 }
 
-ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, brush& b, face& f, FaceState state) const {
+ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, brush& b, face& f,
+                                                   FaceState state) const {
   const Settings& settings = scene.settings;
   const RenderAssets& assets = scene.assets;
   const bool isBox = !b.owner->isModel;
@@ -119,14 +121,17 @@ ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, bru
   fill.colormap = assets.colormap;
   fill.flat = settings.drawmode == 1 || isBox;
   fill.shadeRow = ShadeRow(eye_, f.facePlane.normal, settings.lightintensity, settings.ambientintensity);
-  if (isBox || !(fill.flat ? settings.shadeflats : settings.shadetextures)) fill.shadeRow = settings.flatlevel;
+  if (isBox || !(fill.flat ? settings.shadeflats : settings.shadetextures))
+    fill.shadeRow = settings.flatlevel;
   if (!f.cache && assets.makeTextureRef) f.cache = assets.makeTextureRef(f.texture.name);
   fill.texture = f.cache.get();
   if (!fill.texture) fill.flat = true;
   fill.flatColour = fill.texture ? fill.texture->paletteIndex : 255;
   if (isBox) {
     const Colour colour{int(b.color.x * 255.0), int(b.color.y * 255.0), int(b.color.z * 255.0)};
-    fill.flatColour = assets.palette ? nearestPaletteIndex(assets.palette, 256, colour.red, colour.green, colour.blue) : 255;
+    fill.flatColour = assets.palette
+                          ? nearestPaletteIndex(assets.palette, 256, colour.red, colour.green, colour.blue)
+                          : 255;
   }
   fill.outlined = state != FaceState::Plain || settings.outline;
   const int outlines[] = {assets.brushOutline, assets.selectionOutline, assets.faceOutline};
@@ -161,7 +166,9 @@ void ReferenceRenderer::drawSpan(int row, const ScreenVertex& a, const ScreenVer
     int colour = fill.flatColour;
     if (!fill.flat) {
       const float depthOf = 1 / w;
-      colour = fill.texture->pixels[TexelIndex(*fill.texture, along(a.sw, b.sw) * depthOf, along(a.tw, b.tw) * depthOf)];
+      colour =
+          fill.texture
+              ->pixels[TexelIndex(*fill.texture, along(a.sw, b.sw) * depthOf, along(a.tw, b.tw) * depthOf)];
     }
     colour = Shaded(fill.colormap, fill.shadeRow, colour);
     if (fill.outlined && (x == first || x == stop - 1)) colour = fill.outlineColour;
