@@ -1,0 +1,212 @@
+#include "mapfile/mapreader.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "mapfile/samplemap.h"
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+using test::Cube;
+using test::CubeFaces;
+using test::SampleMap;
+
+const std::string kWorld = "{\n\"classname\" \"worldspawn\"\n" + Cube(0) + "}\n";
+const std::string kThreeGroups =
+    "//VELKGROUPS0003\n//VELKGROUPINFO\"None\"\n//VELKGROUPINFO\"a\"\n//VELKGROUPINFO\"b\"\n";
+
+std::string Warnings(SampleMap& sample, const std::string& text, MapReadResult* result = nullptr) {
+  testing::internal::CaptureStdout();
+  const MapReadResult read = sample.read(text);
+  if (result != nullptr) *result = read;
+  return testing::internal::GetCapturedStdout();
+}
+
+TEST(MapReader, ReadsEntitiesWithTheirBrushesAndBoxes) {
+  SampleMap sample("\xEF\xBB\xBF" + kWorld +
+                   "{ \"classname\" \"light\"\n\"origin\" \"8 16 24\" }\n"
+                   "{\n\"classname\"\t\"func_door\"\n" +
+                   Cube(1) + Cube(2) + "\"speed\" 100 }");
+  map& m = sample.m;
+  ASSERT_EQ(m.numentities(), 3);
+  EXPECT_TRUE(m.world()->isModel);
+  EXPECT_EQ(m.currentEntity(), m.world());
+  EXPECT_FALSE(m.modified);
+  EXPECT_FALSE(m.at(1)->isModel);
+  ASSERT_EQ(m.at(1)->numbrushes(), 1);
+  EXPECT_EQ(m.at(1)->at(0)->mins.z, 16);
+  EXPECT_EQ(m.at(1)->at(0)->color.y, 1);
+  ASSERT_EQ(m.at(2)->numbrushes(), 2);
+  EXPECT_EQ(m.at(2)->at(1)->mins.x, 128);
+  EXPECT_EQ(m.at(2)->at(1)->color.y, 0.5f);
+  EXPECT_EQ(m.at(2)->valueOfKey("speed"), "100");
+}
+
+TEST(MapReader, AnEmptyTextGivesABareWorld) {
+  for (const char* text : {"", "\n", "// nothing", "\x1A", "//VELKGROUPS0001"}) {
+    SampleMap sample(text);
+    ASSERT_EQ(sample.m.numentities(), 1) << text;
+    EXPECT_EQ(sample.m.world()->numbrushes(), 0);
+    EXPECT_EQ(sample.m.world()->valueOfKey("classname"), "worldspawn");
+  }
+}
+
+TEST(MapReader, GroupCommentsReachTheirBrushes) {
+  const auto inGroup = [](const char* comment, int place) {
+    return std::string("{\n") + comment + CubeFaces(place) + "}\n";
+  };
+  SampleMap sample(kThreeGroups + "{\n\"classname\" \"worldspawn\"\n" + inGroup("//\"0001\"\n", 0) +
+                   inGroup("", 1) + inGroup("// words\n", 2) + inGroup("//\"0007\"\n", 3) +
+                   "}\n{\n//\"0001\"\n\"classname\" \"light\"\n}\n");
+  std::vector<int> groups;
+  for (entity& e : sample.m.entities()) {
+    for (const brush& b : e.brushes()) groups.push_back(b.group);
+  }
+  EXPECT_EQ(groups, (std::vector<int>{1, 1, 0, 2, 1}));
+}
+
+TEST(MapReader, GroupNamesAreCutToTheirLimit) {
+  SampleMap sample;
+  const std::string text = "//VELKGROUPS0001\n//VELKGROUPINFO\"abcdefghijklmnopqrst\" \"1 2 3\" \"1\"\n";
+  sample.read(text);
+  EXPECT_EQ(sample.m.groups.at(0).name, "abcdefghijklmno");
+  EXPECT_EQ(sample.m.groups.colour(0), (Colour{1, 2, 3}));
+  sample.read(text, {.groupNameLength = GroupList::kMaxName});
+  EXPECT_EQ(sample.m.groups.at(0).name, "abcdefghijklmnopqrst");
+}
+
+TEST(MapReader, TellsWhatItChanged) {
+  struct Case {
+    std::string text;
+    const char* warnings;
+    int brushes;
+  };
+  const std::string flat = "{\n( 0 0 0 ) ( 1 0 0 ) ( 0 1 0 ) a 0 0 0 1 1\n}\n";
+  const std::string fractions =
+      "{\n( 0.5 64.5 64 ) ( 0.25 0 64 ) ( 0 0 0 ) a 0 0 0 1 1\n" + CubeFaces(0).substr(5) + "}\n";
+  const Case cases[] = {
+      {kWorld, "", 1},
+      {"{\n\"classname\" \"light\"\n" + Cube(0) + "}\n", "WARNING:Entity with brushes and wrong model type\n",
+       1},
+      {"{\n\"classname\" \"mystery\"\n}\n", "WARNING:Entity with no brushes and esize_model\n", 1},
+      {"{\n" + Cube(0) + flat + "}\n", "WARNING: 1 brushes without a valid solid were left out\n", 1},
+      {"{\n" + Cube(0) + "{\n( 0.5 64.5 64 ) ( 0 0.25 64 ) ( 0 0 0.0 ) a 0 0 0 1 1\n" + CubeFaces(0) +
+           "}\n}\n",
+       "WARNING: 2 plane points had fractions, which were cut off\n", 2},
+      {"{\n" + Cube(0), "WARNING: the file ends inside an entity\n", 1},
+      {"{\n{\n" + CubeFaces(0), "WARNING: the file ends inside an entity\n", 1},
+  };
+  for (const Case& c : cases) {
+    SampleMap sample;
+    EXPECT_EQ(Warnings(sample, c.text), c.warnings) << c.text;
+    EXPECT_EQ(sample.m.brushCount(), c.brushes) << c.text;
+  }
+}
+
+TEST(MapReader, ABoxlessEntityGetsOneWithTheCurrentTexture) {
+  SampleMap sample;
+  MapReadOptions options;
+  options.currentTexture.name = "current";
+  sample.read("{\n\"origin\" \"100 0 0\"\n}\n", options);
+  const brush& box = *sample.m.world()->at(0);
+  EXPECT_EQ(box.mins.x, 92);
+  EXPECT_EQ(box.maxs.z, 8);
+  EXPECT_EQ(box.brushTexture().name, "current");
+}
+
+TEST(MapReader, EndsMalformedTextWithItsMessage) {
+  std::string manyFaces = "{\n{\n";
+  for (int i = 0; i < 11; ++i) manyFaces += CubeFaces(0);
+  std::string manyEntities = kWorld;
+  for (int i = 0; i < MAX_ENTITIES; ++i) manyEntities += "{\n\"classname\" \"light\"\n}\n";
+  std::string manyGroups = "//VELKGROUPS9999\n";
+  for (int i = 0; i < 257; ++i) manyGroups += "//VELKGROUPINFO\"g\"\n";
+  const std::pair<std::string, std::string> cases[] = {
+      {"worldspawn", "initFromTokens: { not found, worldspawn instead"},
+      {"{\n\"classname\"\n", "Line 2 is incomplete"},
+      {"{\n\"classname\" \"worldspawn", "EOF inside quoted token"},
+      {"{\n{\nbrushDef\n", "parsing map file"},
+      {"{\n{\n( 0 0 0 ) ( 1 1 1 ) ( 2 2 2 ) a 0 0 0 1 1 5\n", "parsing map file"},
+      {manyFaces, "Line 67: brush with more than 64 faces"},
+      {manyEntities, "map->addobject, too many brushes on entity..."},
+      {manyGroups, "Group:  Too many groups 256"},
+      {"{\n\"" + std::string(64, 'k') + "\" \"v\"\n}", "setKey: " + std::string(64, 'k') + " > MAX_KEY"},
+      {"{\n\"k\" \"" + std::string(128, 'v') + "\"\n}", "setKey: " + std::string(128, 'v') + " > MAX_VALUE"},
+      {kWorld + std::string("\n\0\n{", 4), "[test.map] is not a text file, line 12 holds a zero byte"},
+  };
+  for (const auto& [text, message] : cases) {
+    SampleMap sample;
+    EXPECT_FATAL(sample.read(text), message);
+  }
+}
+
+TEST(MapReader, SkipsZeroFlagsAndTrailingZeroBytes) {
+  const std::string flags = "{\n{\n" + CubeFaces(0, "a 0 0 0 1 1 0 0 0") + "}\n}\n" + std::string(8, '\0');
+  SampleMap sample(flags);
+  EXPECT_EQ(sample.m.world()->at(0)->numfaces(), 6);
+}
+
+TEST(MapReader, CamerasStandAtThePlayerStartWhenTheFileHasNone) {
+  const std::string start =
+      "{\n\"classname\" \"Info_Player_Start\"\n\"origin\" \"1 2 3\"\n\"angle\" \"90\"\n}\n";
+  SampleMap sample;
+  EXPECT_FALSE(sample.read(kWorld + start + start).camerasRead);
+  for (const camera& c : sample.m.cameras) {
+    EXPECT_EQ(c.origin.y, 2);
+    EXPECT_FLOAT_EQ(c.yaw, 3.1415927f);
+  }
+  EXPECT_TRUE(sample.read("//VELKCAMERAS0001\n//\"5 6 7 180 270 0\"\n" + kWorld + start).camerasRead);
+  EXPECT_EQ(sample.m.cameras[0].origin.x, 5);
+}
+
+TEST(MapReader, ReportsProgressAndReadsFiles) {
+  const std::string name = testing::TempDir() + "velk_reader_test.map";
+  std::ofstream(name, std::ios::binary) << kWorld << "{\n" + Cube(1) + Cube(2) + Cube(3) + Cube(4) << "}\n";
+  std::vector<std::string> texts;
+  MapReadOptions options;
+  options.progress = [&](const std::string& text) { texts.push_back(text); };
+  SampleMap sample;
+  ReadMapFile(sample.m, name, options);
+  EXPECT_EQ(texts, (std::vector<std::string>{
+                       "Loading [" + name + "]", "Loading " + name + ", World Entity, [b0]...  ",
+                       "Loading " + name + ", [e2/b1]...  ", "Loading " + name + ", [e2/b5]...  ",
+                       "Loading " + name + ", [e3/b5]...  "}));
+  texts.clear();
+  MergeMapFile(sample.m, name, options);
+  EXPECT_EQ(texts, (std::vector<std::string>{"Merging [" + name + "]", "Merging " + name + ", [e1/b1]...  ",
+                                             "Merging " + name + ", [e2/b5]...  "}));
+  std::filesystem::remove(name);
+  EXPECT_FATAL(ReadMapFile(sample.m, name, {}), "ReadMapFile:  Couldn't read [" + name + "]...");
+  EXPECT_FATAL(MergeMapFile(sample.m, name, {}), "MergeMapFile:  Couldn't read [" + name + "]...");
+}
+
+TEST(MapReader, MergeAddsBrushesSelected) {
+  SampleMap sample(kThreeGroups + kWorld);
+  const std::string merged = "{\n\"message\" \"lost\"\n" + Cube(1) + Cube(2) + Cube(3) +
+                             "}\n{\n\"classname\" \"func_door\"\n" + Cube(4) + "}\n";
+  MergeMapText(sample.m, "//VELKGROUPS0001\n//VELKGROUPINFO\"other\"\n" + merged, "test.mrg", {});
+  map& m = sample.m;
+  EXPECT_EQ(m.groups.count(), 3);
+  ASSERT_EQ(m.numentities(), 2);
+  ASSERT_EQ(m.world()->numbrushes(), 4);
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(m.world()->at(i)->mins.x, 64 * i);
+    EXPECT_EQ(m.world()->at(i)->selected, i > 0);
+    EXPECT_EQ(m.world()->at(i)->owner, m.world());
+  }
+  EXPECT_EQ(m.world()->valueOfKey("message"), "");
+  EXPECT_TRUE(m.at(1)->at(0)->selected);
+  EXPECT_TRUE(m.modified);
+
+  MergeMapText(sample.m, "{\n}\n{\n\"classname\" \"light\"\n}\n", "test.mrg", {});
+  EXPECT_EQ(m.world()->numbrushes(), 4);
+  ASSERT_EQ(m.numentities(), 3);
+  EXPECT_TRUE(m.at(2)->at(0)->selected);
+}
+
+}  // namespace
+}  // namespace velk
