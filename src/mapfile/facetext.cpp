@@ -1,7 +1,6 @@
 #include "mapfile/facetext.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cfloat>
 #include <cmath>
@@ -78,6 +77,7 @@ bool ReadPoint(Tokenizer& tokens, vec3& point) {
 
 // Eight digits at a time: a word of ASCII digits, the first digit in the lowest byte.
 constexpr std::uint64_t kZeros = 0x3030303030303030;
+constexpr std::uint64_t kOne = 0x3030303030302E31;  // "1.000000"
 
 std::uint64_t LoadWord(const char* text) {
   std::uint64_t word;
@@ -99,17 +99,17 @@ int DigitsValue(std::uint64_t word) {
 // One token of a line, with at least 8 readable bytes from its first digit on.
 struct LineToken {
   const char* text;
-  int length;
+  int length;  // 0: the line is not in the usual form
 
   bool is(char c) const { return length == 1 && *text == c; }
   std::string_view view() const { return {text, static_cast<size_t>(length)}; }
+  bool negative() const { return *text == '-'; }
 
-  // Up to eight digits after an optional minus sign. A negative zero keeps its sign only as `negative`.
-  bool smallInteger(int& magnitude, bool& negative) const {
-    negative = *text == '-';
-    const int digits = length - negative;
-    if (digits < 1 || digits > 8) return false;
-    std::uint64_t word = LoadWord(text + negative);
+  // Up to eight digits after an optional minus sign.
+  bool smallInteger(int& magnitude) const {
+    const int digits = length - negative();
+    if (static_cast<unsigned>(digits - 1) > 7) return false;
+    std::uint64_t word = LoadWord(text + negative());
     // The digits move to the high bytes and zeros fill up the low ones.
     word = word << (64 - 8 * digits) | (kZeros >> (4 * digits) >> (4 * digits));
     magnitude = DigitsValue(word);
@@ -117,22 +117,23 @@ struct LineToken {
   }
 
   // "d.dddddd", the usual form of texture scales.
-  bool sixDecimals(double& value) const {
-    const bool negative = *text == '-';
-    if (length - negative != 8) return false;
-    std::uint64_t word = LoadWord(text + negative);
+  bool sixDecimals(double& magnitude) const {
+    if (length - negative() != 8) return false;
+    std::uint64_t word = LoadWord(text + negative());
+    if (word == kOne) {
+      magnitude = 1;
+      return true;
+    }
     if ((word >> 8 & 0xFF) != '.') return false;
     word = (word & ~std::uint64_t{0xFFFF}) | (word & 0xFF) << 8 | '0';
-    value = DigitsValue(word) / 1e6;
-    if (negative) value = -value;
+    magnitude = DigitsValue(word) / 1e6;
     return AllDigits(word);
   }
 
   bool coordinate(float& value, bool& cut) const {
     int magnitude = 0;
-    bool negative = false;
-    if (smallInteger(magnitude, negative)) {
-      value = static_cast<float>(negative ? -magnitude : magnitude);
+    if (smallInteger(magnitude)) {
+      value = static_cast<float>(negative() ? -magnitude : magnitude);
       return true;
     }
     double number = 0;
@@ -142,15 +143,17 @@ struct LineToken {
   }
 
   bool number(float& value) const {
-    int magnitude = 0;
-    bool negative = false;
-    double number = 0;
-    if (smallInteger(magnitude, negative)) {
-      number = negative ? -static_cast<double>(magnitude) : magnitude;
-    } else if (!sixDecimals(number) && !ParsePlainNumber(view(), number)) {
+    int integer = 0;
+    double magnitude = 0;
+    if (sixDecimals(magnitude)) {
+      value = static_cast<float>(negative() ? -magnitude : magnitude);
+    } else if (smallInteger(integer)) {
+      value = static_cast<float>(negative() ? -double{integer} : integer);
+    } else if (ParsePlainNumber(view(), magnitude)) {
+      value = StoredNumber(magnitude);
+    } else {
       return false;
     }
-    value = StoredNumber(number);
     return true;
   }
 };
@@ -179,45 +182,55 @@ Bytes64 Classify64(const char* text) {
   return found;
 }
 
-// What follows the opening "(": three points with their parentheses, the name and five numbers.
-constexpr int kLineTokens = 20;
-constexpr int kNameToken = 14;
-constexpr int kLineBlocks = 3;
-// Bytes that the fast way may look at: whole blocks, and a word from the last of their bytes.
-constexpr int kLineBytes = 64 * kLineBlocks + 8;
+// The tokens of a line that are parted by one blank each, found for 64 bytes at a time.
+class LineTokens {
+ public:
+  static constexpr int kBlocks = 3;
+  // Bytes from the start of the line that may be looked at.
+  static constexpr int kBytes = 64 * kBlocks + 8;
 
-// Finds where the tokens of the line begin and end: edges 2i and 2i+1 for token i. False when the line
-// has fewer tokens, or does not end its last one within the blocks.
-bool FindTokens(const char* line, std::array<std::uint8_t, 2 * kLineTokens + 64>& edges) {
-  int count = 0;
-  std::uint64_t before = 1;  // the byte before counts as blank: the line goes on with one
-  for (int block = 0; block < kLineBlocks; ++block) {
-    const Bytes64 bytes = Classify64(line + 64 * block);
-    std::uint64_t changes = bytes.blanks ^ (bytes.blanks << 1 | before);
-    before = bytes.blanks >> 63;
-    const int found = std::popcount(changes);
-    for (int i = 0; i < found; ++i, changes &= changes - 1) {
-      edges[static_cast<size_t>(count + i)] =
-          static_cast<std::uint8_t>(64 * block + std::countr_zero(changes));
-    }
-    count += found;
-    if (count >= 2 * kLineTokens) {
-      const int end = edges[2 * kLineTokens - 1];
-      return bytes.lineFeeds == 0 || 64 * block + std::countr_zero(bytes.lineFeeds) >= end;
-    }
-    if (bytes.lineFeeds != 0) return false;
+  // `line` starts with the blank before the first token.
+  explicit LineTokens(const char* line) : block_(line), at_(line + 1), bytes_(Classify64(line)) {
+    dropBlank();
   }
-  return false;
-}
 
-// Token `i` of the line, as FindTokens found it.
-LineToken TokenAt(const char* line, const std::array<std::uint8_t, 2 * kLineTokens + 64>& edges, int i) {
-  const auto at = static_cast<size_t>(2 * i);
-  return {line + edges[at], edges[at + 1] - edges[at]};
+  LineToken next() {
+    while (bytes_.blanks == 0) {
+      if (++blocks_ == kBlocks || bytes_.lineFeeds != 0) return {at_, 0};
+      block_ += 64;
+      bytes_ = Classify64(block_);
+    }
+    const char* end = block_ + std::countr_zero(bytes_.blanks);
+    dropBlank();
+    const LineToken token{at_, static_cast<int>(end - at_)};
+    at_ = end + 1;
+    return token;
+  }
+
+  const char* end() const { return at_ - 1; }
+  // The last token is on the line of the first.
+  bool sameLine() const { return (bytes_.lineFeeds & ((std::uint64_t{1} << (end() - block_)) - 1)) == 0; }
+
+ private:
+  void dropBlank() { bytes_.blanks &= bytes_.blanks - 1; }
+
+  const char* block_;
+  const char* at_;
+  Bytes64 bytes_;
+  int blocks_ = 0;
+};
+
+bool ReadPoint(LineTokens& line, vec3& point, int& cutPoints) {
+  bool cut = false;
+  for (int axis = 0; axis < 3; ++axis) {
+    if (!line.next().coordinate(point[axis], cut)) return false;
+  }
+  cutPoints += cut;
+  return line.next().is(')');
 }
 
 bool IsPlainName(const LineToken& name) {
-  return *name.text != '"' && !(name.text[0] == '/' && name.text[1] == '/');
+  return name.length > 0 && *name.text != '"' && !name.view().starts_with("//");
 }
 
 void SetLowerCase(std::string& name, std::string_view text) {
@@ -229,31 +242,20 @@ void SetLowerCase(std::string& name, std::string_view text) {
 
 int ReadFaceLine(Tokenizer& tokens, face& f) {
   if constexpr (std::endian::native != std::endian::little) return -1;
-  const char* line = tokens.position();
-  if (tokens.end() - line < kLineBytes || static_cast<unsigned char>(*line) > 32) return -1;
-  std::array<std::uint8_t, 2 * kLineTokens + 64> edges;
-  if (!FindTokens(line, edges)) return -1;
-  const auto token = [&](int i) { return TokenAt(line, edges, i); };
-
-  if (!token(3).is(')') || !token(4).is('(') || !token(8).is(')') || !token(9).is('(') || !token(13).is(')'))
-    return -1;
+  if (tokens.end() - tokens.position() < LineTokens::kBytes || *tokens.position() != ' ') return -1;
+  LineTokens line(tokens.position());
   int cutPoints = 0;
-  for (int point = 0; point < 3; ++point) {
-    bool cut = false;
-    for (int axis = 0; axis < 3; ++axis) {
-      if (!token(5 * point + axis).coordinate(f.planepts[point][axis], cut)) return -1;
-    }
-    cutPoints += cut;
+  if (!ReadPoint(line, f.planepts[0], cutPoints) || !line.next().is('(')) return -1;
+  if (!ReadPoint(line, f.planepts[1], cutPoints) || !line.next().is('(')) return -1;
+  if (!ReadPoint(line, f.planepts[2], cutPoints)) return -1;
+  const LineToken name = line.next();
+  texturedef& t = f.texture;
+  for (float* number : {&t.shift[0], &t.shift[1], &t.rotate, &t.scale[0], &t.scale[1]}) {
+    if (!line.next().number(*number)) return -1;
   }
-  float* const numbers[] = {&f.texture.shift[0], &f.texture.shift[1], &f.texture.rotate, &f.texture.scale[0],
-                            &f.texture.scale[1]};
-  for (int i = 0; i < 5; ++i) {
-    if (!token(kNameToken + 1 + i).number(*numbers[i])) return -1;
-  }
-  const LineToken name = token(kNameToken);
-  if (!IsPlainName(name)) return -1;
-  SetLowerCase(f.texture.name, name.view());
-  tokens.setPosition(line + edges[2 * kLineTokens - 1]);
+  if (!line.sameLine() || !IsPlainName(name)) return -1;
+  SetLowerCase(t.name, name.view());
+  tokens.setPosition(line.end());
   return cutPoints;
 }
 

@@ -136,7 +136,7 @@ std::string RandomLine(std::mt19937& random) {
 
 TEST(FaceText, BothWaysAgreeOnRandomAndDamagedLines) {
   std::mt19937 random(7);
-  const std::string bytes = std::string("0123456789-+.eE()[]\"/ \t\r\n\x01\xA0qA", 32);
+  const std::string bytes = "0123456789-+.eE()[]\"/ \t\r\n\x01\xA0qA";
   int fastLines = 0;
   for (int i = 0; i < 20000; ++i) {
     std::string line = RandomLine(random);

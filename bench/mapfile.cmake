@@ -1,0 +1,1 @@
+velk_bench(mapfile SOURCES mapfile_bench.cpp)

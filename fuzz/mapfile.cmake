@@ -1,0 +1,1 @@
+velk_fuzz(mapfile SOURCES mapfile.cpp USES mapfile)
