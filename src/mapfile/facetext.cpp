@@ -75,7 +75,7 @@ bool ReadPoint(Tokenizer& tokens, vec3& point) {
   return cut;
 }
 
-// Eight digits at a time: a word of ASCII digits, the first digit in the lowest byte.
+// Several digits at a time: the bytes of the text as a word, the first byte lowest.
 constexpr std::uint64_t kZeros = 0x3030303030303030;
 constexpr std::uint64_t kOne = 0x3030303030302E31;  // "1.000000"
 
@@ -85,15 +85,25 @@ std::uint64_t LoadWord(const char* text) {
   return word;
 }
 
-bool AllDigits(std::uint64_t word) {
-  constexpr std::uint64_t high = 0xF0F0F0F0F0F0F0F0;
-  return (word & high) == kZeros && ((word + 0x0606060606060606) & high) == kZeros;
+// The value of the first `count` bytes, 1 to 4; false when they are not all digits.
+bool FourDigits(std::uint32_t word, int count, int& value) {
+  // Every digit becomes its value; they move to the high bytes, zeros come in below.
+  word = (word ^ static_cast<std::uint32_t>(kZeros)) << (32 - 8 * count);
+  if (((word | (word + 0x06060606)) & 0xF0F0F0F0) != 0) return false;
+  // Neighbours are joined to pairs, the pairs to the whole.
+  word = word * 2561 >> 8 & 0x00FF00FF;
+  value = static_cast<int>(word * 6553601 >> 16);
+  return true;
 }
 
-int DigitsValue(std::uint64_t word) {
-  word = (word & 0x0F0F0F0F0F0F0F0F) * 2561 >> 8;
-  word = (word & 0x00FF00FF00FF00FF) * 6553601 >> 16;
-  return static_cast<int>((word & 0x0000FFFF0000FFFF) * 42949672960001 >> 32);
+// The same for 1 to 8.
+bool EightDigits(std::uint64_t word, int count, int& value) {
+  word = (word ^ kZeros) << (64 - 8 * count);
+  if (((word | (word + 0x0606060606060606)) & 0xF0F0F0F0F0F0F0F0) != 0) return false;
+  word = word * 2561 >> 8 & 0x00FF00FF00FF00FF;
+  word = word * 6553601 >> 16 & 0x0000FFFF0000FFFF;
+  value = static_cast<int>(word * 42949672960001 >> 32);
+  return true;
 }
 
 // One token of a line, with at least 8 readable bytes from its first digit on.
@@ -109,25 +119,24 @@ struct LineToken {
   bool smallInteger(int& magnitude) const {
     const int digits = length - negative();
     if (static_cast<unsigned>(digits - 1) > 7) return false;
-    std::uint64_t word = LoadWord(text + negative());
-    // The digits move to the high bytes and zeros fill up the low ones.
-    word = word << (64 - 8 * digits) | (kZeros >> (4 * digits) >> (4 * digits));
-    magnitude = DigitsValue(word);
-    return AllDigits(word);
+    const std::uint64_t word = LoadWord(text + negative());
+    return digits <= 4 ? FourDigits(static_cast<std::uint32_t>(word), digits, magnitude)
+                       : EightDigits(word, digits, magnitude);
   }
 
   // "d.dddddd", the usual form of texture scales.
   bool sixDecimals(double& magnitude) const {
     if (length - negative() != 8) return false;
-    std::uint64_t word = LoadWord(text + negative());
+    const std::uint64_t word = LoadWord(text + negative());
     if (word == kOne) {
       magnitude = 1;
       return true;
     }
     if ((word >> 8 & 0xFF) != '.') return false;
-    word = (word & ~std::uint64_t{0xFFFF}) | (word & 0xFF) << 8 | '0';
-    magnitude = DigitsValue(word) / 1e6;
-    return AllDigits(word);
+    int millionths = 0;
+    if (!EightDigits((word & ~std::uint64_t{0xFFFF}) | (word & 0xFF) << 8 | '0', 8, millionths)) return false;
+    magnitude = millionths / 1e6;
+    return true;
   }
 
   bool coordinate(float& value, bool& cut) const {
@@ -148,7 +157,7 @@ struct LineToken {
     if (sixDecimals(magnitude)) {
       value = static_cast<float>(negative() ? -magnitude : magnitude);
     } else if (smallInteger(integer)) {
-      value = static_cast<float>(negative() ? -double{integer} : integer);
+      value = static_cast<float>(negative() ? -static_cast<double>(integer) : integer);
     } else if (ParsePlainNumber(view(), magnitude)) {
       value = StoredNumber(magnitude);
     } else {
@@ -220,15 +229,6 @@ class LineTokens {
   int blocks_ = 0;
 };
 
-bool ReadPoint(LineTokens& line, vec3& point, int& cutPoints) {
-  bool cut = false;
-  for (int axis = 0; axis < 3; ++axis) {
-    if (!line.next().coordinate(point[axis], cut)) return false;
-  }
-  cutPoints += cut;
-  return line.next().is(')');
-}
-
 bool IsPlainName(const LineToken& name) {
   return name.length > 0 && *name.text != '"' && !name.view().starts_with("//");
 }
@@ -245,9 +245,15 @@ int ReadFaceLine(Tokenizer& tokens, face& f) {
   if (tokens.end() - tokens.position() < LineTokens::kBytes || *tokens.position() != ' ') return -1;
   LineTokens line(tokens.position());
   int cutPoints = 0;
-  if (!ReadPoint(line, f.planepts[0], cutPoints) || !line.next().is('(')) return -1;
-  if (!ReadPoint(line, f.planepts[1], cutPoints) || !line.next().is('(')) return -1;
-  if (!ReadPoint(line, f.planepts[2], cutPoints)) return -1;
+  for (int point = 0; point < 3; ++point) {
+    if (point > 0 && !line.next().is('(')) return -1;
+    bool cut = false;
+    for (int axis = 0; axis < 3; ++axis) {
+      if (!line.next().coordinate(f.planepts[point][axis], cut)) return -1;
+    }
+    if (!line.next().is(')')) return -1;
+    cutPoints += cut;
+  }
   const LineToken name = line.next();
   texturedef& t = f.texture;
   for (float* number : {&t.shift[0], &t.shift[1], &t.rotate, &t.scale[0], &t.scale[1]}) {
