@@ -119,7 +119,7 @@ void Register(const Source& source) {
                                [&source, file](benchmark::State& state) {
                                  Document document;
                                  ReadMapText(document.m, source.text, source.name, {});
-                                 for (auto _ : state) WriteMapFile(document.m, {}, file.string(), {});
+                                 for (auto _ : state) WriteMapFile(document.m, Paths{}, file.string(), {});
                                  Rate(state, source, document.m);
                                  std::filesystem::remove(file);
                                })

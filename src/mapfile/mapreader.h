@@ -13,7 +13,7 @@
 namespace velk {
 
 struct MapReadOptions {
-  Paths paths;
+  Paths paths{};
   // Takes the status texts of the reading; may be empty.
   std::function<void(const std::string&)> progress;
   // For the box that an entity without brushes gets when its class is built of brushes.

@@ -75,7 +75,9 @@ TEST(MapReader, GroupNamesAreCutToTheirLimit) {
   sample.read(text);
   EXPECT_EQ(sample.m.groups.at(0).name, "abcdefghijklmno");
   EXPECT_EQ(sample.m.groups.colour(0), (Colour{1, 2, 3}));
-  sample.read(text, {.groupNameLength = GroupList::kMaxName});
+  MapReadOptions options;
+  options.groupNameLength = GroupList::kMaxName;
+  sample.read(text, options);
   EXPECT_EQ(sample.m.groups.at(0).name, "abcdefghijklmnopqrst");
 }
 
@@ -85,7 +87,7 @@ TEST(MapReader, TellsWhatItChanged) {
     const char* warnings;
     int brushes;
   };
-  const std::string flat = "{\n( 0 0 0 ) ( 1 0 0 ) ( 0 1 0 ) a 0 0 0 1 1\n}\n";
+  const std::string flat = "{\n( 0 0 0 ) ( 1 0 0 ) ( 2 0 0 ) a 0 0 0 1 1\n}\n";
   const std::string fractions =
       "{\n( 0.5 64.5 64 ) ( 0.25 0 64 ) ( 0 0 0 ) a 0 0 0 1 1\n" + CubeFaces(0).substr(5) + "}\n";
   const Case cases[] = {
@@ -136,7 +138,7 @@ TEST(MapReader, EndsMalformedTextWithItsMessage) {
       {manyGroups, "Group:  Too many groups 256"},
       {"{\n\"" + std::string(64, 'k') + "\" \"v\"\n}", "setKey: " + std::string(64, 'k') + " > MAX_KEY"},
       {"{\n\"k\" \"" + std::string(128, 'v') + "\"\n}", "setKey: " + std::string(128, 'v') + " > MAX_VALUE"},
-      {kWorld + std::string("\n\0\n{", 4), "[test.map] is not a text file, line 12 holds a zero byte"},
+      {kWorld + std::string("\n\0\n{", 4), "[test.map] is not a text file, line 13 holds a zero byte"},
   };
   for (const auto& [text, message] : cases) {
     SampleMap sample;

@@ -105,24 +105,25 @@ TEST(MapWriter, ReplacesFilesAndSaysWhatBecameOfThem) {
   SampleMap sample(kMap);
   const std::string name = testing::TempDir() + "velk_writer_test.map";
   sample.m.modified = true;
-  EXPECT_TRUE(WriteMapFile(sample.m, {}, name, {}).ok());
+  EXPECT_TRUE(WriteMapFile(sample.m, Paths{}, name, {}).ok());
   EXPECT_FALSE(sample.m.modified);
   EXPECT_EQ(Bytes(name), sample.text());
 
   SampleMap empty("{\n}\n");
   empty.m.world()->destroyBrushes();
   empty.m.modified = true;
-  EXPECT_EQ(WriteMapFile(empty.m, {}, name, {}).outcome, MapWriteResult::Outcome::NothingToSave);
+  EXPECT_EQ(WriteMapFile(empty.m, Paths{}, name, {}).outcome, MapWriteResult::Outcome::NothingToSave);
   EXPECT_TRUE(empty.m.modified);
   EXPECT_EQ(Bytes(name), sample.text());
 
-  EXPECT_TRUE(ExportGroup(sample.m, 0, {}, name).ok());
+  EXPECT_TRUE(ExportGroup(sample.m, 0, Paths{}, name).ok());
   EXPECT_EQ(Bytes(name), GroupExportText(sample.m, 0));
   std::filesystem::remove(name);
 
   const std::string nowhere = testing::TempDir() + "no such folder/a.map";
   sample.m.modified = true;
-  EXPECT_FATAL(WriteMapFile(sample.m, {}, nowhere, {}), "Couldn't write map file, unable to open " + nowhere);
+  EXPECT_FATAL(WriteMapFile(sample.m, Paths{}, nowhere, {}),
+               "Couldn't write map file, unable to open " + nowhere);
   EXPECT_TRUE(sample.m.modified);
 }
 
