@@ -13,6 +13,8 @@ class FileBytes {
  public:
   explicit FileBytes(std::string_view contents) : contents_(contents) {}
 
+  std::int64_t size() const { return static_cast<std::int64_t>(contents_.size()); }
+
   // The bytes of that place; fatal "Error:  couldn't read bits..." when the file has them not all.
   std::string_view at(std::int64_t offset, std::int64_t size) const;
   std::uint32_t uint32At(std::int64_t offset) const;

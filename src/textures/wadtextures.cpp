@@ -17,13 +17,18 @@ constexpr std::int64_t kHeightAt = 20;
 constexpr std::int64_t kFirstMipAt = 24;
 constexpr int kReportEvery = 5;  // lumps
 
-// Entries of a directory may share their bytes, so a small file could ask for any amount of memory.
-constexpr std::uint64_t kMaxPixelsOfWad = std::uint64_t{1} << 28;
+// Entries of a directory may share their bytes, so a small file could ask for any amount of memory: all
+// textures together have at most this many pixels for every byte of the file.
+constexpr std::int64_t kMaxPixelsPerByte = 16;
 
 class TextureReader {
  public:
   TextureReader(const FileBytes& file, const Palette& palette, int skySpeed, Random& random)
-      : file_(file), palette_(palette), skySpeed_(skySpeed), random_(random) {}
+      : file_(file),
+        palette_(palette),
+        skySpeed_(skySpeed),
+        random_(random),
+        pixelsLeft_(file.size() * kMaxPixelsPerByte) {}
 
   std::unique_ptr<Texture> read(const WadLump& lump, int index) {
     auto texture = std::make_unique<Texture>();
@@ -51,10 +56,10 @@ class TextureReader {
   }
 
   std::string_view pixelsOf(const WadLump& lump, std::uint64_t count) {
-    if (count > kMaxPixelsOfWad - pixelsRead_) Error("Error:  couldn't read bits...");
-    pixelsRead_ += count;
-    const std::int64_t start = std::int64_t{lump.offset} + file_.uint32At(lump.offset + kFirstMipAt);
-    return file_.at(start, static_cast<std::int64_t>(count));
+    if (count > static_cast<std::uint64_t>(pixelsLeft_)) Error("Error:  couldn't read bits...");
+    const auto size = static_cast<std::int64_t>(count);
+    pixelsLeft_ -= size;
+    return file_.at(std::int64_t{lump.offset} + file_.uint32At(lump.offset + kFirstMipAt), size);
   }
 
   void fill(Texture& texture, std::string_view pixels) const {
@@ -89,7 +94,7 @@ class TextureReader {
   const Palette& palette_;
   int skySpeed_;
   Random& random_;
-  std::uint64_t pixelsRead_ = 0;
+  std::int64_t pixelsLeft_;
 };
 
 void Report(const WadProgressSink& progress, WadProgress::Step step, const std::string& text, int lump,
