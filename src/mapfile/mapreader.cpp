@@ -247,7 +247,7 @@ bool initFromTokens(entity& e, MapText& text) {
     tokens.GetScriptToken(false);
     e.setKey(key, tokens.token());
   }
-  FitToClass(e, text);
+  if (text.options.build) FitToClass(e, text);
   return true;
 }
 

@@ -22,7 +22,8 @@ struct MapReadOptions {
   Colour groupColour{255, 255, 255};
   // Group names of the file are cut to this many characters.
   int groupNameLength = 15;
-  // False leaves brushes without planes and polygons, valid or not.
+  // False reads the text alone: brushes stay without planes and polygons, valid or not, and entities get no
+  // boxes.
   bool build = true;
 };
 
