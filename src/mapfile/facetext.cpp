@@ -205,7 +205,8 @@ class LineTokens {
 
   LineToken next() {
     while (bytes_.blanks == 0) {
-      if (++blocks_ == kBlocks || bytes_.lineFeeds != 0) return {at_, 0};
+      if (blocks_ == kBlocks || bytes_.lineFeeds != 0) return {at_, 0};
+      ++blocks_;
       block_ += 64;
       bytes_ = Classify64(block_);
     }
@@ -226,7 +227,7 @@ class LineTokens {
   const char* block_;
   const char* at_;
   Bytes64 bytes_;
-  int blocks_ = 0;
+  int blocks_ = 1;   // looked at
 };
 
 bool IsPlainName(const LineToken& name) {

@@ -106,6 +106,17 @@ TEST(FaceText, NamesWhatIsWrong) {
   for (const auto& [line, message] : cases) EXPECT_EQ(ReadBothWays(line), message) << line;
 }
 
+TEST(FaceText, LooksNoFurtherThanTheText) {
+  for (size_t length = 100; length < 255; ++length) {
+    const std::string text = kPoints + std::string(length, 'a');
+    const std::vector<char> bytes(text.begin(), text.end());
+    Tokenizer tokens({bytes.data(), bytes.size()});
+    tokens.GetScriptToken(true);
+    face f;
+    EXPECT_EQ(ReadFaceLine(tokens, f), -1);
+  }
+}
+
 std::string RandomNumber(std::mt19937& random) {
   const int whole = static_cast<int>(random() % 8192) - 4096;
   switch (random() % 8) {
