@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "base/text.h"
+
 namespace velk {
 namespace {
 
@@ -19,6 +21,7 @@ ErrorState& state() {
   return instance;
 }
 
+// A report under way; over when the handler throws.
 struct Report {
   Report() { state().reporting = true; }
   ~Report() { state().reporting = false; }
@@ -26,24 +29,28 @@ struct Report {
   Report& operator=(const Report&) = delete;
 };
 
+[[noreturn]] void endProgram(int status) {
+  std::fflush(nullptr);
+  std::_Exit(status);
+}
+
 }  // namespace
 
-ErrorHandler SetErrorHandler(ErrorHandler handler) { return std::exchange(state().handler, std::move(handler)); }
+ErrorHandler SetErrorHandler(ErrorHandler handler) {
+  return std::exchange(state().handler, std::move(handler));
+}
 
 void Error(const char* format, ...) {
-  if (state().reporting) std::_Exit(0);
-  char message[2048];
+  if (state().reporting) endProgram(0);
+  const Report report;
   va_list arguments;
   va_start(arguments, format);
-  std::vsnprintf(message, sizeof message, format, arguments);
+  const std::string message = FormatList(format, arguments);
   va_end(arguments);
-  {
-    const Report report;
-    if (state().handler) state().handler(message);
-  }
-  std::fprintf(stderr, "%s\n", message);
-  std::fflush(nullptr);
-  std::_Exit(3);
+  // A copy, so that a handler may install another one.
+  if (const ErrorHandler handler = state().handler) handler(message);
+  std::fprintf(stderr, "%s\n", message.c_str());
+  endProgram(3);
 }
 
 }  // namespace velk

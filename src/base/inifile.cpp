@@ -1,82 +1,88 @@
 #include "base/inifile.h"
 
-#include <fstream>
-#include <iterator>
+#include <algorithm>
 
 #include "base/text.h"
 
 namespace velk {
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-  const auto blank = [](char c) { return static_cast<unsigned char>(c) <= 32; };
-  while (!text.empty() && blank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && blank(text.back())) text.remove_suffix(1);
-  return text;
-}
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view withoutQuotes(std::string_view value) {
-  const bool quoted = value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
+  const bool quoted =
+      value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-bool isHeader(std::string_view line) { return trimmed(line).starts_with('['); }
-
-bool isHeaderOf(std::string_view line, std::string_view section) {
-  line = trimmed(line);
-  if (!line.starts_with('[')) return false;
-  const size_t end = line.find(']');
-  return EqualNoCase(trimmed(line.substr(1, end == std::string_view::npos ? end : end - 1)), section);
+// The name in a [section] line; none for any other line.
+std::optional<std::string_view> sectionName(std::string_view line) {
+  if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+  line = Trimmed(line);
+  if (!line.starts_with('[')) return std::nullopt;
+  return Trimmed(line.substr(1, std::min(line.find(']'), line.size()) - 1));
 }
 
-bool isComment(std::string_view line) { return trimmed(line).starts_with(';') || trimmed(line).starts_with('#'); }
+bool isSection(std::string_view line, std::string_view section) {
+  const auto name = sectionName(line);
+  return name && EqualNoCase(*name, section);
+}
 
-std::optional<std::string_view> valueIn(std::string_view line, std::string_view key) {
+bool hasKey(std::string_view line, std::string_view key) {
   const size_t equals = line.find('=');
-  if (equals == std::string_view::npos || isComment(line)) return std::nullopt;
-  if (!EqualNoCase(trimmed(line.substr(0, equals)), key)) return std::nullopt;
-  return withoutQuotes(trimmed(line.substr(equals + 1)));
+  return equals != line.npos && !Trimmed(line).starts_with(';') &&
+         EqualNoCase(Trimmed(line.substr(0, equals)), key);
 }
 
-struct Lines {
-  size_t header;  // index of the section's header line, or the number of lines
-  size_t end;     // after its last line
-};
+// The value as it has to stand in the file to be read back the same: on one line, quoted where blanks or
+// quotes at its ends would be lost.
+std::string fileForm(std::string_view value) {
+  value = value.substr(0, value.find_first_of("\r\n"));
+  const bool plain = withoutQuotes(Trimmed(value)) == value;
+  return plain ? std::string(value) : '"' + std::string(value) + '"';
+}
 
-Lines sectionLines(const std::vector<std::string>& lines, std::string_view section) {
-  size_t header = 0;
-  while (header < lines.size() && !isHeaderOf(lines[header], section)) ++header;
-  size_t end = header < lines.size() ? header + 1 : header;
-  while (end < lines.size() && !isHeader(lines[end])) ++end;
-  return {header, end};
+// The line with another value, its blanks and its line end kept.
+std::string withValue(std::string_view line, std::string_view value) {
+  const size_t afterEquals = line.find('=') + 1;
+  const size_t begin = std::min(line.find_first_not_of(" \t", afterEquals), line.size());
+  const size_t lineEnd = std::min(line.find_last_not_of("\r\n") + 1, line.size());
+  return std::string(line.substr(0, std::min(begin, lineEnd))) + fileForm(value) +
+         std::string(line.substr(lineEnd));
 }
 
 }  // namespace
 
-IniFile IniFile::Load(const std::filesystem::path& file) {
-  std::error_code ignored;
-  if (!std::filesystem::is_regular_file(file, ignored)) return {};
-  std::ifstream in(file, std::ios::binary);
-  return Parse(std::string(std::istreambuf_iterator<char>(in), {}));
-}
+IniFile IniFile::Load(const std::filesystem::path& file) { return Parse(ReadFile(file).contents); }
 
 IniFile IniFile::Parse(std::string_view text) {
   IniFile ini;
-  ini.crLf_ = text.find("\r\n") != std::string_view::npos;
-  for (std::string& line : Split(text, '\n')) {
-    if (line.ends_with('\r')) line.pop_back();
-    ini.lines_.push_back(std::move(line));
+  while (!text.empty()) {
+    const size_t length = std::min(text.find('\n'), text.size() - 1) + 1;
+    ini.lines_.emplace_back(text.substr(0, length));
+    text.remove_prefix(length);
   }
-  if (!ini.lines_.empty() && ini.lines_.back().empty()) ini.lines_.pop_back();
+  ini.crLf_ = !ini.lines_.empty() && ini.lines_.front().ends_with("\r\n");
   return ini;
 }
 
-std::optional<std::string> IniFile::find(std::string_view section, std::string_view key) const {
-  const Lines range = sectionLines(lines_, section);
-  for (size_t i = range.header + 1; i < range.end; ++i) {
-    if (const auto value = valueIn(lines_[i], key)) return std::string(*value);
+std::optional<size_t> IniFile::lineOf(std::string_view section, std::string_view key) const {
+  bool inside = false;
+  for (size_t i = 0; i < lines_.size(); ++i) {
+    if (sectionName(lines_[i])) {
+      inside = isSection(lines_[i], section);
+    } else if (inside && hasKey(lines_[i], key)) {
+      return i;
+    }
   }
   return std::nullopt;
+}
+
+std::optional<std::string> IniFile::find(std::string_view section, std::string_view key) const {
+  const auto line = lineOf(section, key);
+  if (!line) return std::nullopt;
+  const std::string_view text = lines_[*line];
+  return std::string(withoutQuotes(Trimmed(text.substr(text.find('=') + 1))));
 }
 
 std::string IniFile::string(std::string_view section, std::string_view key, std::string_view fallback) const {
@@ -84,32 +90,40 @@ std::string IniFile::string(std::string_view section, std::string_view key, std:
 }
 
 int IniFile::integer(std::string_view section, std::string_view key, int fallback) const {
-  const auto value = find(section, key);
-  return value ? TextToInt(*value) : fallback;
+  return LeadingInt(find(section, key).value_or("")).value_or(fallback);
 }
 
 void IniFile::set(std::string_view section, std::string_view key, std::string_view value) {
-  const std::string line = std::string(key) + "=" + std::string(value);
-  const Lines range = sectionLines(lines_, section);
-  for (size_t i = range.header + 1; i < range.end; ++i) {
-    if (valueIn(lines_[i], key)) {
-      lines_[i] = line;
-      return;
-    }
+  if (const auto line = lineOf(section, key)) {
+    lines_[*line] = withValue(lines_[*line], value);
+  } else {
+    insertLine(endOfSection(section), std::string(key) + '=' + fileForm(value));
   }
-  size_t at = range.end;
-  if (range.header == lines_.size()) {
-    if (!lines_.empty()) lines_.emplace_back();
-    lines_.push_back("[" + std::string(section) + "]");
-    at = lines_.size();
+}
+
+size_t IniFile::endOfSection(std::string_view section) {
+  const auto header =
+      std::find_if(lines_.begin(), lines_.end(), [&](const auto& line) { return isSection(line, section); });
+  if (header == lines_.end()) {
+    if (!lines_.empty()) insertLine(lines_.size(), "");
+    insertLine(lines_.size(), '[' + std::string(section) + ']');
+    return lines_.size();
   }
-  while (at > range.header + 1 && at <= lines_.size() && trimmed(lines_[at - 1]).empty()) --at;
-  lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(at), line);
+  auto end =
+      std::find_if(header + 1, lines_.end(), [](const auto& line) { return sectionName(line).has_value(); });
+  while (Trimmed(*(end - 1)).empty()) --end;
+  return static_cast<size_t>(end - lines_.begin());
+}
+
+void IniFile::insertLine(size_t index, std::string line) {
+  const char* lineEnd = crLf_ ? "\r\n" : "\n";
+  if (index > 0 && !lines_[index - 1].ends_with('\n')) lines_[index - 1] += lineEnd;
+  lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(index), std::move(line) + lineEnd);
 }
 
 std::string IniFile::text() const {
   std::string text;
-  for (const std::string& line : lines_) text += line + (crLf_ ? "\r\n" : "\n");
+  for (const std::string& line : lines_) text += line;
   return text;
 }
 

@@ -1,6 +1,6 @@
 #include "base/paths.h"
 
-#include <cctype>
+#include <algorithm>
 
 #include "base/text.h"
 
@@ -11,27 +11,36 @@ namespace fs = std::filesystem;
 
 bool isSeparator(char c) { return c == '\\' || c == '/'; }
 
+bool hasDrive(std::string_view path) {
+  const char letter = path.empty() ? '\0' : path[0];
+  return path.size() >= 2 && path[1] == ':' &&
+         ((letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z'));
+}
+
+// Links count even when they lead nowhere.
 bool present(const fs::path& path) {
   std::error_code ignored;
   return fs::exists(fs::symlink_status(path, ignored));
 }
 
-// The entry of `folder` whose name is `name` but for letter case; the name itself when there is none.
+// The entry of `folder` whose name is `name` but for letter case (the first in byte order); the name
+// itself when there is none.
 fs::path entryNoCase(const fs::path& folder, const std::string& name) {
-  std::error_code ignored;
-  const fs::path listed = folder.empty() ? fs::path(".") : folder;
-  for (const fs::directory_entry& entry : fs::directory_iterator(listed, ignored)) {
-    if (EqualNoCase(entry.path().filename().string(), name)) return entry.path().filename();
+  std::string best;
+  std::error_code error;
+  fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    const std::string candidate = entry->path().filename().string();
+    if (EqualNoCase(candidate, name) && (best.empty() || candidate < best)) best = candidate;
   }
-  return name;
+  return best.empty() ? name : best;
 }
 
-fs::path lookUp(const fs::path& wanted) {
+fs::path withActualNames(const fs::path& wanted) {
   fs::path found;
   for (const fs::path& part : wanted) {
-    const fs::path next = found / part;
-    const bool asWritten = part.empty() || part == "." || part == ".." || part.has_root_directory() || present(next);
-    found = asWritten ? next : found / entryNoCase(found, part.string());
+    const bool asWritten = part.empty() || present(found / part);
+    found /= asWritten ? part : entryNoCase(found, part.string());
   }
   return found;
 }
@@ -40,16 +49,15 @@ fs::path lookUp(const fs::path& wanted) {
 
 fs::path Paths::native(std::string_view path) const {
   std::string slashes(path.substr(0, path.find('\0')));
-  for (char& c : slashes) c = c == '\\' ? '/' : c;
-  fs::path wanted = slashes;
-  const bool drive = slashes.size() >= 2 && slashes[1] == ':' && std::isalpha(static_cast<unsigned char>(slashes[0]));
-  if (drive) {
-    const std::string rest = slashes.substr(slashes.find_first_not_of('/', 2) == std::string::npos
-                                                ? slashes.size()
-                                                : slashes.find_first_not_of('/', 2));
-    wanted = dataFolder_ / LowerCase(slashes.substr(0, 1)) / rest;
+  for (char& c : slashes) {
+    if (c == '\\') c = '/';
   }
-  return present(wanted) ? wanted : lookUp(wanted);
+  fs::path wanted = slashes;
+  if (hasDrive(slashes)) {
+    const size_t name = std::min(slashes.find_first_not_of('/', 2), slashes.size());
+    wanted = dataFolder_ / LowerCase(slashes.substr(0, 1)) / slashes.substr(name);
+  }
+  return present(wanted) ? wanted : withActualNames(wanted);
 }
 
 bool Paths::exists(std::string_view path) const {
@@ -69,7 +77,7 @@ std::string DirectoryPart(std::string_view path) {
 
 std::string WithSeparator(std::string_view directory) {
   std::string result(directory);
-  if (result.empty() || !isSeparator(result.back())) result += '\\';
+  if (!result.empty() && !isSeparator(result.back())) result += '\\';
   return result;
 }
 

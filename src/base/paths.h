@@ -32,7 +32,7 @@ class Paths {
 std::string FileNamePart(std::string_view path);
 // The part up to and including the last separator; empty when there is none.
 std::string DirectoryPart(std::string_view path);
-// `directory` with a '\' appended when it ends in no separator.
+// `directory` with a '\' appended when it ends in no separator; an empty one stays empty.
 std::string WithSeparator(std::string_view directory);
 
 }  // namespace velk

@@ -3,56 +3,89 @@
 #include <algorithm>
 #include <charconv>
 #include <climits>
-#include <cstdarg>
 #include <cstdio>
+#include <limits>
 
 namespace velk {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
 
-std::string_view withoutLeadingBlanks(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  return text;
+void skipBlanks(std::string_view& text) {
+  while (!text.empty() && (text.front() == ' ' || (text.front() >= '\t' && text.front() <= '\r'))) {
+    text.remove_prefix(1);
+  }
+}
+
+// Skips one sign and says whether it was a minus.
+bool takeSign(std::string_view& text) {
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  return negative;
+}
+
+// The nearest double to a number that is out of range: a tiny one is 0, a huge one the largest.
+double nearestInRange(std::string_view number) {
+  const bool tiny = number.front() == '0' || number.front() == '.' || number.find("e-") != number.npos ||
+                    number.find("E-") != number.npos;
+  return tiny ? 0 : std::numeric_limits<double>::max();
 }
 
 }  // namespace
 
-std::string Format(const char* format, ...) {
-  va_list arguments;
-  va_start(arguments, format);
+std::string FormatList(const char* format, va_list arguments) {
   va_list again;
   va_copy(again, arguments);
-  const int length = std::vsnprintf(nullptr, 0, format, arguments);
-  va_end(arguments);
-  std::string result(static_cast<size_t>(std::max(length, 0)), '\0');
-  std::vsnprintf(result.data(), result.size() + 1, format, again);
+  const int length = std::vsnprintf(nullptr, 0, format, again);
   va_end(again);
+  std::string result(static_cast<size_t>(std::max(length, 0)), '\0');
+  std::vsnprintf(result.data(), result.size() + 1, format, arguments);
   return result;
 }
 
-int TextToInt(std::string_view text) {
-  text = withoutLeadingBlanks(text);
-  const bool negative = !text.empty() && text.front() == '-';
-  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+std::string Format(const char* format, ...) {
+  va_list arguments;
+  va_start(arguments, format);
+  std::string result = FormatList(format, arguments);
+  va_end(arguments);
+  return result;
+}
+
+std::optional<int> LeadingInt(std::string_view text) {
+  skipBlanks(text);
+  const bool negative = takeSign(text);
+  if (text.empty() || !isDigit(text.front())) return std::nullopt;
   long long value = 0;
   for (const char c : text) {
-    if (c < '0' || c > '9') break;
+    if (!isDigit(c)) break;
     value = value * 10 + (c - '0');
     if (value > INT_MAX) return negative ? INT_MIN : INT_MAX;
   }
   return static_cast<int>(negative ? -value : value);
 }
 
-double TextToDouble(std::string_view text) {
-  text = withoutLeadingBlanks(text);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+std::optional<double> TakeNumber(std::string_view& text) {
+  std::string_view rest = text;
+  skipBlanks(rest);
+  const bool negative = takeSign(rest);
+  // Keeps out a second sign, and the words for infinity and not-a-number.
+  if (rest.empty() || !(isDigit(rest.front()) || rest.front() == '.')) return std::nullopt;
   double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error == std::errc::invalid_argument || !std::isfinite(value)) return 0;
-  return value;
+  const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value);
+  if (error == std::errc::invalid_argument) return std::nullopt;
+  const auto length = static_cast<size_t>(end - rest.data());
+  if (error == std::errc::result_out_of_range) value = nearestInRange(rest.substr(0, length));
+  text = rest.substr(length);
+  return negative ? -value : value;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const auto blank = [](char c) { return static_cast<unsigned char>(c) <= 32; };
+  while (!text.empty() && blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && blank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 std::string LowerCase(std::string_view text) {
@@ -82,13 +115,12 @@ bool StartsWithNoCase(std::string_view text, std::string_view prefix) {
 
 std::vector<std::string> Split(std::string_view text, char separator) {
   std::vector<std::string> pieces;
-  while (!text.empty()) {
-    const size_t at = text.find(separator);
+  if (text.empty()) return pieces;
+  for (size_t at = text.find(separator); at != text.npos; at = text.find(separator)) {
     pieces.emplace_back(text.substr(0, at));
-    if (at == std::string_view::npos) return pieces;
     text.remove_prefix(at + 1);
-    if (text.empty()) pieces.emplace_back();
   }
+  pieces.emplace_back(text);
   return pieces;
 }
 

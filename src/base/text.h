@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cmath>
+#include <cstdarg>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,12 +12,21 @@ namespace velk {
 
 // printf into a string.
 std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2)));
+std::string FormatList(const char* format, va_list arguments) __attribute__((format(printf, 1, 0)));
 
-// Text to integer as the C library's atoi reads it (blanks, sign, leading digits; 0 when there are
-// none), but a number out of range gives the nearest int.
-int TextToInt(std::string_view text);
-// Text to number: the longest leading decimal number, 0 when there is none.
-double TextToDouble(std::string_view text);
+// The integer at the start of the text (blanks, a sign, digits); a number out of range gives the nearest
+// int.
+std::optional<int> LeadingInt(std::string_view text);
+// The same, 0 when there are no digits.
+inline int TextToInt(std::string_view text) { return LeadingInt(text).value_or(0); }
+// The longest decimal number at the start of the text, after blanks, which it takes off the text's
+// front; always finite. Nothing is taken when there is none.
+std::optional<double> TakeNumber(std::string_view& text);
+// The same, 0 when there is none.
+inline double TextToDouble(std::string_view text) { return TakeNumber(text).value_or(0); }
+
+// Without the blanks and control characters at both ends.
+std::string_view Trimmed(std::string_view text);
 
 // ASCII letters only; other bytes stay as they are.
 std::string LowerCase(std::string_view text);
@@ -29,7 +40,9 @@ bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 std::vector<std::string> Split(std::string_view text, char separator);
 
 // Nearest integer, halves away from zero.
-inline double RoundHalfAway(double value) { return value < 0 ? std::ceil(value - 0.5) : std::floor(value + 0.5); }
+inline double RoundHalfAway(double value) {
+  return value < 0 ? std::ceil(value - 0.5) : std::floor(value + 0.5);
+}
 // Nearest multiple of step (at least 1), halves away from zero.
 inline double Snap(double value, int step) { return RoundHalfAway(value / step) * step; }
 // Integer part, the fraction dropped toward zero; a value out of an int's range gives the nearest int,

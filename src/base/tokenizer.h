@@ -27,11 +27,11 @@ class Tokenizer {
   std::string_view token() const { return token_; }
   // The last token was quoted.
   bool quoted() const { return quoted_; }
-  // 1 at the start of the text.
+  // The line being read, 1 at the start of the text. Line feeds inside quoted tokens do not count.
   int line() const { return line_; }
-  // Line number on which the last token ends. Bytes of quoted tokens never count as lines.
 
-  // While on, every skipped comment is examined for a group number: //"dddd".
+  // While on, every skipped comment is examined for a group number: //"dddd", four characters of which
+  // the leading digits count.
   void setCapture(bool on) { capture_ = on; }
   // The number in the last comment examined, 0 when it held none.
   int capturedGroup() const { return capturedGroup_; }
@@ -45,6 +45,7 @@ class Tokenizer {
  private:
   bool skipToToken(bool acrossLines);
   bool skipComment(bool acrossLines);
+  const char* tokenEnd(const char* start) const;
 
   const char* position_ = nullptr;
   const char* end_ = nullptr;

@@ -1,0 +1,119 @@
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include "base/descriptor.h"
+#include "base/files.h"
+#include "base/text.h"
+
+namespace velk {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMaxLinks = 40;
+constexpr int kMaxAttempts = 1000;
+
+// What is known of the file to be replaced.
+struct Target {
+  fs::path path;  // links followed
+  bool exists = false;
+  struct stat info {};
+  std::string refusal;  // why it may not be replaced, empty when it may
+};
+
+// Follows links, also to a file that does not exist yet.
+fs::path behindLinks(fs::path file) {
+  std::error_code error;
+  for (int links = 0; links < kMaxLinks && fs::is_symlink(file, error); ++links) {
+    const fs::path next = fs::read_symlink(file, error);
+    if (error) break;
+    file = file.parent_path() / next;
+  }
+  return file;
+}
+
+std::string refusalOf(const Target& target) {
+  if (S_ISDIR(target.info.st_mode)) return std::strerror(EISDIR);
+  if (!S_ISREG(target.info.st_mode)) return "Not a regular file";
+  // The superuser may write everything, but whoever marked the file read-only meant it.
+  if ((target.info.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return std::strerror(EACCES);
+  return ::faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? "" : std::strerror(errno);
+}
+
+Target examine(const fs::path& file) {
+  Target target;
+  target.path = behindLinks(file);
+  target.exists = ::stat(target.path.c_str(), &target.info) == 0;
+  if (target.exists) {
+    target.refusal = refusalOf(target);
+  } else if (errno != ENOENT) {
+    target.refusal = std::strerror(errno);
+  }
+  return target;
+}
+
+// Makes the new file in the target's folder under a name that no other editor uses. It starts out
+// private when it is to take over another mode.
+int createBeside(const Target& target, fs::path& beside) {
+  const mode_t mode = target.exists ? 0600 : 0666;
+  int created = -1;
+  for (int attempt = 0; created < 0 && attempt < kMaxAttempts; ++attempt) {
+    beside = target.path.parent_path() / Format(".velk-%ld-%i.tmp", static_cast<long>(::getpid()), attempt);
+    created = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    if (created < 0 && errno != EEXIST) break;
+  }
+  return created;
+}
+
+// Owner first: changing it may clear mode bits. File systems without owners or modes refuse, which is
+// no reason not to save.
+void takeOver(int file, const struct stat& info) {
+  [[maybe_unused]] const bool owned = ::fchown(file, info.st_uid, info.st_gid) == 0;
+  [[maybe_unused]] const bool sameMode = ::fchmod(file, info.st_mode & 07777) == 0;
+}
+
+bool writeAll(int file, std::string_view contents) {
+  while (!contents.empty()) {
+    const ssize_t put = ::write(file, contents.data(), contents.size());
+    if (put < 0 && errno == EINTR) continue;
+    if (put < 0) return false;
+    contents.remove_prefix(static_cast<size_t>(put));
+  }
+  return true;
+}
+
+bool writeAndFlush(Descriptor& file, const Target& target, std::string_view contents) {
+  if (!writeAll(file.get(), contents)) return false;
+  if (target.exists) takeOver(file.get(), target.info);
+  return ::fsync(file.get()) == 0 && file.close();
+}
+
+// Makes the renaming last. The new file is in place already, so a folder that cannot be flushed (some
+// network file systems) does not make the save fail.
+void flushFolder(const fs::path& folder) {
+  const Descriptor open(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (open.ok()) ::fsync(open.get());
+}
+
+}  // namespace
+
+WriteResult ReplaceFile(const fs::path& file, std::string_view contents) {
+  const Target target = examine(file);
+  if (!target.refusal.empty()) return {false, false, target.refusal};
+  fs::path beside;
+  Descriptor fresh(createBeside(target, beside));
+  if (!fresh.ok()) return {false, false, std::strerror(errno)};
+  if (!writeAndFlush(fresh, target, contents) || std::rename(beside.c_str(), target.path.c_str()) != 0) {
+    std::string reason = std::strerror(errno);
+    ::unlink(beside.c_str());
+    return {false, true, std::move(reason)};
+  }
+  flushFolder(target.path.parent_path());
+  return {};
+}
+
+}  // namespace velk

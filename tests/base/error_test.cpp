@@ -1,0 +1,47 @@
+#include "base/error.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+using test::FatalError;
+
+TEST(ErrorTest, HandlerGetsTheFormattedMessageAndMayThrowAgainAndAgain) {
+  EXPECT_FATAL(Error("Line %i of %s", 7, "a.map"), "Line 7 of a.map");
+  EXPECT_FATAL(Error("%s", std::string(5000, 'x').c_str()), std::string(5000, 'x'));
+}
+
+TEST(ErrorTest, HandlerMayInstallAnother) {
+  ErrorHandler before;
+  before = SetErrorHandler([&](const std::string& message) {
+    SetErrorHandler(before);
+    throw FatalError("replaced: " + message);
+  });
+  EXPECT_FATAL(Error("one"), "replaced: one");
+  EXPECT_FATAL(Error("two"), "two");
+}
+
+TEST(ErrorDeathTest, ErrorInsideAReportEndsTheProgramAtOnce) {
+  const auto nested = [] {
+    SetErrorHandler([](const std::string&) { Error("inner"); });
+    Error("outer");
+  };
+  EXPECT_EXIT(nested(), testing::ExitedWithCode(0), "^$");
+}
+
+TEST(ErrorDeathTest, WithoutAHandlerOrWithOneThatReturnsTheMessageGoesToStandardError) {
+  const ErrorHandler handlers[] = {nullptr, [](const std::string&) {}};
+  for (const ErrorHandler& handler : handlers) {
+    const auto fail = [&] {
+      SetErrorHandler(handler);
+      Error("Couldn't copy %s!", "map");
+    };
+    EXPECT_EXIT(fail(), testing::ExitedWithCode(3), "^Couldn't copy map!\n$");
+  }
+}
+
+}  // namespace
+}  // namespace velk
