@@ -2,11 +2,11 @@
 #pragma once
 
 #include <array>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "base/paths.h"
@@ -16,6 +16,9 @@
 namespace velk {
 
 struct EntityClass {
+  // What every definition starts with.
+  static constexpr std::string_view kMark = "/*QUAKED";
+
   std::string name;
   bool fixedSize = true;        // a point with the box mins..maxs; false: built of brushes
   std::array<float, 3> mins{};  // relative to the entity's origin, world units
@@ -41,7 +44,8 @@ class EntityClassList {
   EntityClassList();
 
   // Reads the files of settings.entities in settings.entity_qc_directory, replacing what was there. A
-  // missing file is asked for; Cancel skips it. An unreadable file is fatal.
+  // missing file is asked for; Cancel skips it. An unreadable file is fatal "Error scanning %s for
+  // eclasses...".
   void loadAll(const Settings& settings, const Paths& paths, Prompts& prompts);
 
   // Adds every definition in the text of one file.
@@ -62,10 +66,11 @@ class EntityClassList {
   int indexOf(const EntityClass& entityClass) const;
 
  private:
-  void scanFile(const Paths& paths, const std::string& shown);
+  void loadFile(const std::string& name, const Settings& settings, const Paths& paths, Prompts& prompts);
+  void scanFile(const std::string& file, const Paths& paths);
 
   std::vector<std::unique_ptr<EntityClass>> table_;
-  std::map<std::string_view, const EntityClass*> byName_;  // the first of each name
+  std::unordered_map<std::string_view, const EntityClass*> byName_;  // the first of each name in the table
   EntityClass unknown_;
   bool sorted_ = true;
 };

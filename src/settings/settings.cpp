@@ -1,7 +1,9 @@
 #include "settings/settings.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
+#include <cstdlib>
+#include <iterator>
 
 #include "base/paths.h"
 #include "base/text.h"
@@ -10,24 +12,9 @@
 namespace velk {
 namespace {
 
-constexpr const char* kVelk = "Velk";
-constexpr const char* kVelkColors = "VelkColors";
 constexpr size_t kMaxText = 127;
-
-constexpr const char* kPreferenceKeys[] = {
-    "drag_vertex",       "lightintensity",    "ambientintensity", "vertex_drag_sensitivity",
-    "face_drag_percent", "select_delta",      "steps_per_turn",   "gridsize",
-    "stepsize",          "far_clip_distance", "gammashift",       "texture_width",
-    "texture_height",    "height_frq",        "height_fav",       "velk_font_size",
-    "velk_font",         "start_set->scale",  "show_tabs",        "vertex_use_grid",
-    "groupmode",         "show_grid",         "show_coordinates", "show_names",
-    "showeye",           "stretch_textures",  "query_wall_width", "show_favorites",
-    "show_frequent",     "show_cameras",      "multi_select",     "texture_alignment",
-    "shadetextures",     "shadeflats",        "lock_cameras"};
-constexpr const char* kDirectoryKeys[] = {
-    "map_directory", "entity_qc_directory", "wad_directory", "bat_directory", "badtex",
-    "newmap",        "default_wad",         "entities"};
-constexpr const char* kOutlineKeys[] = {"brush_outline", "select_outline", "face_outline"};
+// A path that is cut leads elsewhere, so paths may be as long as the system's.
+constexpr size_t kMaxPath = 4095;
 
 // The member in the record, whether it lies in the record itself or among its colours.
 template <typename Record, typename T>
@@ -39,35 +26,48 @@ auto& valueOf(Record& settings, Colour ViewColours::*member) {
   return settings.colours.*member;
 }
 
+// "red green blue"; channels that are missing or unreadable keep their values.
 Colour parseColour(const std::string& text, Colour colour) {
-  std::sscanf(text.c_str(), "%i %i %i", &colour.red, &colour.green, &colour.blue);
-  for (int* channel : {&colour.red, &colour.green, &colour.blue}) *channel = std::clamp(*channel, 0, 255);
+  const char* rest = text.c_str();
+  for (int* channel : {&colour.red, &colour.green, &colour.blue}) {
+    char* end = nullptr;
+    const long number = std::strtol(rest, &end, 0);
+    if (end == rest) break;
+    *channel = static_cast<int>(std::clamp(number, 0L, 255L));
+    rest = end;
+  }
   return colour;
 }
 
-int limited(const SettingKey& key, const std::string& text) {
-  return std::clamp(TextToInt(text), key.low, key.high);
+// A value without digits keeps what the record holds.
+int limited(const SettingKey& key, const std::string& text, int held) {
+  return std::clamp(LeadingInt(text).value_or(held), key.limits.low, key.limits.high);
 }
 
 void assign(const SettingKey& key, const std::string& text, std::string& value) {
   if (text.empty()) return;
-  value = text.substr(0, kMaxText);
+  value = text.substr(0, key.form == KeyForm::Text ? kMaxText : kMaxPath);
   if (key.form == KeyForm::Directory) value = WithSeparator(value);
 }
-void assign(const SettingKey&, const std::string& text, Colour& value) {
-  if (!text.empty()) value = parseColour(text, value);
+void assign(const SettingKey&, const std::string& text, Colour& value) { value = parseColour(text, value); }
+void assign(const SettingKey&, const std::string& text, bool& value) {
+  value = LeadingInt(text).value_or(value ? 1 : 0) != 0;
 }
-void assign(const SettingKey&, const std::string& text, bool& value) { value = TextToInt(text) != 0; }
-void assign(const SettingKey& key, const std::string& text, int& value) { value = limited(key, text); }
+void assign(const SettingKey& key, const std::string& text, int& value) { value = limited(key, text, value); }
 void assign(const SettingKey& key, const std::string& text, double& value) {
-  value = limited(key, text) * 0.01;
+  if (const auto hundredths = LeadingInt(text)) value = limited(key, text, *hundredths) * 0.01;
 }
 void assign(const SettingKey& key, const std::string& text, float& value) {
   if (key.form == KeyForm::Number) {
-    value = static_cast<float>(limited(key, text));
-  } else if (const double number = TextToDouble(text); number > 0) {
-    value = static_cast<float>(number);
+    value = static_cast<float>(limited(key, text, Truncate(value)));
+  } else if (const auto number = static_cast<float>(std::min(TextToDouble(text), 1e30)); number > 0) {
+    value = number;
   }
+}
+
+std::string shortest(float value) {
+  char text[32];
+  return {text, std::to_chars(std::begin(text), std::end(text), value).ptr};
 }
 
 std::string written(const SettingKey&, const std::string& value) { return value; }
@@ -75,72 +75,71 @@ std::string written(const SettingKey&, const Colour& value) {
   return Format("%i %i %i", value.red, value.green, value.blue);
 }
 std::string written(const SettingKey&, bool value) { return value ? "1" : "0"; }
-std::string written(const SettingKey&, int value) { return Format("%i", value); }
-// The rounding guards against fractions that lie just below their hundredth.
-std::string written(const SettingKey&, double value) { return Format("%i", Truncate(value * 100 + 1e-9)); }
+std::string written(const SettingKey&, int value) { return std::to_string(value); }
+// A fraction may lie just below its hundredth.
+std::string written(const SettingKey&, double value) { return std::to_string(Truncate(value * 100 + 1e-9)); }
 std::string written(const SettingKey& key, float value) {
-  return key.form == KeyForm::Number ? Format("%i", Truncate(value)) : Format("%g", double(value));
+  return key.form == KeyForm::Number ? std::to_string(Truncate(value)) : shortest(value);
 }
 
-std::string textOf(const Settings& settings, const SettingKey& key) {
+std::string textOf(const SettingKey& key, const Settings& settings) {
   return std::visit([&](auto member) { return written(key, valueOf(settings, member)); }, key.member);
 }
 
-void readKeys(std::span<const SettingKey> keys, const char* section, const IniFile& ini, Settings& settings) {
-  for (const SettingKey& key : keys) {
-    const auto text = ini.find(section, key.name);
-    if (text) std::visit([&](auto member) { assign(key, *text, valueOf(settings, member)); }, key.member);
-  }
-}
-
-const SettingKey* findKey(std::string_view name) {
-  for (const auto keys : {VelkKeys(), ColourKeys()}) {
-    for (const SettingKey& key : keys) {
-      if (EqualNoCase(key.name, name)) return &key;
-    }
-  }
-  return nullptr;
-}
-
-void store(std::span<const char* const> names, const Settings& settings, IniFile& ini) {
-  for (const char* name : names) ini.set(kVelk, name, textOf(settings, *findKey(name)));
+void readKey(const SettingKey& key, const std::string& text, Settings& settings) {
+  std::visit([&](auto member) { assign(key, text, valueOf(settings, member)); }, key.member);
 }
 
 // Rules that are not a plain range.
 void applyOddLimits(Settings& settings) {
   if (settings.texture_list_width < 0) settings.texture_list_width = 80;
   settings.texture_list_width = std::min(settings.texture_list_width, 320);
-  settings.granularity = 1;  // the classic scroll step, whatever the file says
-  settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
+  settings.granularity = 1;  // the texture browser scrolls by single rows, whatever the file says
+}
+
+void store(SavedBy dialog, const Settings& settings, IniFile& ini) {
+  std::vector<const SettingKey*> keys;
+  for (const SettingKey& key : SettingKeys()) {
+    if (key.savedBy == dialog) keys.push_back(&key);
+  }
+  std::ranges::sort(keys, {}, &SettingKey::place);
+  for (const SettingKey* key : keys) ini.set(SectionName(key->section), key->name, textOf(*key, settings));
 }
 
 }  // namespace
 
 Settings LoadSettings(const IniFile& ini) {
   Settings settings;
-  readKeys(VelkKeys(), kVelk, ini, settings);
-  readKeys(ColourKeys(), kVelkColors, ini, settings);
+  for (const SettingKey& key : SettingKeys()) {
+    if (const auto text = ini.find(SectionName(key.section), key.name)) readKey(key, *text, settings);
+  }
   applyOddLimits(settings);
+  settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
   return settings;
 }
 
 void StorePreferences(const Settings& settings, IniFile& ini) {
   Settings saved = settings;
   saved.start_set_scale = std::max(1, Truncate(RoundHalfAway(settings.scale * 100.0)));
-  store(kPreferenceKeys, saved, ini);
+  store(SavedBy::Preferences, saved, ini);
 }
 
-void StoreDirectories(const Settings& settings, IniFile& ini) { store(kDirectoryKeys, settings, ini); }
+void StoreColours(const Settings& settings, IniFile& ini) { store(SavedBy::Colours, settings, ini); }
 
-void StoreColours(const Settings& settings, IniFile& ini) {
-  for (const SettingKey& key : ColourKeys()) ini.set(kVelkColors, key.name, textOf(settings, key));
-  store(kOutlineKeys, settings, ini);
-}
+void StoreDirectories(const Settings& settings, IniFile& ini) { store(SavedBy::Directories, settings, ini); }
 
 std::optional<std::string> SettingText(const Settings& settings, std::string_view name) {
-  const SettingKey* key = findKey(name);
+  const SettingKey* key = FindSettingKey(name);
   if (!key) return std::nullopt;
-  return textOf(settings, *key);
+  return textOf(*key, settings);
+}
+
+bool SetSettingText(Settings& settings, std::string_view name, const std::string& text) {
+  const SettingKey* key = FindSettingKey(name);
+  if (!key) return false;
+  readKey(*key, text, settings);
+  applyOddLimits(settings);
+  return true;
 }
 
 }  // namespace velk

@@ -2,7 +2,9 @@
 // editor; everyone else gets a const reference.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/colour.h"
 #include "base/inifile.h"
@@ -169,15 +171,20 @@ struct Settings {
   double turnStep() const { return 6.283185307179586 / steps_per_turn; }
 };
 
-// Reads every key of both sections; missing or unreadable values keep the defaults, limits are applied.
+// Reads every key of both sections; missing or unreadable values keep the defaults, numbers out of their
+// limits become the nearest limit. `scale` starts at `start_set_scale`.
 Settings LoadSettings(const IniFile& ini);
 
-// Write the keys of the three dialogs, in their fixed order, into `ini`.
+// Write the keys of the three dialogs, in their fixed order, into `ini`. The preferences save the current
+// scale as the one to start with.
 void StorePreferences(const Settings& settings, IniFile& ini);
 void StoreColours(const Settings& settings, IniFile& ini);
 void StoreDirectories(const Settings& settings, IniFile& ini);
 
-// The value of any key of the key table as velk.ini would hold it; none for an unknown key.
+// The value of any key of either section as velk.ini would hold it; none for an unknown key.
 std::optional<std::string> SettingText(const Settings& settings, std::string_view key);
+// Gives a key the value that `text` would give it in velk.ini, limits and unreadable values included; false
+// for an unknown key.
+bool SetSettingText(Settings& settings, std::string_view key, const std::string& text);
 
 }  // namespace velk
