@@ -124,9 +124,4 @@ std::vector<std::string> Split(std::string_view text, char separator) {
   return pieces;
 }
 
-int Truncate(double value) {
-  if (std::isnan(value)) return 0;
-  return static_cast<int>(std::clamp(value, double(INT_MIN), double(INT_MAX)));
-}
-
 }  // namespace velk

@@ -1,6 +1,8 @@
 // Text and rounding helpers shared by every layer.
 #pragma once
 
+#include <algorithm>
+#include <climits>
 #include <cmath>
 #include <cstdarg>
 #include <optional>
@@ -47,6 +49,8 @@ inline double RoundHalfAway(double value) {
 inline double Snap(double value, int step) { return RoundHalfAway(value / step) * step; }
 // Integer part, the fraction dropped toward zero; a value out of an int's range gives the nearest int,
 // not-a-number gives 0.
-int Truncate(double value);
+inline int Truncate(double value) {
+  return std::isnan(value) ? 0 : int(std::clamp(value, double(INT_MIN), double(INT_MAX)));
+}
 
 }  // namespace velk

@@ -227,7 +227,7 @@ class LineTokens {
   const char* block_;
   const char* at_;
   Bytes64 bytes_;
-  int blocks_ = 1;   // looked at
+  int blocks_ = 1;  // looked at
 };
 
 bool IsPlainName(const LineToken& name) {

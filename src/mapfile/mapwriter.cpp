@@ -13,7 +13,12 @@ namespace {
 
 constexpr size_t kFaceLength = 12 * (kIntegerLength + 1) + 2 * (kSixDecimalsLength + 1) + 16;
 
-void WriteGroup(int group, TextOut& out) { out.line(Format("//\"%04i\"", group)); }
+void WriteGroup(int group, TextOut& out) {
+  char text[] = "//\"0000\"";
+  group = std::clamp(group, 0, 9999);
+  for (int digit = 6; digit > 2; --digit, group /= 10) text[digit] = static_cast<char>('0' + group % 10);
+  out.line(text);
+}
 
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= 32; }
 

@@ -1,10 +1,10 @@
 #include "mapfile/textout.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <utility>
 
 namespace velk {
@@ -27,14 +27,17 @@ std::uint64_t Millionths(std::uint64_t mantissa, int exponent) {
 
 }  // namespace
 
-char* PutInteger(char* at, int value) { return std::to_chars(at, at + kIntegerLength, value).ptr; }
+char* PutManyDigits(char* at, int value) { return std::to_chars(at, at + kIntegerLength, value).ptr; }
 
 char* PutSixDecimals(char* at, float value) {
+  if (value == 1) return PutText(at, "1.000000");
   if (!std::isfinite(value)) value = 0;
-  int exponent = 0;
-  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(std::frexp(std::fabs(value), &exponent), 24));
-  exponent -= 24;
-  if (std::signbit(value)) *at++ = '-';
+  const auto bits = std::bit_cast<std::uint32_t>(value);
+  if (bits >> 31 != 0) *at++ = '-';
+  // The exponent of a whole mantissa; numbers without its implied highest bit have the lowest exponent.
+  const int biased = bits >> 23 & 0xFF;
+  const std::uint64_t mantissa = (bits & 0x7FFFFF) | (biased > 0 ? 0x800000 : 0);
+  const int exponent = std::max(biased, 1) - 150;
   if (exponent > 18) {  // out of the range of 64 bits
     return std::to_chars(at, at + kSixDecimalsLength, std::fabs(value), std::chars_format::fixed, 6).ptr;
   }

@@ -12,7 +12,12 @@ inline constexpr int kSixDecimalsLength = 47;
 
 // Write the number at `at` and return the place after it. The texts are those of printf's "%d" and "%f";
 // numbers that are not finite are written as 0.
-char* PutInteger(char* at, int value);
+char* PutManyDigits(char* at, int value);
+inline char* PutInteger(char* at, int value) {
+  if (value < 0 || value > 9) return PutManyDigits(at, value);
+  *at = static_cast<char>('0' + value);
+  return at + 1;
+}
 char* PutSixDecimals(char* at, float value);
 inline char* PutText(char* at, std::string_view text) { return at + text.copy(at, text.size()); }
 
