@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/builders.h"
 #include "support/fatal.h"
 
 namespace velk {
@@ -10,20 +11,15 @@ namespace {
 class FaceTextures : public testing::Test {
  protected:
   FaceTextures() {
-    m.initNew("");
-    for (const char* texture : {"wall1", "Wall1", "floor"}) {
-      auto b = std::make_unique<brush>();
-      b->initBox(*m.world(), {0, 0, 0}, {8, 8, 8}, {texture, 0, {0, 0}, {1, 1}});
-      m.world()->addobject(std::move(b));
-    }
+    for (const char* texture : {"wall1", "Wall1", "floor"})
+      test.boxIn(test.world(), {0, 0, 0}, {8, 8, 8}, texture);
     m.modified = false;
   }
   brush& at(int index) { return *m.world()->at(index); }
   std::string textureOf(int index, size_t face) { return at(index).faces[face].texture.name; }
 
-  Settings settings;
-  EntityClassList classes;
-  map m{settings, classes};
+  test::TestMap test;
+  map& m = test.m;
   const texturedef brick{"brick", 45, {1.9f, -2.9f}, {0.5f, 2}};
 };
 
@@ -67,7 +63,7 @@ TEST_F(FaceTextures, TheCurrentFaceStepsRound) {
 TEST_F(FaceTextures, ReplacingIgnoresCaseAndHiddenGroups) {
   EXPECT_EQ(ReplaceTexture(m, "none", "brick").faces, 0);
   EXPECT_FALSE(m.modified);
-  settings.groupmode = true;
+  test.settings.groupmode = true;
   at(1).group = m.groups.add("hidden");
   m.groups.setVisible(at(1).group, false);
   const ReplacedTextures done = ReplaceTexture(m, "WALL1", "brick2");
@@ -75,7 +71,7 @@ TEST_F(FaceTextures, ReplacingIgnoresCaseAndHiddenGroups) {
   EXPECT_EQ(done.faces, 6);
   EXPECT_EQ(textureOf(0, 2), "BRICK2");
   EXPECT_EQ(textureOf(1, 2), "Wall1");
-  settings.groupmode = false;
+  test.settings.groupmode = false;
   EXPECT_EQ(ReplaceTexture(m, "wall1", "x").brushes, 1);
 }
 
@@ -85,7 +81,7 @@ TEST_F(FaceTextures, SelectingByTextureAddsToTheSelection) {
   EXPECT_TRUE(at(0).selected);
   EXPECT_TRUE(at(1).selected);
   EXPECT_FALSE(at(2).selected);
-  settings.groupmode = true;
+  test.settings.groupmode = true;
   at(2).group = 7;  // no such group
   EXPECT_EQ(SelectByTexture(m, "floor"), 0);
 }

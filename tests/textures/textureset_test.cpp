@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/fatal.h"
+#include "support/builders.h"
 #include "support/queuedprompts.h"
 #include "support/tempfolder.h"
 #include "support/wadbuilder.h"
@@ -15,10 +15,7 @@ using Names = std::vector<std::string>;
 
 class TextureSetTest : public testing::Test {
  protected:
-  TextureSetTest() {
-    settings.wad_directory = folder.directory();
-    m.initNew("");
-  }
+  TextureSetTest() { settings.wad_directory = folder.directory(); }
 
   // Writes a wad of textures with these names.
   void wad(const std::string& file, const Names& names, int pixel = 7) {
@@ -35,18 +32,14 @@ class TextureSetTest : public testing::Test {
     for (int i = 0; i < set.count(); ++i) all.push_back(set.at(i).texture->name);
     return all;
   }
-  void box(const std::string& texture, int count = 1) {
-    for (int i = 0; i < count; ++i) {
-      auto b = std::make_unique<brush>();
-      b->initBox(*m.world(), {0, 0, 0}, {8, 8, 8}, {texture, 0, {0, 0}, {1, 1}});
-      m.world()->addobject(std::move(b));
-    }
+  void box(const std::string& texture, int count) {
+    for (int i = 0; i < count; ++i) test.boxIn(test.world(), {0, 0, 0}, {8, 8, 8}, texture);
   }
 
   test::TempFolder folder;
-  Settings settings;
-  EntityClassList classes;
-  map m{settings, classes};
+  test::TestMap test;
+  Settings& settings = test.settings;
+  map& m = test.m;
   Paths paths;
   test::QueuedPrompts prompts;
   TextureManager manager{{settings, paths, prompts}};
