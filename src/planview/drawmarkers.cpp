@@ -25,12 +25,15 @@ void drawSquare(Canvas& canvas, const PixelRect& square, Colour border, Colour i
   canvas.polygon({border, 1}, corners);
 }
 
+// Rounded, so that an arrow along an axis stays straight.
+Pixel nearestPixel(double x, double y) { return {Truncate(RoundHalfAway(x)), Truncate(RoundHalfAway(y))}; }
+
 // Pixels that follow the arrow's tip in its direction.
 void drawDots(Canvas& canvas, Colour colour, const ArrowTip& tip, double b, double length, int count) {
   std::vector<Pixel> dots;
   for (int i = 1; i <= count; ++i) {
     const double along = i * 0.4 * length;
-    dots.push_back({Truncate(tip.x + along * std::cos(b)), Truncate(tip.y + along * std::sin(b))});
+    dots.push_back(nearestPixel(tip.x + along * std::cos(b), tip.y + along * std::sin(b)));
   }
   canvas.points(colour, dots);
 }
@@ -65,7 +68,7 @@ void drawCamera(ViewPainter& painter, int index) {
 ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length) {
   const double baseX = origin.x - 0.3 * length * std::cos(b), baseY = origin.y - 0.3 * length * std::sin(b);
   const auto from = [&](double angle, double distance) {
-    return Pixel{Truncate(baseX + distance * std::cos(angle)), Truncate(baseY + distance * std::sin(angle))};
+    return nearestPixel(baseX + distance * std::cos(angle), baseY + distance * std::sin(angle));
   };
   const Pixel tip = from(b, length);
   const Pixel head[] = {tip, from(b + 0.2, 0.6 * length), from(b, 0.8 * length), from(b - 0.2, 0.6 * length)};

@@ -1,0 +1,1 @@
+velk_bench(planview SOURCES planview_bench.cpp USES mapfile)

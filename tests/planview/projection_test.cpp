@@ -1,0 +1,151 @@
+#include <climits>
+
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "plan_fixture.h"
+#include "planview/gridlines.h"
+
+namespace velk {
+namespace {
+
+using test::PlanFixture;
+
+PlanProjection projectionOf(int width, int height, double scale, vec3 centre = {}) {
+  PlanView view;
+  view.clientWidth = width;
+  view.clientHeight = height;
+  return view.projection(centre, scale);
+}
+
+TEST(Projection, TruncatesTowardZeroFromTheHalvedClientSize) {
+  const struct {
+    int width;
+    double scale;
+    float u, v;
+    Pixel expected;
+  } cases[] = {
+      {200, 1, 0, 0, {100, 100}},
+      {201, 1, 0, 0, {100, 100}},
+      {200, 1, 10, 10, {110, 90}},
+      {200, 0.25, 3, 3, {100, 99}},
+      {200, 1, -100.5f, 100.5f, {0, 0}},  // -0.5 is cut to 0
+      {200, 16, 18000, -18000, {288100, 288100}},
+      {200, 16, 3e9f, -3e9f, {INT_MAX, INT_MAX}},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(projectionOf(c.width, c.width, c.scale).worldToScreen({c.u, c.v, 99}), c.expected) << c.u;
+  }
+}
+
+TEST(Projection, ScreenToWorldTakesTheExactMiddle) {
+  const PlanProjection p = projectionOf(201, 201, 2, {50, 60, 0});
+  EXPECT_DOUBLE_EQ(p.screenToWorld({100, 100}).u, 49.75);
+  EXPECT_DOUBLE_EQ(p.screenToWorld({100, 100}).v, 60.25);
+  EXPECT_GT(p.screenToWorld({100, 99}).v, p.screenToWorld({100, 100}).v);
+}
+
+TEST(PlanView, OrientationsTurnThroughTheirAxesAndTitles) {
+  const struct {
+    Orientation orientation;
+    int u, v, depth;
+    const char *down, *up, *downField, *upField;
+  } cases[] = {
+      {kOrientationXY, 0, 1, 2, "Top   - XY View", "Bottom   - XY View", "Up", "Down"},
+      {kOrientationYZ, 1, 2, 0, "Right - YZ View", "Left - YZ View", "Right", "Left"},
+      {kOrientationXZ, 0, 2, 1, "Front - XZ View", "Back - XZ View", "Front", "Back"},
+  };
+  const Settings settings;
+  PlanViewSet set;
+  for (const auto& c : cases) {
+    PlanView& view = set.currentView();
+    ASSERT_EQ(view.orientation, c.orientation);
+    EXPECT_EQ(view.axisU * 100 + view.axisV * 10 + view.axisDepth, c.u * 100 + c.v * 10 + c.depth);
+    const std::string rest = " - [Grid 8 / Scale 100.0%]";
+    EXPECT_EQ(captionText(view, settings), c.down + rest);
+    EXPECT_EQ(directionText(view), c.downField);
+    view.flip();
+    EXPECT_EQ(captionText(view, settings), c.up + rest);
+    EXPECT_EQ(directionText(view), c.upField);
+    view.flip();
+    EXPECT_EQ(directionText(view), c.downField);
+    view.flip();  // turning looks down again
+    EXPECT_EQ(switchMapView(set), "Map View Toggled...");
+  }
+  EXPECT_EQ(set.currentView().orientation, kOrientationXY);
+}
+
+TEST_F(PlanFixture, FieldsShowCameraPositionAndDepth) {
+  m.currentCamera = 3;
+  EXPECT_EQ(cameraText(m), "C(4)");
+  EXPECT_EQ(coordinateText({11.9, -11.9}, settings), "(11,-11)");
+  settings.show_grid = true;
+  EXPECT_EQ(coordinateText({11.9, -12}, settings), "(8,-16)");
+  EXPECT_EQ(coordinateText({1e30, -1e30}, settings), Format("(%i,%i)", INT_MAX, INT_MIN));
+  EXPECT_EQ(depthRangeText(set.currentView(), m), "  0.0  80.0  80.0");
+}
+
+TEST_F(PlanFixture, FollowsACameraUnlessLocked) {
+  EXPECT_FALSE(setPlanCenter(set, &m, {1, 2, 3}, true));
+  EXPECT_FALSE(setPlanCenter(set, nullptr, {1, 2, 3}, false));
+  EXPECT_EQ(set.planCenter.x, 0);
+  EXPECT_TRUE(setPlanCenter(set, &m, {1, 2, 3}, false));
+  EXPECT_EQ(set.planCenter.z, 3);
+}
+
+TEST(Nudge, MovesOneGridStepAlongTheViewsAxes) {
+  const Settings settings;
+  const PlanView side(kOrientationYZ);
+  const struct {
+    Nudge direction;
+    vec3 expected;
+    const char* text;
+  } cases[] = {
+      {Nudge::Down, {0, 0, -8}, "Selection moved down..."},
+      {Nudge::Up, {0, 0, 8}, "Selection moved up..."},
+      {Nudge::Left, {0, -8, 0}, "Selection moved left..."},
+      {Nudge::Right, {0, 8, 0}, "Selection moved right..."},
+      {Nudge::In, {-8, 0, 0}, "Selection moved in..."},
+      {Nudge::Out, {8, 0, 0}, "Selection moved out..."},
+  };
+  for (const auto& c : cases) {
+    EXPECT_TRUE(VecEqual(nudgeOffset(side, c.direction, settings), c.expected)) << c.text;
+    EXPECT_STREQ(nudgeText(c.direction), c.text);
+  }
+}
+
+TEST(GridLines, LevelsFollowGridAndScale) {
+  const struct {
+    int grid;
+    double scale;
+    long long major;
+    bool minorShown, majorShown;
+  } cases[] = {
+      {8, 1, 64, true, true},          {1, 1, 64, false, true},   {8, 1.0 / 16, 128, false, true},
+      {4, 1, 64, true, true},          {256, 1, 256, true, true}, {256, 1.0 / 64, 16384, true, true},
+      {1, 1.0 / 64, 64, false, false}, {1, 4, 64, true, true},
+  };
+  for (const auto& c : cases) {
+    const GridLevels levels = gridLevels(c.grid, c.scale);
+    EXPECT_EQ(levels.major, c.major) << c.grid << " at " << c.scale;
+    EXPECT_EQ(levels.showMinor, c.minorShown) << c.grid << " at " << c.scale;
+    EXPECT_EQ(levels.showMajor, c.majorShown) << c.grid << " at " << c.scale;
+  }
+  const GridLevels levels = gridLevels(8, 1);
+  for (long long c = 8; c < 64; c += 8) EXPECT_TRUE(levels.isMinorLine(c)) << c;
+  for (long long c : {0, 64, -64, 128}) EXPECT_FALSE(levels.isMinorLine(c)) << c;
+}
+
+TEST(GridLines, RangesCoverTheViewAndOneStepMore) {
+  const GridRange near = gridRangeU(projectionOf(200, 100, 1), 8, 8);
+  EXPECT_EQ(near.first, -104);
+  EXPECT_EQ(near.last, 104);
+  EXPECT_EQ(gridRangeV(projectionOf(200, 100, 1, {0, 1000, 0}), 8, 64).first, 960);
+  const GridRange far = gridRangeU(projectionOf(200, 100, 1, {2147483648.0f, 0, 0}), 8, 64);
+  EXPECT_LE(far.last - far.first, 4 * 64);
+  EXPECT_TRUE(gridRangeU(projectionOf(200, 100, 1, {NAN, 0, 0}), 8, 8).empty());
+  EXPECT_TRUE(gridRangeU(projectionOf(200, 100, 1, {1e30f, 0, 0}), 8, 8).empty());
+}
+
+}  // namespace
+}  // namespace velk
