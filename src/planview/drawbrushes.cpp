@@ -15,6 +15,7 @@ namespace {
 constexpr double kFacing = -0.0001;  // normal . viewNormal of a face turned towards the viewer
 constexpr int kSelectionWidth = 2;   // pixels
 constexpr int kNameBelow = 3;        // pixels under the corner of the brush
+constexpr int kLongestName = 2000;   // pixels; names that begin farther outside cannot reach the view
 constexpr int kIndexHeight = 12;     // of the numbers of hit brushes
 
 int channel(float value) { return std::clamp(Truncate(double(value) * 255), 0, 255); }
@@ -127,7 +128,7 @@ void drawNames(ViewPainter& painter) {
     const brush* first = firstShownBrush(*painter.scene.shown, e);
     if (!first || !painter.sees(first->mins, first->maxs)) continue;
     Pixel at = painter.projection.worldToScreen(first->mins);
-    if (!painter.inView(at, 1 << 14)) continue;
+    if (!painter.inView(at, kLongestName)) continue;
     at.y += kNameBelow;
     painter.canvas.text(e.valueOfKey("classname"), at, height, painter.colours.fgcolor,
                         &painter.colours.bgcolor);

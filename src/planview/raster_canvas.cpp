@@ -1,6 +1,7 @@
 #include "planview/raster_canvas.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 #include <vector>
@@ -55,6 +56,11 @@ struct Run {
   std::ptrdiff_t majorStep = 1;
   std::ptrdiff_t minorStep = 1;
 };
+
+// How many runs side by side look as wide as `width` does along an axis.
+int runsFor(int width, int dx, int dy) {
+  return width == 1 ? 1 : Truncate(RoundHalfAway(width * std::hypot(dx, dy) / std::max(dx, dy)));
+}
 
 // Draws the pixels of the run that lie in the picture; the same ones as without clipping.
 void drawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
@@ -161,8 +167,9 @@ void RasterCanvas::deviceLine(std::uint32_t colour, int width, Pixel from, Pixel
   if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
   Run run = steep ? Run{from.y, from.x, dy, dx, to.x > from.x ? 1 : -1, height_, width_, stride_, 1}
                   : Run{from.x, from.y, dx, dy, to.y > from.y ? 1 : -1, width_, height_, 1, stride_};
-  run.minor -= before;
-  for (int i = 0; i < width; ++i, ++run.minor) drawRun(pixels_, run, colour);
+  const int runs = runsFor(width, dx, dy);
+  run.minor -= (runs - 1) / 2;
+  for (int i = 0; i < runs; ++i, ++run.minor) drawRun(pixels_, run, colour);
 }
 
 }  // namespace velk
