@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <optional>
 #include <string_view>
 #include <unordered_map>
 

@@ -43,10 +43,10 @@ bool bringNear(Pixel& from, Pixel& to) {
 
 std::int64_t ceilDivide(std::int64_t a, std::int64_t b) { return a / b + (a % b > 0 ? 1 : 0); }
 
-// A line along its longer axis ("major"), which it climbs from `start`; on the other it moves by `minorSign`
-// every now and then.
+// A line that takes a step along its longer axis ("major") with every pixel, and every now and then one
+// along the other.
 struct Run {
-  int major = 0;  // start
+  int major = 0;  // where it starts
   int minor = 0;
   int length = 0;  // steps along the major axis
   int climb = 0;   // total movement on the minor axis, not negative
@@ -83,15 +83,13 @@ void drawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
   const int step = static_cast<int>(twiceClimb);
   int error = static_cast<int>(reached % twiceLength);
   const std::ptrdiff_t minorStep = run.minorSign * run.minorStep;
-  std::uint32_t* p =
-      pixels + (run.major + first) * run.majorStep + run.minor * run.minorStep + climbed * minorStep;
+  std::ptrdiff_t at = (run.major + first) * run.majorStep + run.minor * run.minorStep + climbed * minorStep;
   for (std::int64_t n = last - first; n >= 0; --n) {
-    *p = colour;
-    p += run.majorStep;
+    pixels[at] = colour;
     error += step;
-    const int carry = -static_cast<int>(error >= over);  // all bits or none, for want of a branch
+    const int carry = -static_cast<int>(error >= over);  // all bits or none, which saves a branch
     error -= over & carry;
-    p += minorStep & carry;
+    at += run.majorStep + (minorStep & carry);
   }
 }
 
