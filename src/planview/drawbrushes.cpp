@@ -104,7 +104,7 @@ class BrushPainter {
     if (angle.empty()) return;
     const double a = TextToDouble(angle) * (1.0 / 180) * std::numbers::pi;
     const Pixel origin = p_.projection.worldToScreen(middle(*first));
-    const double size = p_.settings.box_size * std::min(p_.projection.scale, 1.0);
+    const double size = p_.markerSize();
     if (!(a >= 0 && std::isfinite(a)) || !p_.inView(origin, Truncate(size) + 1)) return;
     drawArrow(p_.canvas, {penOf(e, *first).colour, 1}, origin, -a, size);
   }

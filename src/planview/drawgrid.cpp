@@ -89,7 +89,7 @@ class GridPainter {
     int freeAbove = projection.height - kLabelAboveBottom;
     for (long long c = v.first; c <= v.last; c += v.step) {
       const int y = Truncate(-(double(c) - projection.centreV) * projection.scale + projection.height / 2);
-      if (y + kLabelHeight > freeAbove || y < kStripHeight - kLabelHeight) continue;
+      if (y > freeAbove - kLabelHeight || y < kStripHeight - kLabelHeight) continue;
       label(Format("%lli", c), {kLabelLeft, y});
       freeAbove = y;
     }

@@ -13,6 +13,8 @@ namespace {
 constexpr int kClipPointSize = 10;  // pixels
 constexpr int kClipLabelHeight = 14;
 constexpr double kNumbersAbove = 0.49;  // camera numbers are shown at larger scales
+constexpr int kMostDots = 1000;         // behind a camera's arrow
+constexpr int kLargestFont = 200;       // pixels
 constexpr Colour kLeakColour{255, 0, 0};
 
 // The outline and inside of a square; right and bottom do not belong to it.
@@ -42,8 +44,8 @@ void drawCamera(ViewPainter& painter, int index) {
   const map& m = *painter.scene.shown;
   const Settings& settings = painter.settings;
   const camera& eye = m.cameras[static_cast<size_t>(index)];
-  const double length = settings.box_size * std::min(painter.projection.scale, 1.0);
-  const int dots = settings.show_dots ? std::max(settings.num_dots, 1) : 0;
+  const double length = painter.markerSize();
+  const int dots = settings.show_dots ? std::clamp(settings.num_dots, 1, kMostDots) : 0;
   const Pixel at = painter.projection.worldToScreen(eye.origin);
   if (!painter.inView(at, Truncate(length * (2 + 0.4 * dots)))) return;
 
@@ -58,8 +60,9 @@ void drawCamera(ViewPainter& painter, int index) {
     drawDots(painter.canvas, colour, tip, b, length, dots);
   }
   if (painter.projection.scale > kNumbersAbove) {
-    painter.canvas.text(Format("%i", index + 1), {at.x - 5, at.y - 5}, std::max(settings.box_font_size, 5),
-                        painter.colours.fgcolor, &painter.colours.bgcolor);
+    painter.canvas.text(Format("%i", index + 1), {at.x - 5, at.y - 5},
+                        std::clamp(settings.box_font_size, 5, kLargestFont), painter.colours.fgcolor,
+                        &painter.colours.bgcolor);
   }
 }
 

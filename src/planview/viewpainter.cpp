@@ -79,8 +79,15 @@ bool ViewPainter::sees(const vec3& mins, const vec3& maxs) const {
 }
 
 bool ViewPainter::inView(Pixel at, int margin) const {
-  return at.x >= -margin && at.x - margin < projection.width && at.y >= -margin &&
-         at.y - margin < projection.height;
+  const auto within = [margin](long long position, int size) {
+    return position >= -margin && position < size + static_cast<long long>(margin);
+  };
+  return within(at.x, projection.width) && within(at.y, projection.height);
+}
+
+double ViewPainter::markerSize() const {
+  constexpr int kLargest = 1000;
+  return std::min(settings.box_size, kLargest) * std::min(projection.scale, 1.0);
 }
 
 void ViewPainter::drawCorners(const Pen& pen, int count) {

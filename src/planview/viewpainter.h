@@ -47,6 +47,9 @@ class ViewPainter {
   // The pixel lies in the view or at most `margin` outside.
   bool inView(Pixel at, int margin = 0) const;
 
+  // Side of camera markers and length of arrows, pixels.
+  double markerSize() const;
+
   int deviceWidth() const { return deviceWidth_; }
   int deviceHeight() const { return deviceHeight_; }
 
