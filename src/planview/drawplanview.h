@@ -15,12 +15,12 @@ struct PlanScene {
   const PlanViewSet& set;
   const Settings& settings;
   map* shown = nullptr;  // none when no map is open
-  StripColours strip;
-  std::string groupName;             // of the group window's selected group, may be empty
-  std::span<const vec3> leakPoints;  // empty when they are not shown
+  StripColours strip{};
+  std::string groupName{};             // of the group window's selected group, may be empty
+  std::span<const vec3> leakPoints{};  // empty when they are not shown
   // The brush to draw in place of a selected one (a running drag's or the clipper's preview), valid until
   // the next call; none draws the brush itself. May be empty.
-  std::function<const brush*(const brush&)> preview;
+  std::function<const brush*(const brush&)> preview{};
 };
 
 // Draws the whole view, header strip included, in its client size.

@@ -15,8 +15,9 @@ constexpr long long kSmallestMajor = 64;  // world units
 constexpr double kFarthest = 1e12;
 
 GridRange rangeAround(double centre, double halfExtent, int gridSize, long long step) {
-  const double low = centre - halfExtent - gridSize;
-  const double high = centre + halfExtent + gridSize;
+  const double margin = double(std::min<long long>(gridSize, step));
+  const double low = centre - halfExtent - margin;
+  const double high = centre + halfExtent + margin;
   if (!(low > -kFarthest && high < kFarthest) || step <= 0) return {};
   const double first = std::ceil(low / double(step));
   const double last = std::floor(high / double(step));

@@ -1,6 +1,6 @@
 #include "planview/pointer.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <utility>
 
 #include "planview/headerstrip.h"
@@ -105,7 +105,7 @@ PointerOutcome PlanPointer::wheel(const PlanPointerContext& context, const Point
   outcome.handled = true;
   outcome.redrawPlanViews = true;
   constexpr int kAllSteps = 11;  // from one end of the scale to the other
-  for (int i = 0; i < std::abs(steps) && i < kAllSteps; ++i) {
+  for (int i = std::clamp(steps, -kAllSteps, kAllSteps); i != 0; i += steps > 0 ? -1 : 1) {
     outcome.status = zoomAt(context, event.at, steps > 0);
   }
   return outcome;

@@ -104,7 +104,8 @@ TEST(HeaderStrip, FieldsNeverOverlapAndLeaveWhole) {
     for (size_t i = 0; i < slots.size(); ++i) {
       const PixelRect& rect = slots[i].rect;
       EXPECT_LE(rect.left + rect.width, width);
-      if (i > 0) EXPECT_GE(rect.left, slots[i - 1].rect.left + slots[i - 1].rect.width);
+      const PixelRect before = i > 0 ? slots[i - 1].rect : PixelRect{};
+      EXPECT_GE(rect.left, before.left + before.width);
     }
   }
   EXPECT_EQ(shown, 8u);
