@@ -19,13 +19,6 @@ const std::string kWorld = "{\n\"classname\" \"worldspawn\"\n" + Cube(0) + "}\n"
 const std::string kThreeGroups =
     "//VELKGROUPS0003\n//VELKGROUPINFO\"None\"\n//VELKGROUPINFO\"a\"\n//VELKGROUPINFO\"b\"\n";
 
-std::string Warnings(SampleMap& sample, const std::string& text, MapReadResult* result = nullptr) {
-  testing::internal::CaptureStdout();
-  const MapReadResult read = sample.read(text);
-  if (result != nullptr) *result = read;
-  return testing::internal::GetCapturedStdout();
-}
-
 TEST(MapReader, ReadsEntitiesWithTheirBrushesAndBoxes) {
   SampleMap sample("\xEF\xBB\xBF" + kWorld +
                    "{ \"classname\" \"light\"\n\"origin\" \"8 16 24\" }\n"
@@ -82,29 +75,27 @@ TEST(MapReader, GroupNamesAreCutToTheirLimit) {
 }
 
 TEST(MapReader, TellsWhatItChanged) {
-  struct Case {
+  const std::string flat = "{\n( 0 0 0 ) ( 1 0 0 ) ( 2 0 0 ) a 0 0 0 1 1\n}\n";
+  const std::string fractions =
+      "{\n( 0.5 64.5 64 ) ( 0 0.25 64 ) ( 0 0 0.0 ) a 0 0 0 1 1\n" + CubeFaces(0) + "}\n";
+  const struct {
     std::string text;
     const char* warnings;
     int brushes;
-  };
-  const std::string flat = "{\n( 0 0 0 ) ( 1 0 0 ) ( 2 0 0 ) a 0 0 0 1 1\n}\n";
-  const std::string fractions =
-      "{\n( 0.5 64.5 64 ) ( 0.25 0 64 ) ( 0 0 0 ) a 0 0 0 1 1\n" + CubeFaces(0).substr(5) + "}\n";
-  const Case cases[] = {
+  } cases[] = {
       {kWorld, "", 1},
       {"{\n\"classname\" \"light\"\n" + Cube(0) + "}\n", "WARNING:Entity with brushes and wrong model type\n",
        1},
       {"{\n\"classname\" \"mystery\"\n}\n", "WARNING:Entity with no brushes and esize_model\n", 1},
       {"{\n" + Cube(0) + flat + "}\n", "WARNING: 1 brushes without a valid solid were left out\n", 1},
-      {"{\n" + Cube(0) + "{\n( 0.5 64.5 64 ) ( 0 0.25 64 ) ( 0 0 0.0 ) a 0 0 0 1 1\n" + CubeFaces(0) +
-           "}\n}\n",
-       "WARNING: 2 plane points had fractions, which were cut off\n", 2},
+      {"{\n" + fractions + "}\n", "WARNING: 2 plane points had fractions, which were cut off\n", 1},
       {"{\n" + Cube(0), "WARNING: the file ends inside an entity\n", 1},
       {"{\n{\n" + CubeFaces(0), "WARNING: the file ends inside an entity\n", 1},
   };
-  for (const Case& c : cases) {
-    SampleMap sample;
-    EXPECT_EQ(Warnings(sample, c.text), c.warnings) << c.text;
+  for (const auto& c : cases) {
+    testing::internal::CaptureStdout();
+    SampleMap sample(c.text);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), c.warnings) << c.text;
     EXPECT_EQ(sample.m.brushCount(), c.brushes) << c.text;
   }
 }

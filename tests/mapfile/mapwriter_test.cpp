@@ -1,10 +1,11 @@
 #include "mapfile/mapwriter.h"
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "mapfile/samplemap.h"
 #include "support/fatal.h"
@@ -114,6 +115,20 @@ TEST(MapWriter, ReplacesFilesAndSaysWhatBecameOfThem) {
   empty.m.modified = true;
   EXPECT_EQ(WriteMapFile(empty.m, Paths{}, name, {}).outcome, MapWriteResult::Outcome::NothingToSave);
   EXPECT_TRUE(empty.m.modified);
+  EXPECT_EQ(Bytes(name), sample.text());
+
+  // As on a full disk: no file may grow beyond 100 bytes.
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit small{100, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &small);
+  sample.m.modified = true;
+  const MapWriteResult failed = WriteMapFile(sample.m, Paths{}, name, {});
+  setrlimit(RLIMIT_FSIZE, &before);
+  EXPECT_EQ(failed.outcome, MapWriteResult::Outcome::Failed);
+  EXPECT_EQ(failed.reason, "File too large");
+  EXPECT_TRUE(sample.m.modified);
   EXPECT_EQ(Bytes(name), sample.text());
 
   EXPECT_TRUE(ExportGroup(sample.m, 0, Paths{}, name).ok());

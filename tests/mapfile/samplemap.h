@@ -1,4 +1,4 @@
-// A map with a few entity classes, and texts to fill it from.
+// Maps read from texts, and texts of cubes.
 #pragma once
 
 #include <string>
@@ -6,23 +6,13 @@
 #include "base/text.h"
 #include "mapfile/mapreader.h"
 #include "mapfile/mapwriter.h"
-#include "model/map.h"
+#include "support/builders.h"
 
 namespace velk::test {
 
-struct SampleMap {
-  Settings settings;
-  EntityClassList classes;
-  map m{settings, classes};
-
-  SampleMap() {
-    classes.scanText(
-        "/*QUAKED worldspawn (0 0 0) ?\n*/\n"
-        "/*QUAKED func_door (0 .5 .8) ?\n*/\n"
-        "/*QUAKED light (0 1 0) (-8 -8 -8) (8 8 8)\n*/\n"
-        "/*QUAKED info_player_start (1 0 0) (-16 -16 -24) (16 16 32)\n*/\n");
-  }
-  explicit SampleMap(std::string_view text) : SampleMap() { read(text); }
+struct SampleMap : TestMap {
+  SampleMap() = default;
+  explicit SampleMap(std::string_view text) { read(text); }
 
   MapReadResult read(std::string_view text, const MapReadOptions& options = {}) {
     return ReadMapText(m, text, "test.map", options);
@@ -32,17 +22,16 @@ struct SampleMap {
   }
 };
 
-// The faces of a cube of 64 units a side, 64 * place along x.
+// The faces of a cube of 64 units a side, at 64 * place along x.
 inline std::string CubeFaces(int place, const std::string& texture = "brick1 0 0 0 1.000000 1.000000") {
-  const int a = 64 * place;
-  const int b = a + 64;
-  const int sides[][9] = {{a, 64, 64, a, 0, 64, a, 0, 0},   {b, 64, 64, a, 64, 64, a, 64, 0},
-                          {b, 0, 64, b, 64, 64, b, 64, 0},  {a, 0, 64, b, 0, 64, b, 0, 0},
-                          {a, 0, 64, a, 64, 64, b, 64, 64}, {b, 64, 0, a, 64, 0, a, 0, 0}};
+  const int a = 64 * place, b = a + 64;
+  const int points[][9] = {{a, 64, 64, a, 0, 64, a, 0, 0},   {b, 64, 64, a, 64, 64, a, 64, 0},
+                           {b, 0, 64, b, 64, 64, b, 64, 0},  {a, 0, 64, b, 0, 64, b, 0, 0},
+                           {a, 0, 64, a, 64, 64, b, 64, 64}, {b, 64, 0, a, 64, 0, a, 0, 0}};
   std::string text;
-  for (const auto& p : sides) {
-    text += Format("( %d %d %d ) ( %d %d %d ) ( %d %d %d ) %s\n", p[0], p[1], p[2], p[3], p[4], p[5], p[6],
-                   p[7], p[8], texture.c_str());
+  for (const auto& p : points) {
+    for (int i = 0; i < 9; i += 3) text += Format("( %d %d %d ) ", p[i], p[i + 1], p[i + 2]);
+    text += texture + "\n";
   }
   return text;
 }

@@ -20,27 +20,22 @@ std::string SixDecimals(float value) {
 }
 
 TEST(TextOut, SixDecimalsAreThoseOfPrintf) {
-  std::vector<float> values = {0,       -0.0f,    1,       -1,       0.5f,       2,
-                               0.1f,    123.456f, FLT_MAX, -FLT_MAX, FLT_MIN,    1e-45f,
-                               5e-7f,   1.5e-6f,  0x1p-7f, 0x1p-21f, 0x3p-7f,    16777216.f,
-                               0x1p42f, 0x1p43f,  0x1p44f, 1e20f,    0.9999999f, 0x1.fffffep-1f};
+  std::vector<float> values = {0,       -0.0f,      0x1p-7f, 0x3p-7f,        0x1p-21f, 5e-7f,
+                               1.5e-6f, 0.9999999f, FLT_MIN, 1e-45f,         FLT_MAX,  -FLT_MAX,
+                               0x1p42f, 0x1p43f,    1e20f,   0x1.fffffep-1f, 1,        -1};
   std::mt19937 random(1);
   for (int i = 0; i < 20000; ++i)
     values.push_back(std::bit_cast<float>(static_cast<std::uint32_t>(random())));
   for (int i = 0; i < 20000; ++i) values.push_back(static_cast<float>(random() % 4096) / 2048 / 1024);
   for (const float value : values) {
-    if (std::isfinite(value)) {
-      ASSERT_EQ(SixDecimals(value), Format("%f", double{value}));
-    }
+    ASSERT_EQ(SixDecimals(value), Format("%f", std::isfinite(value) ? double{value} : 0));
   }
-  EXPECT_EQ(SixDecimals(NAN), "0.000000");
-  EXPECT_EQ(SixDecimals(-INFINITY), "0.000000");
 }
 
 TEST(TextOut, GrowsAndHandsItsTextOver) {
   TextOut out;
   std::string expected;
-  for (const int value : {0, -1, INT_MAX, INT_MIN}) {
+  for (const int value : {0, 9, 10, -1, INT_MAX, INT_MIN}) {
     for (int i = 0; i < 500; ++i) {
       out.taken(PutInteger(out.room(kIntegerLength), value));
       out.line("");
