@@ -25,10 +25,8 @@ Surface MetalDoor(Ramp ramp, bool striped, uint32_t seed) {
     door.fill({0, 58, 128, 12}, ramp::gold, 0.6);
     Stripes(door, {0, 58, 128, 12}, 8, ramp::grey, 0.12);
   }
-  door.mottle(0.16, 4, seed);
   door.streaks(0.16, seed + 1);
-  door.grain(0.05, seed + 2);
-  door.light();
+  door.finish(0.16, 0.05, seed);
   return door;
 }
 
@@ -57,9 +55,7 @@ struct Lamp {
 Surface MakeLamp(const Lamp& lamp) {
   Surface surface(lamp.width, lamp.height, lamp.frame, 0.4);
   surface.frame(surface.all(), lamp.rim, 3);
-  surface.mottle(0.12, 4, 141);
-  surface.grain(0.06, 142);
-  surface.light();
+  surface.finish(0.12, 0.06, 141);
   const Box pane{lamp.rim, lamp.rim, lamp.width - 2 * lamp.rim, lamp.height - 2 * lamp.rim};
   surface.each(pane, [&](int x, int y, Texel& t) {
     const double across = std::abs((x + 0.5 - pane.x) / pane.width * 2 - 1);
@@ -103,21 +99,6 @@ Surface SwitchPlate(Ramp plate, Ramp dull, Ramp lit, bool on, bool pressed) {
       t.level = 1 - std::hypot(x - 31.5, y - 31.5) / 20;
     });
   }
-  return surface;
-}
-
-Surface Lever(bool down) {
-  Surface surface = MakePlates(32, 64, 32, 64, ramp::stone, 0.34, 153);
-  surface.fill({13, 14, 6, 36}, ramp::grey, 0.04);
-  const int knob = down ? 44 : 20;
-  surface.each({14, std::min(32, knob), 4, std::abs(32 - knob)}, [](int x, int, Texel& t) {
-    t.ramp = ramp::steel;
-    t.level = x == 14 ? 0.7 : 0.4;
-  });
-  surface.each(surface.all(), [&](int x, int y, Texel& t) {
-    const double d = std::hypot(x - 15.5, y - knob) / 6;
-    if (d < 1) t.ramp = down ? ramp::slime : ramp::red, t.level = 0.75 - 0.55 * d;
-  });
   return surface;
 }
 
@@ -206,8 +187,6 @@ void AddSwitches(Catalogue& out) {
   out.push_back({"+0BUTTON", SwitchPlate(ramp::stone, ramp::blue, ramp::glowBlue, false, false).image()});
   out.push_back({"+1BUTTON", SwitchPlate(ramp::stone, ramp::blue, ramp::glowBlue, true, false).image()});
   out.push_back({"+ABUTTON", SwitchPlate(ramp::stone, ramp::gold, ramp::fire, true, true).image()});
-  out.push_back({"+0LEVER", Lever(false).image()});
-  out.push_back({"+ALEVER", Lever(true).image()});
   out.push_back({"SIGN_EXIT", ExitSign().image()});
   out.push_back({"SIGN_ARROW", ArrowSign().image()});
   out.push_back({"BANNER", Banner().image()});

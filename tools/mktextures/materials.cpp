@@ -57,9 +57,7 @@ Surface MakeMasonry(const Masonry& style) {
     }
   }
   surface.roughen(style.rough, style.width / 6, style.seed + 2);
-  surface.mottle(0.18, 4, style.seed + 3);
-  surface.grain(0.10, style.seed + 4);
-  surface.light();
+  surface.finish(0.18, 0.10, style.seed + 3);
   return surface;
 }
 
@@ -124,10 +122,8 @@ Surface MakePlates(int width, int height, int plateWidth, int plateHeight, Ramp 
       }
     }
   }
-  surface.mottle(0.16, 3, seed + 1);
   surface.streaks(0.14, seed + 2);
-  surface.grain(0.05, seed + 3);
-  surface.light();
+  surface.finish(0.16, 0.05, seed + 1);
   return surface;
 }
 

@@ -82,10 +82,8 @@ Surface Hazard() {
   Surface surface(64, 64, ramp::gold, 0.62);
   Stripes(surface, surface.all(), 16, ramp::grey, 0.12);
   surface.raise(surface.all(), 2);
-  surface.mottle(0.2, 4, 77);
   surface.streaks(0.2, 78);
-  surface.grain(0.06, 79);
-  surface.light();
+  surface.finish(0.2, 0.06, 77);
   return surface;
 }
 
@@ -99,9 +97,7 @@ Surface Machinery(Ramp body, Ramp lamp, uint32_t seed) {
   }
   for (int y = 30; y < 58; y += 4) surface.fill({24, y, 12, 2}, ramp::grey, 0.06);
   for (int i = 0; i < 5; ++i) surface.rivet(6 + i * 7, 5);
-  surface.mottle(0.14, 4, seed);
-  surface.grain(0.06, seed + 1);
-  surface.light();
+  surface.finish(0.14, 0.06, seed);
   for (int i = 0; i < 4; ++i) surface.fill({8 + i * 7, 13, 4, 3}, lamp, 0.3 + 0.7 * Hash(i, 0, seed));
   surface.fill({46, 6, 12, 18}, ramp::grey, 0.05);
   for (int y = 7; y < 23; y += 2) {
@@ -137,9 +133,7 @@ Surface Trim(Ramp ramp, bool riveted, uint32_t seed) {
   if (riveted) {
     for (int x = 8; x < 64; x += 16) surface.rivet(x, 15);
   }
-  surface.mottle(0.16, 4, seed);
-  surface.grain(0.08, seed + 1);
-  surface.light();
+  surface.finish(0.16, 0.08, seed);
   return surface;
 }
 

@@ -58,18 +58,22 @@ double LightFactor(int row) {
   return 1 + (kBrightest - 1) * (kNeutralRow - row) / kNeutralRow;
 }
 
-// A shade stays in its own ramp unless another colour is far nearer, so that light never speckles a
-// surface with foreign hues.
-uint8_t NearestShade(const Palette& palette, const Rgb& wanted, int own) {
-  constexpr double kForeign = 5;
-  int best = 0;
+// The nearest entry of begin..end-1; entries outside the ramp of `own` count as `foreign` times as far.
+int Nearest(const Palette& palette, const Rgb& wanted, int begin, int end, int own, double foreign) {
+  int best = begin;
   double bestDistance = 1e9;
-  for (int i = 0; i < kFirstFullBright; ++i) {
-    const double d =
-        (Distance(palette[static_cast<size_t>(i)], wanted) + 1) * (i / 16 == own / 16 ? 1 : kForeign);
+  for (int i = begin; i < end; ++i) {
+    const double factor = i / 16 == own / 16 ? 1 : foreign;
+    const double d = (Distance(palette[static_cast<size_t>(i)], wanted) + 1) * factor;
     if (d < bestDistance) bestDistance = d, best = i;
   }
-  return static_cast<uint8_t>(best);
+  return best;
+}
+
+// A shade stays in its own ramp unless another colour is far nearer, so that light never speckles a
+// surface with foreign hues.
+int NearestShade(const Palette& palette, const Rgb& wanted, int own) {
+  return Nearest(palette, wanted, 0, kFirstFullBright, own, 5);
 }
 
 }  // namespace
@@ -94,13 +98,7 @@ Palette MakePalette() {
 uint8_t NearestColour(const Palette& palette, const Rgb& wanted, bool fullBright) {
   const int begin = fullBright ? kFirstFullBright : 0;
   const int end = fullBright ? 255 : kFirstFullBright;
-  int best = begin;
-  double bestDistance = 1e9;
-  for (int i = begin; i < end; ++i) {
-    const double d = Distance(palette[static_cast<size_t>(i)], wanted);
-    if (d < bestDistance) bestDistance = d, best = i;
-  }
-  return static_cast<uint8_t>(best);
+  return static_cast<uint8_t>(Nearest(palette, wanted, begin, end, begin, 1));
 }
 
 std::vector<uint8_t> MakeLightTable(const Palette& palette) {
@@ -113,8 +111,8 @@ std::vector<uint8_t> MakeLightTable(const Palette& palette) {
         return std::min(255, static_cast<int>(std::lround(channel * factor)));
       };
       const bool keeps = i >= kFirstFullBright || row == kNeutralRow;
-      table.push_back(keeps ? static_cast<uint8_t>(i)
-                            : NearestShade(palette, {lit(c.r), lit(c.g), lit(c.b)}, i));
+      table.push_back(
+          static_cast<uint8_t>(keeps ? i : NearestShade(palette, {lit(c.r), lit(c.g), lit(c.b)}, i)));
     }
   }
   return table;

@@ -83,6 +83,12 @@ void Surface::light(double strength, double hollows) {
   });
 }
 
+void Surface::finish(double mottleAmount, double grainAmount, uint32_t seed) {
+  mottle(mottleAmount, 4, seed);
+  grain(grainAmount, seed + 1);
+  light();
+}
+
 Image Surface::image() const {
   Image image{width_, height_, {}};
   for (int y = 0; y < height_; ++y) {

@@ -63,6 +63,8 @@ class Surface {
   // Uneven height.
   void roughen(double amount, int cells, uint32_t seed);
 
+  // Most surfaces end so: uneven colour, then light.
+  void finish(double mottleAmount, double grainAmount, uint32_t seed);
   // Turns heights into light and shade; what glows stays as it is.
   void light(double strength = 0.09, double hollows = 0.05);
 

@@ -19,17 +19,22 @@ void GrowMoss(Surface& surface, bool fromBelow, uint32_t seed) {
   });
 }
 
-Surface BandedWall(Masonry style, Ramp band, int bandHeight) {
-  style.shifted = true;
-  Surface wall = MakeMasonry(style);
-  Surface trim(style.width, bandHeight, band, 0.42);
-  trim.raise(trim.all(), 2.5, 3);
-  for (int x = 0; x < style.width; x += 16) trim.frame({x + 3, 4, 10, bandHeight - 8}, 1, 1.5);
-  trim.grain(0.12, style.seed);
-  trim.light();
-  const int top = (style.height - bandHeight) / 2;
-  wall.each({0, top, style.width, bandHeight}, [&](int x, int y, Texel& t) { t = trim.at(x, y - top); });
-  return wall;
+Masonry Brick(Ramp stone, double level, uint32_t seed) {
+  return {.stone = stone, .level = level, .seed = seed};
+}
+
+Masonry Block(int size, int stoneWidth, int stoneHeight, Ramp stone, double level, uint32_t seed) {
+  Masonry style = Brick(stone, level, seed);
+  style.width = style.height = size;
+  style.stoneWidth = stoneWidth;
+  style.stoneHeight = stoneHeight;
+  style.joint = stone;
+  style.jointLevel = 0.14;
+  style.variety = 0.07;
+  style.rough = 2.2;
+  style.rise = 3;
+  style.gap = 2;
+  return style;
 }
 
 Surface Plaster(Ramp ramp, double level, uint32_t seed) {
@@ -67,9 +72,7 @@ Surface Tiles(int size, int tile, Ramp first, Ramp second, double level, uint32_
     }
   }
   surface.roughen(0.8, 12, seed + 1);
-  surface.mottle(0.2, 3, seed + 2);
-  surface.grain(0.06, seed + 3);
-  surface.light();
+  surface.finish(0.2, 0.06, seed + 2);
   return surface;
 }
 
@@ -102,52 +105,24 @@ Surface Runes() {
 }  // namespace
 
 void AddWalls(Catalogue& out) {
-  const Masonry brick{};
-  Masonry brown = brick, grey = brick, small = brick;
-  brown.stone = ramp::wood, brown.level = 0.46, brown.seed = 12;
-  grey.stone = ramp::grey, grey.level = 0.4, grey.seed = 13;
-  small.stoneWidth = 8, small.stoneHeight = 4, small.stone = ramp::sand, small.rise = 1.4, small.seed = 14;
-  Surface mossy = MakeMasonry(grey);
+  const Masonry greyBrick = Brick(ramp::grey, 0.4, 13),
+                largeBlock = Block(128, 64, 32, ramp::stone, 0.42, 31);
+  Surface mossy = MakeMasonry(greyBrick), overgrown = MakeMasonry(largeBlock);
   GrowMoss(mossy, true, 15);
-  out.push_back({"BRICK_RED", MakeMasonry(brick).image()});
-  out.push_back({"BRICK_BROWN", MakeMasonry(brown).image()});
-  out.push_back({"BRICK_GREY", MakeMasonry(grey).image()});
-  out.push_back({"BRICK_MOSS", mossy.image()});
-  out.push_back({"BRICK_SMALL", MakeMasonry(small).image()});
-
-  const Masonry block{.width = 128,
-                      .height = 128,
-                      .stoneWidth = 64,
-                      .stoneHeight = 32,
-                      .stone = ramp::stone,
-                      .joint = ramp::stone,
-                      .level = 0.42,
-                      .jointLevel = 0.14,
-                      .variety = 0.07,
-                      .rough = 2.2,
-                      .rise = 3,
-                      .gap = 2,
-                      .seed = 31};
-  Masonry cut = block, castle = block, sand = block, steel = block;
-  cut.width = cut.height = 64, cut.stoneWidth = 32, cut.stoneHeight = 16, cut.seed = 32;
-  castle.stone = ramp::grey, castle.stoneWidth = 32, castle.stoneHeight = 32, castle.level = 0.38,
-  castle.seed = 33;
-  sand.width = sand.height = 64, sand.stone = sand.joint = ramp::sand, sand.stoneWidth = 32,
-  sand.stoneHeight = 32;
-  sand.level = 0.44, sand.jointLevel = 0.2, sand.seed = 34;
-  steel.width = steel.height = 64, steel.stone = steel.joint = ramp::steel, steel.stoneWidth = 32,
-  steel.stoneHeight = 16;
-  steel.seed = 35;
-  Surface overgrown = MakeMasonry(block);
   GrowMoss(overgrown, false, 36);
-  out.push_back({"STONE_BLOCK", MakeMasonry(block).image()});
+  out.push_back({"BRICK_RED", MakeMasonry(Brick(ramp::rust, 0.36, 1)).image()});
+  out.push_back({"BRICK_BROWN", MakeMasonry(Brick(ramp::wood, 0.46, 12)).image()});
+  out.push_back({"BRICK_GREY", MakeMasonry(greyBrick).image()});
+  out.push_back({"BRICK_MOSS", mossy.image()});
+  out.push_back(
+      {"BRICK_SMALL", MakeMasonry({.stoneWidth = 8, .stoneHeight = 4, .stone = ramp::sand}).image()});
+  out.push_back({"STONE_BLOCK", MakeMasonry(largeBlock).image()});
   out.push_back({"STONE_MOSS", overgrown.image()});
-  out.push_back({"STONE_CUT", MakeMasonry(cut).image()});
-  out.push_back({"STONE_CASTLE", MakeMasonry(castle).image()});
-  out.push_back({"STONE_BLUE", MakeMasonry(steel).image()});
+  out.push_back({"STONE_CUT", MakeMasonry(Block(64, 32, 16, ramp::stone, 0.42, 32)).image()});
+  out.push_back({"STONE_CASTLE", MakeMasonry(Block(128, 32, 32, ramp::grey, 0.38, 33)).image()});
+  out.push_back({"STONE_BLUE", MakeMasonry(Block(64, 32, 16, ramp::steel, 0.42, 35)).image()});
   out.push_back({"STONE_RUNE", Runes().image()});
-  out.push_back({"SAND_BLOCK", MakeMasonry(sand).image()});
-  out.push_back({"SAND_BAND", BandedWall(sand, ramp::rust, 20).image()});
+  out.push_back({"SAND_BLOCK", MakeMasonry(Block(64, 32, 32, ramp::sand, 0.44, 34)).image()});
   out.push_back({"ROCK_GREY", MakeRock(128, ramp::grey, 0.36, 1.3, 41).image()});
   out.push_back({"ROCK_BROWN", MakeRock(128, ramp::stone, 0.36, 1.4, 42).image()});
   out.push_back({"ROCK_RED", MakeRock(64, ramp::rust, 0.36, 1.2, 43).image()});
