@@ -1,6 +1,8 @@
 // The eye and the lens of the flat and textured pictures: where a point of the map falls on the picture.
 #pragma once
 
+#include <cmath>
+
 #include "base/text.h"
 #include "model/camera.h"
 #include "model/plane.h"
@@ -48,11 +50,19 @@ struct ScreenVertex {
   float tw = 0;
 };
 
+// To the nearest 1/256 of a pixel: a corner on the border of the picture, or one that two faces share but
+// were cut differently, must not fall into another row for the last digit of a float.
+inline float OnGrid(double pixels) {
+  constexpr double kSteps = 256;
+  constexpr double kExact = 1 << 22;  // beyond, floats hold no such steps
+  return std::abs(pixels) < kExact ? float(std::nearbyint(pixels * kSteps) / kSteps) : float(pixels);
+}
+
 inline ScreenVertex Project(const Projection& projection, const WindingPoint& p) {
   ScreenVertex v;
   v.w = float(projection.halfWidth / double(p.z));
-  v.x = float(double(v.w) * p.x + projection.halfWidth);
-  v.y = float(projection.centerY - double(v.w) * p.y);
+  v.x = OnGrid(double(v.w) * p.x + projection.halfWidth);
+  v.y = OnGrid(projection.centerY - double(v.w) * p.y);
   v.sw = p.s * v.w;
   v.tw = p.t * v.w;
   return v;
