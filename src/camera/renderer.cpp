@@ -20,11 +20,12 @@ RenderSize ClampedSize(RenderSize size) {
 }  // namespace
 
 struct Renderer::State {
-  const Kernels& kernels = BestKernels();
+  explicit State(const Kernels& kernels) : drawer(kernels) {}
+
   FrameView view;
   Picture picture;
   FaceList faces;
-  PictureDrawer drawer{kernels};
+  PictureDrawer drawer;
   std::vector<BrushDraw> brushes;
   RenderStatistics statistics;
 
@@ -53,7 +54,8 @@ void Renderer::State::collectBrushes(const RenderScene& scene) {
   });
 }
 
-Renderer::Renderer() : state_(std::make_unique<State>()) {}
+Renderer::Renderer() : Renderer(BestKernels()) {}
+Renderer::Renderer(const Kernels& kernels) : state_(std::make_unique<State>(kernels)) {}
 Renderer::~Renderer() = default;
 Renderer::Renderer(Renderer&&) noexcept = default;
 Renderer& Renderer::operator=(Renderer&&) noexcept = default;

@@ -62,9 +62,13 @@ struct RenderStatistics {
   int facesDrawn = 0;
 };
 
+struct Kernels;
+
 class Renderer {
  public:
   Renderer();
+  // With the inner loops of a certain instruction set; they must outlive the renderer.
+  explicit Renderer(const Kernels& kernels);
   ~Renderer();
   Renderer(Renderer&&) noexcept;
   Renderer& operator=(Renderer&&) noexcept;

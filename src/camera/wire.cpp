@@ -33,6 +33,8 @@ void Cut(std::vector<Point>& polygon, std::vector<Point>& scratch, Keep&& keep, 
   polygon.swap(scratch);
 }
 
+int PixelOf(double position) { return Truncate(OnGrid(position)); }
+
 DeepPoint AtDepth(const DeepPoint& a, const DeepPoint& b, double z) {
   const double f = (z - a.z) / (double(b.z) - a.z);
   return {float(a.x + f * (double(b.x) - a.x)), float(a.y + f * (double(b.y) - a.y)), float(z)};
@@ -90,7 +92,7 @@ class WirePlotter {
     const int centreX = size_.width / 2;
     const int centreY = size_.height / 2;
     for (const DeepPoint& p : points_) {
-      pixels_.push_back({Truncate(centreX - p.x * focal_ / p.z), Truncate(centreY + p.y * focal_ / p.z)});
+      pixels_.push_back({PixelOf(centreX - p.x * focal_ / p.z), PixelOf(centreY + p.y * focal_ / p.z)});
     }
   }
 

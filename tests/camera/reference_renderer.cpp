@@ -123,7 +123,7 @@ ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, bru
   fill.shadeRow = ShadeRow(eye_, f.facePlane.normal, settings.lightintensity, settings.ambientintensity);
   if (isBox || !(fill.flat ? settings.shadeflats : settings.shadetextures))
     fill.shadeRow = settings.flatlevel;
-  if (!f.cache && assets.makeTextureRef) f.cache = assets.makeTextureRef(f.texture.name);
+  if (!isBox && !f.cache && assets.makeTextureRef) f.cache = assets.makeTextureRef(f.texture.name);
   fill.texture = f.cache.get();
   if (!fill.texture) fill.flat = true;
   fill.flatColour = fill.texture ? fill.texture->paletteIndex : 255;

@@ -1,0 +1,194 @@
+#include "camera/movement.h"
+
+#include <numbers>
+
+#include <gtest/gtest.h>
+
+#include "camera/renderer.h"
+#include "support/builders.h"
+
+namespace velk {
+namespace {
+
+using test::TestMap;
+
+constexpr float kPi = float(std::numbers::pi);
+
+struct MoveCase {
+  CameraOutcome (*move)(map&, const Settings&);
+  const char* status;
+  vec3 moved;  // from (0, 0, 0) with step 64
+};
+
+// Yaw pi/2 looks along +x.
+const MoveCase kMoves[] = {
+    {MoveForward, "Forward...", {64, 0, 0}},
+    {MoveBackward, "Backward...", {-64, 0, 0}},
+    {StrafeLeft, "Strafe Left...", {0, 64, 0}},
+    {StrafeRight, "Strafe Right...", {0, -64, 0}},
+    {MoveUp, "Moving up...", {0, 0, 64}},
+    {MoveDown, "Moving down", {0, 0, -64}},
+    {MoveWest, "Left", {-64, 0, 0}},
+    {MoveEast, "Right", {64, 0, 0}},
+    {MoveNorth, "Up", {0, 64, 0}},
+    {MoveSouth, "Down", {0, -64, 0}},
+};
+
+TEST(Movement, MovesAlongTheHeadingOrTheAxes) {
+  for (const MoveCase& c : kMoves) {
+    SCOPED_TRACE(c.status);
+    TestMap t;
+    t.m.activeCamera().yaw = kPi / 2;
+    const CameraOutcome outcome = c.move(t.m, t.settings);
+    const vec3& at = t.m.activeCamera().origin;
+    EXPECT_NEAR(at.x, c.moved.x, 1e-4);
+    EXPECT_NEAR(at.y, c.moved.y, 1e-4);
+    EXPECT_NEAR(at.z, c.moved.z, 1e-4);
+    EXPECT_EQ(outcome.status, c.status);
+    EXPECT_TRUE(outcome.redrawPlans && outcome.redrawCamera && outcome.follow && !outcome.recentre);
+    EXPECT_FALSE(t.m.modified);
+  }
+}
+
+struct TurnCase {
+  CameraOutcome (*turn)(map&, const Settings&);
+  const char* status;
+  float camera::*angle;
+  double before;
+  double after;
+  bool redrawPlans;
+};
+
+CameraOutcome TurnAroundHere(map& m, const Settings&) { return TurnAround(m); }
+
+const TurnCase kTurns[] = {
+    {TurnLeft, "Left", &camera::yaw, 0, kPi / 8, true},
+    {TurnLeft, "Left", &camera::yaw, 6.2, 6.2 - 15 * kPi / 8, true},
+    {TurnRight, "Right", &camera::yaw, 0, 15 * kPi / 8, true},
+    {TurnRight, "Right", &camera::yaw, 20, 20 - kPi / 8, true},  // one correction at most
+    {TurnAroundHere, "Turning around...", &camera::yaw, 5, 1.858407, false},
+    {TurnAroundHere, "Turning around...", &camera::yaw, 3, 6.141593, false},
+    {PitchUp, "Pitching up...", &camera::pitch, 1, 1 + kPi / 8, false},
+    {PitchDown, "Pitching down...", &camera::pitch, 0.1, 0.1 + 15 * kPi / 8, false},
+    {RollUp, "Rolling up...", &camera::roll, 6, 6 - 15 * kPi / 8, false},
+    {RollDown, "Rolling down...", &camera::roll, 1, 1 - kPi / 8, false},
+};
+
+TEST(Movement, TurnsAndWrapsOnce) {
+  for (const TurnCase& c : kTurns) {
+    SCOPED_TRACE(c.status);
+    TestMap t;
+    t.m.activeCamera().*c.angle = float(c.before);
+    const CameraOutcome outcome = c.turn(t.m, t.settings);
+    EXPECT_NEAR(t.m.activeCamera().*c.angle, c.after, 1e-5);
+    EXPECT_EQ(outcome.status, c.status);
+    EXPECT_EQ(outcome.redrawPlans, c.redrawPlans);
+    EXPECT_TRUE(outcome.redrawCamera && !outcome.follow);
+  }
+}
+
+TEST(Movement, ResetMakesTheCameraLevel) {
+  TestMap t;
+  t.m.activeCamera() = {{1, 2, 3}, 1, 1, 1};
+  EXPECT_EQ(ResetAngles(t.m).status, "Angles reset for current map...");
+  const camera& c = t.m.activeCamera();
+  EXPECT_EQ(c.origin.x, 1);
+  EXPECT_FLOAT_EQ(c.roll, kPi);
+  EXPECT_FLOAT_EQ(c.pitch, 1.5f * kPi);
+  EXPECT_EQ(c.yaw, 0);
+}
+
+struct FloorCase {
+  CameraOutcome (*go)(map&);
+  float eye;
+  float after;
+  const char* status;
+};
+
+// Tops at 0, 64 and 128 under the camera and one beside it.
+TEST(Movement, GoesToTheNextFloor) {
+  const FloorCase cases[] = {
+      {FloorUp, 48, 112, "Moved up a floor"},  // feet exactly on the lowest floor
+      {FloorUp, 176, 176, "Already at top level"},    {FloorDown, 100, 48, "Moved down a floor"},
+      {FloorDown, 48, 48, "Already at bottom level"}, {FloorDown, 500, 176, "Moved down a floor"},
+  };
+  TestMap t;
+  for (const float top : {128.0f, 0.0f, 64.0f}) t.box({-64, -64, top - 8}, {64, 64, top});
+  t.box({100, 100, 80}, {200, 200, 90});
+  t.m.modified = false;
+  for (const FloorCase& c : cases) {
+    t.m.activeCamera().origin = {0, 0, c.eye};
+    const CameraOutcome outcome = c.go(t.m);
+    EXPECT_EQ(outcome.status, c.status);
+    EXPECT_EQ(t.m.activeCamera().origin.z, c.after);
+    EXPECT_EQ(outcome.follow, c.eye != c.after);
+    EXPECT_EQ(outcome.redrawCamera, c.eye != c.after);
+  }
+  EXPECT_FALSE(t.m.modified);
+}
+
+struct ParameterCase {
+  CameraOutcome (*change)(Settings&);
+  float Settings::*value;
+  float before;
+  const char* status;
+};
+
+TEST(Movement, ParametersKeepTheirLimits) {
+  const ParameterCase cases[] = {
+      {SmallerStep, &Settings::stepsize, 1.5f, "step: 1.50"},
+      {SmallerStep, &Settings::stepsize, 2, "step: 1.00"},
+      {LargerStep, &Settings::stepsize, 1024, "step: 1024.00"},
+      {LargerStep, &Settings::stepsize, 1000, "step: 2000.00"},
+      {NearerFarLimit, &Settings::far_clip_distance, -8192, "zmax: -8128.00"},
+      {NearerFarLimit, &Settings::far_clip_distance, -40, "zmax: -2.00"},
+      {FartherFarLimit, &Settings::far_clip_distance, -8192, "zmax: -8256.00"},
+      {FartherFarLimit, &Settings::far_clip_distance, -16380, "zmax: -16384.00"},
+  };
+  for (const ParameterCase& c : cases) {
+    Settings settings;
+    settings.*c.value = c.before;
+    const CameraOutcome outcome = c.change(settings);
+    EXPECT_EQ(outcome.status, c.status);
+    EXPECT_FALSE(outcome.redrawCamera);
+  }
+}
+
+TEST(Movement, TheLensKeepsItsLimits) {
+  WireLens lens{0.25f, 0.26f};
+  EXPECT_EQ(SmallerPpd(lens).status, "ppd: 0.25");
+  EXPECT_EQ(LargerPpd(lens).status, "ppd: 0.50");
+  EXPECT_EQ(SmallerMag(lens).status, "mag:  0.25");
+  EXPECT_EQ(SmallerMag(lens).status, "mag:  0.25");
+  EXPECT_EQ(LargerMag(lens).status, "mag:  0.28");
+  lens.ppd = 1024;
+  EXPECT_EQ(LargerPpd(lens).status, "ppd: 1024.00");
+  EXPECT_TRUE(LargerPpd(lens).redrawCamera);
+}
+
+TEST(Movement, ChoosesCameras) {
+  TestMap t;
+  EXPECT_EQ(PreviousCamera(t.m).status, "Camera 5 Active...");
+  EXPECT_EQ(t.m.currentCamera, 4);
+  EXPECT_EQ(NextCamera(t.m).status, "Camera 1 Active...");
+  const CameraOutcome chosen = SelectCamera(t.m, 3);
+  EXPECT_EQ(chosen.status, "Camera 3 Active");
+  EXPECT_TRUE(chosen.recentre);
+  EXPECT_EQ(SelectCamera(t.m, 6).status, "");
+  EXPECT_EQ(t.m.currentCamera, 2);
+}
+
+TEST(Movement, ChoosesModesAndSizes) {
+  Settings settings;
+  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Flat");
+  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Texture");
+  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Wire");
+  SetWindowQuality(settings);
+  EXPECT_EQ(RenderSizeFor(settings, 511, 300), (RenderSize{511, 300}));
+  EXPECT_EQ(SetRenderQuality(settings, 2).status, "Render Quality set to 160 x 80");
+  EXPECT_EQ(RenderSizeFor(settings, 511, 300), (RenderSize{160, 80}));
+  EXPECT_EQ(SetRenderQuality(settings, 8).status, "");
+}
+
+}  // namespace
+}  // namespace velk
