@@ -20,7 +20,6 @@ struct Drawing : test::PlanFixture {
   }
   Strokes polygons(int view = 0) { return draw(view).starting("polygon"); }
 
-  entity& world = *m.world();
   PlanScene scene{.set = set, .settings = settings, .shown = &m};
 };
 
@@ -29,7 +28,7 @@ TEST_F(Drawing, GoesFromTheBackgroundToTheHeaderStrip) {
   settings.gridsize = 64;
   m.clip.count = 1;
   m.clip.points[0] = {-40, 40, 0};
-  box(add("door"), {-10, -10, 0}, {10, 10, 20});
+  boxIn(addEntity("func_door"), {-10, -10, 0}, {10, 10, 20});
   const vec3 leak[] = {{50, 50, 0}};
   scene.leakPoints = leak;
   const Strokes strokes = draw().strokes;
@@ -37,9 +36,10 @@ TEST_F(Drawing, GoesFromTheBackgroundToTheHeaderStrip) {
   for (const char* next :
        {"fill #000000 0 0 200 200", "polygon #00007f 1 36", "text '-64' #ffff00 10 36 186",
         "text '1' #ffffff 14 56 66", "fill #ffff00 55 55 10 10", "polygon #ff0000 1 55 55 64 64",
-        "polygon #ff7f00 1 90 90 110 110", "text 'door' #ffffff 12 90 113", "polygon #800000 1 98 98 101 101",
-        "fill #000000 92 92 15 15", "polygon #ff0000 1 92 92 106 106", "polygon #ffff00 1 92 92 106 106",
-        "points #ff0000 150,50", "fill #d4d0c8 0 0 200 18", "text '64'", "text 'C(1)'"}) {
+        "polygon #007fcc 1 90 90 110 110", "text 'func_door' #ffffff 12 90 113",
+        "polygon #800000 1 98 98 101 101", "fill #000000 92 92 15 15", "polygon #ff0000 1 92 92 106 106",
+        "polygon #ffff00 1 92 92 106 106", "points #ff0000 150,50", "fill #d4d0c8 0 0 200 18", "text '64'",
+        "text 'C(1)'"}) {
     const auto found = std::find_if(strokes.begin() + static_cast<std::ptrdiff_t>(at), strokes.end(),
                                     [&](const std::string& s) { return s.starts_with(next); });
     ASSERT_NE(found, strokes.end()) << next;
@@ -48,26 +48,26 @@ TEST_F(Drawing, GoesFromTheBackgroundToTheHeaderStrip) {
 }
 
 TEST_F(Drawing, WithoutAMapOnlyStripAndEyeAreDrawn) {
-  box(world, {-10, -10, 0}, {10, 10, 20});
+  box({-10, -10, 0}, {10, 10, 20});
   settings.show_grid = settings.showeye = settings.show_cameras = true;
   scene.shown = nullptr;
   EXPECT_EQ(polygons(), (Strokes{"polygon #800000 1 98 98 101 101"}));
 }
 
 TEST_F(Drawing, BrushesShowFacesTurnedToTheViewer) {
-  box(world, {-10, -20, 0}, {10, 20, 40});
+  box({-10, -20, 0}, {10, 20, 40});
   EXPECT_EQ(polygons(0), (Strokes{"polygon #ffffff 1 90 80 110 120"}));
   EXPECT_EQ(polygons(1), (Strokes{"polygon #ffffff 1 90 60 110 100"}));
   EXPECT_EQ(polygons(2), (Strokes{"polygon #ffffff 1 80 60 120 100"}));
 }
 
 TEST_F(Drawing, PensFollowSelectionOwnerAndGroup) {
-  entity& door = add("door");
-  brush& inWorld = box(world, {-10, -10, 0}, {10, 10, 20});
-  brush& inDoor = box(door, {20, 20, 0}, {30, 30, 20});
+  entity& door = addEntity("func_door");
+  brush& inWorld = box({-10, -10, 0}, {10, 10, 20});
+  brush& inDoor = boxIn(door, {20, 20, 0}, {30, 30, 20});
   const std::string a = " 1 90 90 110 110", b = " 1 120 70 130 80";
-  m.setCurrentEntity(&world);
-  EXPECT_EQ(polygons(), (Strokes{"polygon #ffffff" + a, "polygon #ff7f00" + b}));
+  m.setCurrentEntity(m.world());
+  EXPECT_EQ(polygons(), (Strokes{"polygon #ffffff" + a, "polygon #007fcc" + b}));
   m.setCurrentEntity(&door);
   EXPECT_EQ(polygons(), (Strokes{"polygon #7f7f7f" + a, "polygon #ffffff" + b}));
 
@@ -83,8 +83,8 @@ TEST_F(Drawing, PensFollowSelectionOwnerAndGroup) {
 }
 
 TEST_F(Drawing, TheFirstSelectedBrushShowsAllFacesAndItsCurrentOneOnTop) {
-  brush& first = box(world, {-10, -10, 0}, {10, 10, 20});
-  brush& second = box(world, {20, 20, 0}, {30, 30, 20});
+  brush& first = box({-10, -10, 0}, {10, 10, 20});
+  brush& second = box({20, 20, 0}, {30, 30, 20});
   first.selected = second.selected = true;
   first.currentFace = 4;
   const Strokes strokes = polygons();
@@ -99,8 +99,8 @@ TEST_F(Drawing, TheFirstSelectedBrushShowsAllFacesAndItsCurrentOneOnTop) {
 }
 
 TEST_F(Drawing, BrushesAreClippedToTheViewAndSkippedOutside) {
-  box(world, {500, 0, 0}, {600, 10, 20});
-  box(world, {-5000, -5000, 0}, {5000, 5000, 20});
+  box({500, 0, 0}, {600, 10, 20});
+  box({-5000, -5000, 0}, {5000, 5000, 20});
   settings.scale = 16;
   const Strokes strokes = polygons();
   ASSERT_EQ(strokes.size(), 1u);
@@ -108,15 +108,15 @@ TEST_F(Drawing, BrushesAreClippedToTheViewAndSkippedOutside) {
 }
 
 TEST_F(Drawing, AnglesPointFromTheFirstBrushInTopViews) {
-  entity& door = add("door");
-  box(door, {-10, -10, 0}, {10, 10, 20});
+  entity& door = addEntity("func_door");
+  boxIn(door, {-10, -10, 0}, {10, 10, 20});
   const struct {
     const char* angle;
     Strokes expected;
   } cases[] = {{"", {}},
                {"-1", {}},
-               {"0", {"line #ff7f00 1 96 100 - 111 100"}},
-               {"90", {"line #ff7f00 1 100 105 - 100 90"}}};
+               {"0", {"line #007fcc 1 96 100 - 111 100"}},
+               {"90", {"line #007fcc 1 100 105 - 100 90"}}};
   for (const auto& c : cases) {
     if (*c.angle) door.setKey("angle", c.angle);
     EXPECT_EQ(draw(0).starting("line"), c.expected) << c.angle;
@@ -125,11 +125,11 @@ TEST_F(Drawing, AnglesPointFromTheFirstBrushInTopViews) {
 }
 
 TEST_F(Drawing, NamesScaleWithTheView) {
-  box(add("door"), {-10, -10, 0}, {10, 10, 20});
+  boxIn(addEntity("func_door"), {-10, -10, 0}, {10, 10, 20});
   settings.show_names = true;
   for (const auto& [scale, height] : {std::pair{1.0f, 12}, {0.25f, 7}, {2.0f, 18}}) {
     settings.scale = scale;
-    EXPECT_EQ(draw().starting(Format("text 'door' #ffffff %i ", height)).size(), 1u) << scale;
+    EXPECT_EQ(draw().starting(Format("text 'func_door' #ffffff %i ", height)).size(), 1u) << scale;
   }
 }
 
