@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "support/fatal.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 
 namespace velk {
 namespace {

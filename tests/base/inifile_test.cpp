@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 
 namespace velk {
 namespace {

@@ -5,7 +5,7 @@
 #include "entities/quakedtokenizer.h"
 #include "support/fatal.h"
 #include "support/scripted_prompts.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 
 namespace velk {
 namespace {
@@ -202,7 +202,7 @@ TEST_F(EntityClassFilesTest, ReadsEveryFileInTheDirectory) {
 }
 
 TEST_F(EntityClassFilesTest, AsksForMissingFiles) {
-  const std::string elsewhere = folder_.write("other/defs.txt", "/*QUAKED a (0 0 0) ?\n*/").string();
+  const std::string elsewhere = folder_.write("other/defs.txt", "/*QUAKED a (0 0 0) ?\n*/");
   prompts_.cancel().answer(elsewhere);
   load("one.qc;sub\\two.qc");
   EXPECT_EQ(prompts_.asked, Names({"Where is .qc file:  one.qc?|", "Where is .qc file:  two.qc?|"}));

@@ -6,7 +6,7 @@
 
 #include "entities/entityclass.h"
 #include "mapfile/mapreader.h"
-#include "support/queuedprompts.h"
+#include "support/scripted_prompts.h"
 #include "textures/texturemanager.h"
 
 namespace velk {
@@ -26,7 +26,7 @@ class Kit : public testing::Test {
   const IniFile ini = IniFile::Load(kFolder + "velk.ini");
   Settings settings = LoadSettings(ini);
   Paths paths;
-  test::QueuedPrompts prompts;
+  test::ScriptedPrompts prompts;
   EntityClassList classes;
 };
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,7 +19,11 @@ class TempFolder {
     if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
     path_ = name;
   }
-  ~TempFolder() { std::filesystem::remove_all(path_); }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
 
@@ -32,6 +37,14 @@ class TempFolder {
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << contents;
     return file.string();
+  }
+  std::string read(const std::string& name) const {
+    std::ifstream in(path_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
+  // How many files and folders lie directly in it.
+  std::ptrdiff_t entries() const {
+    return std::distance(std::filesystem::directory_iterator(path_), std::filesystem::directory_iterator());
   }
 
  private:

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/builders.h"
-#include "support/queuedprompts.h"
+#include "support/scripted_prompts.h"
 #include "support/tempfolder.h"
 #include "support/wadbuilder.h"
 #include "textures/texturemanager.h"
@@ -41,7 +41,7 @@ class TextureSetTest : public testing::Test {
   Settings& settings = test.settings;
   map& m = test.m;
   Paths paths;
-  test::QueuedPrompts prompts;
+  test::ScriptedPrompts prompts;
   TextureManager manager{{settings, paths, prompts}};
   TextureSet set{manager.badtex()};
 };

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/fatal.h"
-#include "support/queuedprompts.h"
+#include "support/scripted_prompts.h"
 #include "support/tempfolder.h"
 #include "support/wadbuilder.h"
 #include "textures/colormap.h"
@@ -11,7 +11,7 @@
 namespace velk {
 namespace {
 
-using test::QueuedPrompts;
+using test::ScriptedPrompts;
 using test::TempFolder;
 using test::TextureLump;
 using test::WadBuilder;
@@ -39,7 +39,7 @@ class WadTest : public testing::Test {
   TempFolder folder;
   Settings settings;
   Paths paths;
-  QueuedPrompts prompts;
+  ScriptedPrompts prompts;
   Random random;
   WadServices services{settings, paths, prompts};
   std::vector<std::string> told;
@@ -131,15 +131,16 @@ TEST_F(WadTest, FilesAreFoundInTheWadDirectory) {
 }
 
 TEST_F(WadTest, AMissingWadIsAskedFor) {
-  prompts.answers = {folder.write("else.wad", WadBuilder().texture("wall").palette().bytes())};
+  prompts.answer(folder.write("else.wad", WadBuilder().texture("wall").palette().bytes()));
   EXPECT_EQ(load("gfx\\none.wad").count(), 1);
   ASSERT_EQ(prompts.choosers.size(), 1u);
   EXPECT_EQ(prompts.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
   EXPECT_EQ(prompts.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
   EXPECT_EQ(prompts.choosers[0].directory, settings.wad_directory);
 
+  prompts.cancel();
   EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
-  prompts.answers = {"/nowhere/none.wad"};
+  prompts.answer("/nowhere/none.wad");
   EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
 }
 
@@ -151,10 +152,11 @@ TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
     for (int i = 0; i < 256; ++i) text += "1 2 3\n";
     return text;
   }();
+  prompts.cancel();
   EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
   EXPECT_EQ(prompts.choosers[0].title, "Select Quake.Pal File");
   EXPECT_EQ(prompts.choosers[0].fileName, "quake.pal");
-  prompts.answers = {folder.write("own.pal", lines)};
+  prompts.answer(folder.write("own.pal", lines));
   EXPECT_EQ(load(plain).palette[2], 3);
   folder.write("qc/QUAKE.PAL", lines);
   EXPECT_EQ(load(plain).palette[765], 1);
@@ -178,11 +180,12 @@ TEST_F(WadTest, OutlinesAndProgress) {
 }
 
 TEST_F(WadTest, ColormapIsWholeOrNone) {
+  prompts.cancel();
   EXPECT_FATAL(loadColormap(services), "You must select a valid colormap.lmp file.");
   EXPECT_EQ(prompts.choosers[0].title, "Where is the colormap.lmp file?");
-  prompts.answers = {"/nowhere/colormap.lmp"};
+  prompts.answer("/nowhere/colormap.lmp");
   EXPECT_FATAL(loadColormap(services), "Invalid colormap.lmp file.");
-  prompts.answers = {folder.write("own.lmp", std::string(16000, 'x'))};
+  prompts.answer(folder.write("own.lmp", std::string(16000, 'x')));
   EXPECT_EQ(loadColormap(services), nullptr);
   folder.write("qc/colormap.lmp", std::string(16384, 'x'));
   const auto table = loadColormap(services);
