@@ -131,6 +131,7 @@ void Editor::setCurrentIndex(int index) {
   if (!document(index)) return;
   current_ = index;
   showCurrent();
+  postStatus("Map switched...");
 }
 
 }  // namespace velk

@@ -35,9 +35,7 @@ bool mayClose(Editor& editor, MapDocument& document) {
 
 void switchMap(Editor& editor, int step) {
   const int count = editor.mapCount();
-  if (count == 0) return;
-  editor.setCurrentIndex((editor.currentIndex() + step + count) % count);
-  editor.postStatus("Map switched...");
+  if (count > 0) editor.setCurrentIndex((editor.currentIndex() + step + count) % count);
 }
 
 }  // namespace

@@ -1,0 +1,53 @@
+// Runs the cases of the golden folder: each holds a script, what it prints, and the files it needs. A
+// script that fails ends its output with "line N: why".
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "app/script.h"
+#include "app/session.h"
+
+namespace velk {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string fileText(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string runCase(const fs::path& folder) {
+  test::Session session;
+  fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing);
+  const fs::path before = fs::current_path();
+  fs::current_path(session.home.path());
+  std::ostringstream out;
+  const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).runFile("script");
+  fs::current_path(before);
+  if (!result.ok) out << "line " << result.line << ": " << result.message << '\n';
+  return out.str();
+}
+
+class Golden : public testing::TestWithParam<std::string> {};
+
+TEST_P(Golden, PrintsWhatIsExpected) {
+  const fs::path folder = fs::path(GOLDEN_FOLDER) / GetParam();
+  EXPECT_EQ(runCase(folder), fileText(folder / "expected"));
+}
+
+std::vector<std::string> caseNames() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(GOLDEN_FOLDER)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(caseNames()),
+                         [](const auto& info) { return info.param; });
+
+}  // namespace
+}  // namespace velk

@@ -1,0 +1,107 @@
+// Commands whose effect is not told by a script's output.
+#include "app/session.h"
+
+namespace velk {
+namespace {
+
+using test::Session;
+
+TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
+  Session session;
+  FindCommand("CM_OMIT_LIGHTS")->run(session.editor);
+  EXPECT_TRUE(session.editor.settings().filter.omitLights);
+  EXPECT_EQ(session.editor.status(), "Welcome to Velk...");
+  session.run("CM_FILENEW");
+  session.run("CM_OMIT_LIGHTS");
+  session.open("a.map");
+  session.open("b.map");
+  session.run("CM_OMIT_LIGHTS");
+  for (int i = 1; i < 3; ++i) {
+    EXPECT_TRUE(session.editor.document(i)->model.at(1)->at(0)->hidden) << i;
+    EXPECT_FALSE(session.editor.document(i)->model.world()->at(0)->hidden) << i;
+  }
+}
+
+TEST(Handlers, DeselectHidesClipPointsFirst) {
+  Session session;
+  session.open();
+  session.run("CM_SELECT_ALL");
+  session.current().setCurrentEntity(session.current().at(1));
+  session.current().clip.count = 2;
+  session.run("CM_DESELECT_ALL");
+  EXPECT_EQ(session.editor.status(), "Hiding clip points");
+  EXPECT_EQ(session.current().totalSelected(), 3);
+  session.run("CM_DESELECT_ALL");
+  EXPECT_EQ(session.editor.status(), "Deselected all brushes/entities");
+  EXPECT_EQ(session.current().totalSelected(), 0);
+  EXPECT_TRUE(session.current().worldIsCurrent());
+}
+
+TEST(Handlers, HitListCommands) {
+  Session session;
+  session.open();
+  map& m = session.current();
+  brush& first = *m.world()->at(0);
+  brush& second = *m.world()->at(1);
+  first.selected = true;
+  m.hits.add(first);
+  m.hits.add(second);
+  session.run("CM_HIT_UP");
+  EXPECT_TRUE(first.selected && second.selected);
+  EXPECT_EQ(m.hits.current, 1);
+  session.run("CM_HIT_UP");
+  EXPECT_TRUE(first.selected && !second.selected);
+  session.run("CM_HIT_DOWN");
+  EXPECT_EQ(m.hits.current, 1);
+  session.run("CM_HIT_1");
+  EXPECT_FALSE(second.selected);
+  session.run("CM_HIT_7");
+  EXPECT_EQ(session.editor.status(), "Selecting hit brush # 7...");
+  session.run("CM_HIT_UP");
+  EXPECT_EQ(m.hits.current, 7) << "out of range: nothing to cycle from";
+  session.run("228");
+  EXPECT_TRUE(first.selected && second.selected);
+}
+
+TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {
+  Session session;
+  session.open();
+  session.editor.settings().lock_cameras = true;
+  session.run("CM_CAMERA_RAISE");
+  EXPECT_EQ(session.editor.planViews().planCenter.z, 0);
+  session.editor.settings().lock_cameras = false;
+  session.run("CM_CAMERA_RAISE");
+  EXPECT_EQ(session.editor.planViews().planCenter.z, 128);
+}
+
+TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
+  struct Windowed : test::RecordingObserver {
+    bool showReplaceTexture() override { return shown = true; }
+    bool shown = false;
+  } observer;
+  test::TempFolder home;
+  test::FurnishHome(home);
+  ScriptPrompts prompts;
+  Editor editor({home.path(), home.path()}, prompts, observer);
+  editor.start();
+  editor.newMap();
+  editor.run(*FindCommand("CM_REPLACE"));
+  EXPECT_TRUE(observer.shown);
+  EXPECT_TRUE(prompts.log().empty());
+}
+
+TEST(Handlers, RedrawsOnlyWhatChanged) {
+  Session session;
+  session.open();
+  test::RecordingObserver& seen = session.observer;
+  seen.cameraRedraws = seen.planRedraws = 0;
+  session.run("CM_TOGGLE_OUTLINE");
+  EXPECT_EQ(seen.cameraRedraws, 1);
+  EXPECT_EQ(seen.planRedraws, 0);
+  session.run("CM_GRID_UP");
+  EXPECT_EQ(seen.cameraRedraws, 1);
+  EXPECT_EQ(seen.planRedraws, 1);
+}
+
+}  // namespace
+}  // namespace velk
