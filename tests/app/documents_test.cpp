@@ -205,7 +205,7 @@ TEST(Status, EmptyTextAndDebugForm) {
   EXPECT_EQ(session.editor.status(), "...");
   session.open();
   session.editor.postStatus("Text");
-  const std::string numbers = "3-0=3 Num: 3, e: 2-0=2 Num: 3   ";
+  const std::string numbers = "3-0=3 Num: 3, e: 3-1=2 Num: 3   ";
   EXPECT_EQ(session.editor.status(), "Text, " + numbers);
   session.editor.postStatus("");
   EXPECT_EQ(session.editor.status(), numbers + " ");

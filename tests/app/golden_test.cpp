@@ -1,6 +1,8 @@
 // Runs the cases of the golden folder: each holds a script, what it prints, and the files it needs. A
-// script that fails ends its output with "line N: why".
+// script that fails ends its output with "line N: why". With VELK_WRITE_GOLDEN set, what is printed is
+// written as what is expected; read it before committing.
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -18,14 +20,24 @@ std::string fileText(const fs::path& file) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
+// The script's file names start at the working directory.
+class WorkingIn {
+ public:
+  explicit WorkingIn(const fs::path& folder) : before_(fs::current_path()) { fs::current_path(folder); }
+  ~WorkingIn() { fs::current_path(before_); }
+  WorkingIn(const WorkingIn&) = delete;
+  WorkingIn& operator=(const WorkingIn&) = delete;
+
+ private:
+  fs::path before_;
+};
+
 std::string runCase(const fs::path& folder) {
   test::Session session;
-  fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing);
-  const fs::path before = fs::current_path();
-  fs::current_path(session.home.path());
+  fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing | fs::copy_options::recursive);
+  const WorkingIn home(session.home.path());
   std::ostringstream out;
   const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).runFile("script");
-  fs::current_path(before);
   if (!result.ok) out << "line " << result.line << ": " << result.message << '\n';
   return out.str();
 }
@@ -34,6 +46,7 @@ class Golden : public testing::TestWithParam<std::string> {};
 
 TEST_P(Golden, PrintsWhatIsExpected) {
   const fs::path folder = fs::path(GOLDEN_FOLDER) / GetParam();
+  if (std::getenv("VELK_WRITE_GOLDEN")) std::ofstream(folder / "expected") << runCase(folder);
   EXPECT_EQ(runCase(folder), fileText(folder / "expected"));
 }
 
@@ -47,7 +60,7 @@ std::vector<std::string> caseNames() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(caseNames()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& test) { return test.param; });
 
 }  // namespace
 }  // namespace velk

@@ -35,12 +35,12 @@ inline std::string BoxBrushText(int x, int size, const char* texture) {
            std::to_string(c * size) + " ) ";
   };
   const auto side = [&](const std::string& points) { return points + texture + " 0 0 0 1 1\n"; };
-  return "{\n" + side(point(0, 0, 0) + point(0, 0, 1) + point(0, 1, 0)) +
-         side(point(1, 0, 0) + point(1, 1, 0) + point(1, 0, 1)) +
-         side(point(0, 0, 0) + point(1, 0, 0) + point(0, 0, 1)) +
-         side(point(0, 1, 0) + point(0, 1, 1) + point(1, 1, 0)) +
-         side(point(0, 0, 0) + point(0, 1, 0) + point(1, 0, 0)) +
-         side(point(0, 0, 1) + point(1, 0, 1) + point(0, 1, 1)) + "}\n";
+  return "{\n" + side(point(0, 1, 0) + point(0, 0, 1) + point(0, 0, 0)) +
+         side(point(1, 0, 1) + point(1, 1, 0) + point(1, 0, 0)) +
+         side(point(0, 0, 1) + point(1, 0, 0) + point(0, 0, 0)) +
+         side(point(1, 1, 0) + point(0, 1, 1) + point(0, 1, 0)) +
+         side(point(1, 0, 0) + point(0, 1, 0) + point(0, 0, 0)) +
+         side(point(0, 1, 1) + point(1, 0, 1) + point(0, 0, 1)) + "}\n";
 }
 
 // Two boxes and a light: 2 entities, 3 brushes.
