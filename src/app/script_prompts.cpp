@@ -54,13 +54,20 @@ void ScriptPrompts::queue(std::vector<std::string> words, bool literal) {
   answers_.push_back({std::move(words), literal});
 }
 
+// Words that only some prompts know stay without quotes in the log.
+bool ScriptPrompts::Queued::isText() const {
+  if (literal || words.size() != 1) return true;
+  return std::none_of(kAnswerWords.begin(), kAnswerWords.end(),
+                      [this](const AnswerWord& known) { return words[0] == known.word; });
+}
+
 ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& caption,
                                           const std::string& text) {
   if (answers_.empty()) failPrompt("no answer for the prompt", caption, text);
   Queued answer = std::move(answers_.front());
   answers_.pop_front();
   std::string words;
-  for (const std::string& word : answer.words) words += ' ' + word;
+  for (const std::string& word : answer.words) words += ' ' + (answer.isText() ? ScriptQuoted(word) : word);
   log_.push_back(std::string(kind) + ' ' + ScriptQuoted(caption) + ' ' + ScriptQuoted(text) + words);
   return answer;
 }

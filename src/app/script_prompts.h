@@ -39,6 +39,7 @@ class ScriptPrompts : public Prompts {
   struct Queued {
     std::vector<std::string> words;
     bool literal = false;
+    bool isText() const;
     bool cancels() const { return !literal && words.size() == 1 && words[0] == "cancel"; }
   };
   Queued take(const char* kind, const std::string& caption, const std::string& text);

@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "support/fatal.h"
-#include "support/tempfolder.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {
@@ -29,7 +29,7 @@ TEST(Place, FirstStartCopiesTheKitOverNothing) {
   kit.write("ents.qc", "kit");
   kit.write("maps/first.map", "kit");
   const test::TempFolder user;
-  const std::string own = user.write("velk/ents.qc", "own");
+  const std::string own = user.write("velk/ents.qc", "own").string();
   const Surroundings around{user.path(), "", user.path().string(), ""};
   const EditorPlace place = FindPlace(around, kit.path());
   EXPECT_EQ(place.home, user.path() / "velk");
