@@ -66,36 +66,45 @@ bool Tokenizer::skipComment(bool acrossLines) {
 
 bool Tokenizer::skipToToken(bool acrossLines) {
   for (;;) {
-    while (position_ < end_ && !isText(*position_)) {
-      if (*position_ == '\n') {
-        if (!acrossLines) Error("Line %i is incomplete", line_);
-        ++line_;
-      }
-      ++position_;
-    }
-    if (position_ >= end_) {
+    for (; position_ < end_ && !isText(*position_); ++position_) {
+      if (*position_ != '\n') continue;
       if (!acrossLines) Error("Line %i is incomplete", line_);
-      return false;
+      ++line_;
     }
-    if (!startsComment(position_, end_)) return true;
-    if (!skipComment(acrossLines)) return false;
+    if (position_ < end_ && !startsComment(position_, end_)) return true;
+    if (position_ < end_ && skipComment(acrossLines)) continue;
+    if (!acrossLines) Error("Line %i is incomplete", line_);
+    return false;
   }
 }
 
-const char* Tokenizer::tokenEnd(const char* start) const {
-  const char* stop = quoted_ ? find(start, end_, '"') : wordEnd(start, end_);
+void Tokenizer::take(const char* start, const char* stop) {
   if (stop - start > kMaxToken) Error("Token too large on line %i", line_);
-  if (quoted_ && stop == end_) Error("EOF inside quoted token");
-  return stop;
+  token_ = {start, static_cast<size_t>(stop - start)};
+}
+
+void Tokenizer::takeQuoted() {
+  const char* start = position_ + 1;
+  const char* stop = find(start, end_, '"');
+  take(start, stop);
+  if (stop == end_) Error("EOF inside quoted token");
+  position_ = stop + 1;
 }
 
 bool Tokenizer::GetScriptToken(bool acrossLines) {
-  if (!skipToToken(acrossLines)) return false;
-  quoted_ = *position_ == '"';
-  const char* start = position_ + (quoted_ ? 1 : 0);
-  const char* stop = tokenEnd(start);
-  token_ = {start, static_cast<size_t>(stop - start)};
-  position_ = stop + (quoted_ ? 1 : 0);
+  // Nearly every token is a word behind a single blank.
+  const char* start = position_ < end_ && *position_ == ' ' ? position_ + 1 : position_;
+  if (start == end_ || !isText(*start) || *start == '/' || *start == '"') {
+    if (!skipToToken(acrossLines)) return false;
+    start = position_;
+  }
+  quoted_ = *start == '"';
+  if (quoted_) {
+    takeQuoted();
+    return true;
+  }
+  position_ = wordEnd(start, end_);
+  take(start, position_);
   return true;
 }
 

@@ -45,7 +45,8 @@ class Tokenizer {
  private:
   bool skipToToken(bool acrossLines);
   bool skipComment(bool acrossLines);
-  const char* tokenEnd(const char* start) const;
+  void take(const char* start, const char* stop);
+  void takeQuoted();
 
   const char* position_ = nullptr;
   const char* end_ = nullptr;

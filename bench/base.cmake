@@ -1,0 +1,1 @@
+velk_bench(base SOURCES base_bench.cpp)
