@@ -102,12 +102,15 @@ std::string_view WithoutMark(std::string_view text) {
   return text.starts_with(mark) ? text.substr(mark.size()) : text;
 }
 
-void Warn(const MapReadResult& result) {
-  if (result.cutPoints > 0)
-    std::printf("WARNING: %i plane points had fractions, which were cut off\n", result.cutPoints);
-  if (result.invalidBrushes > 0)
-    std::printf("WARNING: %i brushes without a valid solid were left out\n", result.invalidBrushes);
-  if (!result.complete) std::puts("WARNING: the file ends inside an entity");
+void Warn(const MapReadResult& result, const std::string& name) {
+  if (result.cutPoints > 0) {
+    std::printf("WARNING: [%s] plane points whose fractions were cut off: %i\n", name.c_str(),
+                result.cutPoints);
+  }
+  if (result.invalidBrushes > 0) {
+    std::printf("WARNING: [%s] invalid brushes left out: %i\n", name.c_str(), result.invalidBrushes);
+  }
+  if (!result.complete) std::printf("WARNING: [%s] ends inside an entity\n", name.c_str());
 }
 
 entity& WorldOf(map& m) {
@@ -274,7 +277,7 @@ MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name
   m.notify(MapNotice::Groups);
   m.modified = false;
 
-  Warn(reading.result);
+  Warn(reading.result, name);
   header.favourites.resize(
       std::min<size_t>(header.favourites.size(), static_cast<size_t>(std::max(0, m.settings().numfav))));
   reading.result.favourites = std::move(header.favourites);
@@ -298,7 +301,7 @@ MapReadResult MergeMapText(map& m, std::string_view text, const std::string& nam
   if (const auto fileWorld = MergeEntities(m, reading, name)) MoveBrushes(*fileWorld, world);
   m.setCurrentEntity(&world);
   m.modified = true;
-  Warn(reading.result);
+  Warn(reading.result, name);
   return std::move(reading.result);
 }
 

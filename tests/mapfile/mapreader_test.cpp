@@ -87,10 +87,10 @@ TEST(MapReader, TellsWhatItChanged) {
       {"{\n\"classname\" \"light\"\n" + Cube(0) + "}\n", "WARNING:Entity with brushes and wrong model type\n",
        1},
       {"{\n\"classname\" \"mystery\"\n}\n", "WARNING:Entity with no brushes and esize_model\n", 1},
-      {"{\n" + Cube(0) + flat + "}\n", "WARNING: 1 brushes without a valid solid were left out\n", 1},
-      {"{\n" + fractions + "}\n", "WARNING: 2 plane points had fractions, which were cut off\n", 1},
-      {"{\n" + Cube(0), "WARNING: the file ends inside an entity\n", 1},
-      {"{\n{\n" + CubeFaces(0), "WARNING: the file ends inside an entity\n", 1},
+      {"{\n" + Cube(0) + flat + "}\n", "WARNING: [test.map] invalid brushes left out: 1\n", 1},
+      {"{\n" + fractions + "}\n", "WARNING: [test.map] plane points whose fractions were cut off: 2\n", 1},
+      {"{\n" + Cube(0), "WARNING: [test.map] ends inside an entity\n", 1},
+      {"{\n{\n" + CubeFaces(0), "WARNING: [test.map] ends inside an entity\n", 1},
   };
   for (const auto& c : cases) {
     testing::internal::CaptureStdout();
