@@ -60,9 +60,10 @@ void drawCamera(ViewPainter& painter, int index) {
     drawDots(painter.canvas, colour, tip, b, length, dots);
   }
   if (painter.projection.scale > kNumbersAbove) {
+    // Without a background of its own, which would break the marker's outline.
     painter.canvas.text(Format("%i", index + 1), {at.x - 5, at.y - 5},
                         std::clamp(settings.box_font_size, 5, kLargestFont), painter.colours.fgcolor,
-                        &painter.colours.bgcolor);
+                        nullptr);
   }
 }
 

@@ -6,23 +6,25 @@ namespace velk {
 
 namespace {
 
-constexpr int kTextHeight = 12;  // pixels
-constexpr int kTextMargin = 4;   // left and right of a field's text
+constexpr int kTextHeight = 11;  // pixels
+constexpr int kTextLeft = 3;     // of a field's text
+constexpr int kTextRight = 2;    // kept free of it, the divider included
 constexpr int kMenuTop = 13;     // pop-up menus open that far below the view's top edge
-constexpr int kScaleLeft = 30;   // where the scale and camera menus open, and their fields begin
-constexpr int kCameraLeft = 110;
+constexpr int kScaleMenuLeft = 30;
+constexpr int kCameraLeft = 110;  // where the camera field begins and its menu opens
 
 struct FieldWidth {
   StripField field;
   int width;
 };
-constexpr FieldWidth kFields[] = {{StripField::Grid, kScaleLeft},
-                                  {StripField::Scale, 46},
-                                  {StripField::Direction, kCameraLeft - kScaleLeft - 46},
+// The first four take just what their longest texts need ("256", "1600.0%", "Right").
+constexpr FieldWidth kFields[] = {{StripField::Grid, 26},
+                                  {StripField::Scale, 51},
+                                  {StripField::Direction, kCameraLeft - 26 - 51},
                                   {StripField::Camera, 32},
                                   {StripField::Coordinate, 94},
                                   {StripField::Delta, 84},
-                                  {StripField::DepthRange, 140},
+                                  {StripField::DepthRange, 130},
                                   {StripField::Group, 120}};
 
 bool contains(const PixelRect& rect, Pixel at) {
@@ -72,7 +74,7 @@ std::optional<StripMenu> stripMenu(StripField field, const Settings& settings, c
     case StripField::Grid:
       return StripMenu{{0, kMenuTop}, gridMenu(settings)};
     case StripField::Scale:
-      return StripMenu{{kScaleLeft, kMenuTop}, scaleMenu(settings)};
+      return StripMenu{{kScaleMenuLeft, kMenuTop}, scaleMenu(settings)};
     case StripField::Camera:
       return StripMenu{{kCameraLeft, kMenuTop}, cameraMenu(settings, m)};
     default:
@@ -110,11 +112,12 @@ void drawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& setti
   canvas.fill({0, kStripHeight - 1, view.clientWidth, 1}, divider);
   for (const StripSlot& slot : layoutStrip(view.clientWidth)) {
     canvas.fill({slot.rect.left + slot.rect.width - 1, 3, 1, kStripHeight - 7}, divider);
-    const std::string text = fitted(canvas, stripText(slot.field, view, settings, m, groupName),
-                                    slot.rect.width - 2 * kTextMargin);
+    std::string text = stripText(slot.field, view, settings, m, groupName);
+    text.erase(0, text.find_first_not_of(' '));  // numbers are padded for the caption
+    text = fitted(canvas, text, slot.rect.width - kTextLeft - kTextRight);
     const int top = (kStripHeight - 1 - kTextHeight) / 2;
     if (!text.empty())
-      canvas.text(text, {slot.rect.left + kTextMargin, top}, kTextHeight, colours.text, nullptr);
+      canvas.text(text, {slot.rect.left + kTextLeft, top}, kTextHeight, colours.text, nullptr);
   }
 }
 

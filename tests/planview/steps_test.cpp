@@ -109,8 +109,8 @@ TEST(HeaderStrip, FieldsNeverOverlapAndLeaveWhole) {
     }
   }
   EXPECT_EQ(shown, 8u);
-  EXPECT_EQ(stripFieldAt(320, {29, 5}), StripField::Grid);
-  EXPECT_EQ(stripFieldAt(320, {30, 5}), StripField::Scale);
+  EXPECT_EQ(stripFieldAt(320, {25, 5}), StripField::Grid);
+  EXPECT_EQ(stripFieldAt(320, {26, 5}), StripField::Scale);
   EXPECT_EQ(stripFieldAt(320, {110, 5}), StripField::Camera);
   EXPECT_EQ(stripFieldAt(320, {30, kStripHeight}), std::nullopt);
   EXPECT_EQ(stripFieldAt(100, {110, 5}), std::nullopt);
