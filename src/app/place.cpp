@@ -28,11 +28,27 @@ fs::path homeFolder(const Surroundings& around) {
   return fs::path(around.userHome) / ".config" / "velk";
 }
 
+// Copies a file or makes a folder; what is there stays. The copy may be written even if the kit may not.
+bool copyEntry(const fs::directory_entry& entry, const fs::path& target) {
+  std::error_code failed;
+  if (entry.is_directory()) {
+    fs::create_directories(target, failed);
+  } else if (fs::copy_file(entry.path(), target, fs::copy_options::skip_existing, failed)) {
+    fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, failed);
+  }
+  return !failed;
+}
+
+// velk.ini comes last: with it the first start is over.
 bool copyKit(const fs::path& kit, const fs::path& home) {
   std::error_code failed;
   fs::create_directories(home, failed);
-  if (!failed) fs::copy(kit, home, fs::copy_options::recursive | fs::copy_options::skip_existing, failed);
-  return !failed;
+  if (failed) return false;
+  for (const auto& entry : fs::recursive_directory_iterator(kit, failed)) {
+    const fs::path name = fs::relative(entry.path(), kit);
+    if (name != "velk.ini" && !copyEntry(entry, home / name)) return false;
+  }
+  return !failed && copyEntry(fs::directory_entry(kit / "velk.ini"), home / "velk.ini");
 }
 
 bool isRelative(const std::string& path) {

@@ -22,8 +22,8 @@ TEST(Documents, NewMap) {
 
 TEST(Documents, OpensSeveralChosenFiles) {
   Session session;
-  const std::string one = session.home.write("one.map", test::SmallMapText()).string();
-  const std::string two = session.home.write("two.map", test::SmallMapText()).string();
+  const std::string one = session.home.write("one.map", test::SmallMapText());
+  const std::string two = session.home.write("two.map", test::SmallMapText());
   session.prompts.queue({one, two}, false);
   session.run("CM_FILEOPEN");
   ASSERT_EQ(session.editor.mapCount(), 2);
@@ -57,7 +57,7 @@ TEST(Documents, EleventhMapIsRefused) {
 TEST(Documents, FatalErrorWhileOpeningLeavesTheListAlone) {
   Session session;
   session.open();
-  const std::string bad = session.home.write("bad.map", "{\n\"classname\" \"worldspawn\"\n{\n( 1 2").string();
+  const std::string bad = session.home.write("bad.map", "{\n\"classname\" \"worldspawn\"\n{\n( 1 2");
   EXPECT_NE(test::FatalMessage([&] { session.editor.openFile(bad); }), "");
   EXPECT_NE(test::FatalMessage([&] { session.editor.openFile("/nowhere/no.map"); }), "");
   EXPECT_EQ(session.editor.mapCount(), 1);

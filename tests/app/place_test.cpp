@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "support/fatal.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 
 namespace velk {
 namespace {
@@ -25,15 +25,17 @@ TEST(Place, WhereHomeIs) {
 
 TEST(Place, FirstStartCopiesTheKitOverNothing) {
   const test::TempFolder kit;
-  kit.write("velk.ini", "kit");
   kit.write("ents.qc", "kit");
+  fs::permissions(kit.write("velk.ini", "kit"), fs::perms::owner_read);
   kit.write("maps/first.map", "kit");
   const test::TempFolder user;
-  const std::string own = user.write("velk/ents.qc", "own").string();
+  const std::string own = user.write("velk/ents.qc", "own");
   const Surroundings around{user.path(), "", user.path().string(), ""};
   const EditorPlace place = FindPlace(around, kit.path());
   EXPECT_EQ(place.home, user.path() / "velk");
   EXPECT_EQ(LoadFile(Paths(), own), "own");
+  const fs::perms mode = fs::status(place.home / "velk.ini").permissions();
+  EXPECT_NE(mode & fs::perms::owner_write, fs::perms::none);
   EXPECT_EQ(LoadFile(Paths(), (place.home / "maps/first.map").string()), "kit");
   fs::remove(place.home / "maps/first.map");
   FindPlace(around, kit.path());

@@ -10,7 +10,7 @@
 #include "app/script_prompts.h"
 #include "base/files.h"
 #include "support/fatal.h"
-#include "support/temp_folder.h"
+#include "support/tempfolder.h"
 #include "support/wadbuilder.h"
 
 namespace velk::test {
@@ -76,7 +76,7 @@ class Session {
   bool run(const char* command) { return editor.run(*FindCommand(command)); }
   // Writes the small map and opens it.
   std::string open(const std::string& name = "small.map") {
-    std::string path = home.write(name, SmallMapText()).string();
+    std::string path = home.write(name, SmallMapText());
     editor.openFile(path);
     return path;
   }
