@@ -4,9 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include "app/editor.h"
+#include "base/text.h"
+#include "base/tokenizer.h"
 #include "entities/entityclass.h"
 #include "mapfile/mapreader.h"
 #include "support/scripted_prompts.h"
+#include "support/tempfolder.h"
 #include "textures/texturemanager.h"
 
 namespace velk {
@@ -40,89 +44,32 @@ TEST_F(Kit, SettingsPointAtTheKit) {
 }
 
 // Classes of the game's maps, with what the others of their family have in common.
-constexpr const char* kPoints[] = {"air_bubbles",
-                                   "ambient_comp_hum",
-                                   "ambient_drip",
-                                   "ambient_drone",
-                                   "ambient_suck_wind",
-                                   "ambient_swamp1",
-                                   "ambient_swamp2",
-                                   "event_lightning",
-                                   "info_intermission",
-                                   "info_null",
-                                   "info_notnull",
-                                   "info_player_coop",
-                                   "info_player_deathmatch",
-                                   "info_player_start",
-                                   "info_player_start2",
-                                   "info_teleport_destination",
-                                   "item_armor1",
-                                   "item_armor2",
-                                   "item_armorInv",
-                                   "item_artifact_envirosuit",
-                                   "item_artifact_invisibility",
-                                   "item_artifact_invulnerability",
-                                   "item_artifact_super_damage",
-                                   "item_cells",
-                                   "item_health",
-                                   "item_key1",
-                                   "item_key2",
-                                   "item_rockets",
-                                   "item_shells",
-                                   "item_sigil",
-                                   "item_spikes",
-                                   "item_weapon",
-                                   "light",
-                                   "light_flame_large_yellow",
-                                   "light_flame_small_white",
-                                   "light_flame_small_yellow",
-                                   "light_fluoro",
-                                   "light_fluorospark",
-                                   "light_globe",
-                                   "light_torch_small_walltorch",
-                                   "misc_explobox",
-                                   "misc_explobox2",
-                                   "misc_fireball",
-                                   "misc_teleporttrain",
-                                   "monster_army",
-                                   "monster_boss",
-                                   "monster_demon1",
-                                   "monster_dog",
-                                   "monster_enforcer",
-                                   "monster_fish",
-                                   "monster_hell_knight",
-                                   "monster_knight",
-                                   "monster_ogre",
-                                   "monster_oldone",
-                                   "monster_shalrath",
-                                   "monster_shambler",
-                                   "monster_tarbaby",
-                                   "monster_wizard",
-                                   "monster_zombie",
-                                   "path_corner",
-                                   "trap_shooter",
-                                   "trap_spikeshooter",
-                                   "trigger_relay",
-                                   "weapon_grenadelauncher",
-                                   "weapon_lightning",
-                                   "weapon_nailgun",
-                                   "weapon_rocketlauncher",
-                                   "weapon_supernailgun",
-                                   "weapon_supershotgun"};
-constexpr const char* kSolids[] = {
-    "func_bossgate",       "func_button",         "func_door",        "func_door_secret",
-    "func_episodegate",    "func_illusionary",    "func_plat",        "func_train",
-    "func_wall",           "trigger_changelevel", "trigger_counter",  "trigger_hurt",
-    "trigger_monsterjump", "trigger_multiple",    "trigger_once",     "trigger_onlyregistered",
-    "trigger_push",        "trigger_secret",      "trigger_setskill", "trigger_teleport",
-    "worldspawn"};
+constexpr const char* kPoints =
+    "air_bubbles ambient_comp_hum ambient_drip ambient_drone ambient_suck_wind ambient_swamp1 "
+    "ambient_swamp2 event_lightning info_intermission info_null info_notnull info_player_coop "
+    "info_player_deathmatch info_player_start info_player_start2 info_teleport_destination item_armor1 "
+    "item_armor2 item_armorInv item_artifact_envirosuit item_artifact_invisibility "
+    "item_artifact_invulnerability item_artifact_super_damage item_cells item_health item_key1 item_key2 "
+    "item_rockets item_shells item_sigil item_spikes item_weapon light light_flame_large_yellow "
+    "light_flame_small_white light_flame_small_yellow light_fluoro light_fluorospark light_globe "
+    "light_torch_small_walltorch misc_explobox misc_explobox2 misc_fireball misc_teleporttrain "
+    "monster_army monster_boss monster_demon1 monster_dog monster_enforcer monster_fish "
+    "monster_hell_knight monster_knight monster_ogre monster_oldone monster_shalrath monster_shambler "
+    "monster_tarbaby monster_wizard monster_zombie path_corner trap_shooter trap_spikeshooter "
+    "trigger_relay weapon_grenadelauncher weapon_lightning weapon_nailgun weapon_rocketlauncher "
+    "weapon_supernailgun weapon_supershotgun";
+constexpr const char* kSolids =
+    "func_bossgate func_button func_door func_door_secret func_episodegate func_illusionary func_plat "
+    "func_train func_wall trigger_changelevel trigger_counter trigger_hurt trigger_monsterjump "
+    "trigger_multiple trigger_once trigger_onlyregistered trigger_push trigger_secret trigger_setskill "
+    "trigger_teleport worldspawn";
 
 TEST_F(Kit, EveryClassOfTheGameIsDefined) {
-  for (const char* name : kPoints) {
+  for (const std::string& name : Split(kPoints, ' ')) {
     const EntityClass& found = classes.findByName(name);
     EXPECT_TRUE(classes.isKnown(found) && found.fixedSize) << name;
   }
-  for (const char* name : kSolids) {
+  for (const std::string& name : Split(kSolids, ' ')) {
     const EntityClass& found = classes.findByName(name);
     EXPECT_TRUE(classes.isKnown(found) && !found.fixedSize) << name;
   }
@@ -190,6 +137,33 @@ TEST_F(KitTextures, MapIsSound) {
     }
   }
   EXPECT_TRUE(start);
+}
+
+TEST_F(Kit, BarsHoldCommandsOnly) {
+  const std::string text = LoadFile(paths, kFolder + "velkbars.ini");
+  Tokenizer tokens(text);
+  ASSERT_TRUE(tokens.GetScriptToken(true) && tokens.token() == "bars" && tokens.GetScriptToken(false));
+  int gadgets = 0;
+  for (; tokens.GetScriptToken(true); ++gadgets) {
+    ASSERT_TRUE(tokens.token() == "bar" && tokens.GetScriptToken(false) && tokens.GetScriptToken(false));
+    const bool other = tokens.token() == "Separator" || tokens.token() == "TextureList";
+    EXPECT_TRUE(other || FindCommand(tokens.token())) << tokens.token();
+  }
+  EXPECT_GT(gadgets, 20);
+}
+
+// With nothing of Velk's on the machine: the kit is copied and nothing is asked.
+TEST_F(Kit, FirstStartNeedsNoAnswer) {
+  const test::TempFolder folder;
+  const Surroundings bare{folder.path(), folder.directory("home"), "", ""};
+  Observer nobody;
+  Editor editor(FindPlace(bare, kFolder), prompts, nobody);
+  editor.start();
+  EXPECT_EQ(editor.status(), "Welcome to Velk...");
+  editor.openFile(folder.directory("home") + "start.map");
+  ASSERT_TRUE(editor.current());
+  EXPECT_GE(editor.current()->textures.count(), 48);
+  EXPECT_TRUE(prompts.asked.empty());
 }
 
 }  // namespace
