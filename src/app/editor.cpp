@@ -124,6 +124,11 @@ void Editor::carryOutRedraws() {
   redraw2D_ = redraw3D_ = false;
 }
 
+void Editor::requestExit() {
+  exiting_ = true;
+  observer_.exitRequested();
+}
+
 void Editor::tick() { ++autosaveTicks_; }
 
 }  // namespace velk

@@ -136,6 +136,10 @@ class Editor {
   // Flags, plan view centre and status of a camera command.
   void apply(const CameraOutcome& outcome);
 
+  // The user asked to exit and gave no Cancel.
+  void requestExit();
+  bool exiting() const { return exiting_; }
+
   // One tick of ten seconds.
   void tick();
 
@@ -175,6 +179,7 @@ class Editor {
   bool redraw2D_ = true;
   bool redraw3D_ = true;
   int autosaveTicks_ = 0;
+  bool exiting_ = false;
 };
 
 }  // namespace velk

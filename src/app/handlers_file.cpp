@@ -72,7 +72,7 @@ void exitEditor(Editor& editor) {
   for (int i = 0; i < editor.mapCount(); ++i) {
     if (!mayClose(editor, *editor.document(i))) return;
   }
-  editor.observer().exitRequested();
+  editor.requestExit();
 }
 
 void nextMap(Editor& editor) { switchMap(editor, 1); }

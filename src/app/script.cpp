@@ -111,6 +111,7 @@ ScriptResult ScriptRunner::run(std::string_view text) {
     } catch (const ScriptFailure& failure) {
       return {false, line.number, failure.what()};
     }
+    if (editor_.exiting()) break;
   }
   return {};
 }

@@ -42,7 +42,8 @@ class ScriptRunner {
   ScriptRunner(Editor& editor, ScriptPrompts& prompts, ScriptPictures* pictures, std::ostream& out)
       : editor_(editor), prompts_(prompts), pictures_(pictures), out_(out) {}
 
-  // Stops at the first instruction that fails. Fatal errors of the editor pass through.
+  // Stops when the editor exits, and at the first instruction that fails. Fatal errors of the editor pass
+  // through.
   ScriptResult run(std::string_view text);
   ScriptResult runFile(const std::filesystem::path& file);
 

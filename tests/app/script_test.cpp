@@ -60,6 +60,13 @@ TEST(Script, FatalErrorsPassThrough) {
   EXPECT_NE(test::FatalMessage([&] { runner.run("answer /nowhere/no.map\nCM_FILEOPEN"); }), "");
 }
 
+TEST(Script, ExitEndsIt) {
+  test::Session session;
+  std::ostringstream out;
+  EXPECT_TRUE(ScriptRunner(session.editor, session.prompts, nullptr, out).run("CM_FILEEXIT\nnonsense").ok);
+  EXPECT_TRUE(session.observer.exiting);
+}
+
 TEST(Script, MissingFile) {
   test::Session session;
   std::ostringstream out;
