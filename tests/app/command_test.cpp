@@ -2,6 +2,7 @@
 #include <set>
 
 #include "app/session.h"
+#include "planview/viewsteps.h"
 
 namespace velk {
 namespace {
@@ -45,6 +46,18 @@ TEST(CommandTable, Finding) {
   EXPECT_EQ(FindCommand(""), nullptr);
   EXPECT_EQ(FindCommand("CM_NOTHING"), nullptr);
   EXPECT_EQ(FindCommand(4711), nullptr);
+}
+
+TEST(CommandTable, HoldsWhatTheViewsMenusName) {
+  const Settings settings;
+  for (const auto& menu : {gridMenu(settings), scaleMenu(settings), cameraMenu(settings, nullptr)}) {
+    for (const ViewMenuItem& item : menu) {
+      if (item.separator) continue;
+      const Command* command = FindCommand(item.command);
+      ASSERT_NE(command, nullptr) << item.command;
+      EXPECT_NE(command->run, nullptr) << item.command;
+    }
+  }
 }
 
 TEST(Keys, Strokes) {
