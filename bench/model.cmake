@@ -1,0 +1,1 @@
+velk_bench(model SOURCES model_bench.cpp)

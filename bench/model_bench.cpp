@@ -1,0 +1,118 @@
+// The model: building polygons and visiting brushes. Arguments are brush counts.
+#include <cmath>
+#include <memory>
+#include <numbers>
+
+#include <benchmark/benchmark.h>
+
+#include "model/map.h"
+
+namespace velk {
+namespace {
+
+face Face(const vec3& p0, const vec3& p1, const vec3& p2) {
+  face f;
+  f.planepts[0] = p0;
+  f.planepts[1] = p1;
+  f.planepts[2] = p2;
+  f.texture.name = "wall";
+  return f;
+}
+
+void MakeBox(brush& b, const vec3& at, float size) {
+  texturedef texture;
+  texture.name = "wall";
+  b.setBox(at, {at.x + size, at.y + size, at.z + size}, texture);
+}
+
+// A box with its upper edge cut off.
+void MakeWedge(brush& b, const vec3& at, float size) {
+  MakeBox(b, at, size);
+  const vec3 top{at.x + size, at.y, at.z + size};
+  b.addFace(Face({at.x, at.y + 8, at.z}, {top.x, at.y + 8, top.z}, top));
+}
+
+void MakeCylinder(brush& b, const vec3& at, float size) {
+  constexpr int kSides = 12;
+  const auto corner = [&](int i, float z) {
+    const double angle = 2 * std::numbers::pi * i / kSides;
+    return vec3{float(std::round(at.x + size * std::cos(angle))),
+                float(std::round(at.y + size * std::sin(angle))), at.z + z};
+  };
+  b.faces.clear();
+  for (int i = 0; i < kSides; ++i)
+    b.faces.push_back(Face(corner(i, size), corner(i + 1, size), corner(i + 1, 0)));
+  b.faces.push_back(Face(corner(2, size), corner(1, size), corner(0, size)));
+  b.faces.push_back(Face(corner(0, 0), corner(1, 0), corner(2, 0)));
+  b.buildWindings();
+}
+
+enum Shapes { kBoxes, kWedges, kCylinders, kMixed };
+
+void MakeShape(brush& b, Shapes shapes, int index, const vec3& at) {
+  const float size = float(16 + index % 7 * 8);
+  // Of every ten mixed brushes one is a cylinder and two are wedges, much as in real levels.
+  const int kind = shapes != kMixed  ? shapes
+                   : index % 10 == 9 ? kCylinders
+                   : index % 5 == 3  ? kWedges
+                                     : kBoxes;
+  if (kind == kBoxes) MakeBox(b, at, size);
+  if (kind == kWedges) MakeWedge(b, at, size);
+  if (kind == kCylinders) MakeCylinder(b, at, size);
+}
+
+struct BenchMap {
+  Settings settings;
+  EntityClassList classes;
+  map m{settings, classes};
+
+  BenchMap(Shapes shapes, int brushes) {
+    m.initNew("");
+    for (int i = 0; i < brushes; ++i) {
+      const vec3 at{float(i % 32 * 128 - 2048), float(i / 32 % 32 * 128 - 2048), float(i / 1024 * 128)};
+      auto made = std::make_unique<brush>();
+      MakeShape(*made, shapes, i, at);
+      m.world()->addobject(std::move(made));
+    }
+  }
+};
+
+void BuildWindings(benchmark::State& state, Shapes shapes) {
+  BenchMap bench(shapes, int(state.range(0)));
+  long corners = 0;
+  for (auto _ : state) {
+    for (brush& b : bench.m.world()->brushes()) b.buildWindings();
+  }
+  for (const brush& b : bench.m.world()->brushes()) {
+    if (b.invalid) state.SkipWithError("a brush is invalid");
+    for (const face& f : b.faces) corners += f.polygon ? f.polygon->count : 0;
+  }
+  state.counters["corners"] = double(corners);
+  state.counters["ns/brush"] =
+      benchmark::Counter(double(state.range(0)) * 1e-9,
+                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+BENCHMARK_CAPTURE(BuildWindings, boxes, kBoxes)->Arg(1257);
+BENCHMARK_CAPTURE(BuildWindings, wedges, kWedges)->Arg(1257);
+BENCHMARK_CAPTURE(BuildWindings, cylinders, kCylinders)->Arg(1257);
+BENCHMARK_CAPTURE(BuildWindings, mixed, kMixed)->Arg(1257)->Arg(4000);
+
+// One dispatch over every brush.
+void Perform(benchmark::State& state, Method method) {
+  BenchMap bench(kMixed, int(state.range(0)));
+  bench.m.perform.offset = {8, 0, 0};
+  for (auto _ : state) {
+    bench.m.MAPerform(method);
+    bench.m.perform.offset.x = -bench.m.perform.offset.x;
+  }
+  if (bench.m.brushCount() != state.range(0)) state.SkipWithError("brushes were lost");
+}
+BENCHMARK_CAPTURE(Perform, select, Method::Select)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, filter, Method::SetHidden)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, bounds, Method::WidenBounds)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, translate, Method::Translate)->Arg(4000);
+
+}  // namespace
+}  // namespace velk
+
+BENCHMARK_MAIN();
