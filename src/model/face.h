@@ -20,6 +20,14 @@ struct face {
   WindingPtr polygon;                  // derived; none when degenerate, repeated or clipped away
   std::unique_ptr<TextureRef> cache;   // filled by the camera view, dropped with the polygon
 
+  // What projecting the texture leaves in the face: the shade, and 1 in place of a scale of 0.
+  void takeProjection(float axesShade) {
+    shade = axesShade;
+    for (float& scale : texture.scale) {
+      if (scale == 0) scale = 1;
+    }
+  }
+
   face() = default;
   face(face&&) = default;
   face& operator=(face&&) = default;

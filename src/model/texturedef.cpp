@@ -42,7 +42,7 @@ TextureTurn TurnOf(float degrees) {
 }
 
 TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, const vec3& point) {
-  return ProjectTexture(definition, TurnOf(definition.rotate), axes, point);
+  return ProjectTexture(axes, TurnOf(definition.rotate), definition.scale, definition.shift, point);
 }
 
 }  // namespace velk

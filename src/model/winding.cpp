@@ -27,23 +27,28 @@ WindingPtr CopyWinding(const winding& w) {
 }
 
 WindingPtr ClipWinding(WindingPtr w, const plane& split) {
-  const SplitPlane splitPlane(split);
+  const SplitPlane splitPlane = SplitBy(split);
   CornerSides sides;
   FindSides(w->points(), w->count, splitPlane, sides);
   if (sides.back == 0) return w;
   if (sides.front == 0) return nullptr;
 
   WindingPtr clipped = NewWinding(w->count + CLIP_EXTRA_POINTS);
-  WindingPoint scratch[WINDING_MAX_POINTS + CLIP_EXTRA_POINTS + 1];
-  clipped->count = CutCorners(w->points(), w->count, splitPlane, sides, scratch);
-  std::copy_n(scratch, clipped->count, clipped->points());
+  CornerRoom scratch;
+  clipped->count = CutCorners(w->points(), w->count, splitPlane, sides, scratch.corners());
+  if (clipped->count == 0) Error("ClipWinding: points exceeded estimate");
+  std::copy_n(scratch.corners(), clipped->count, clipped->points());
   return clipped;
 }
 
 WindingPtr BasePolyForPlane(face& f, int alignment) {
   WindingPtr w = NewWinding(4);
-  BaseCorners(f, alignment, TurnOf(f.texture.rotate), w->points());
+  const TextureAxes axes = TextureAxisFromPlane(f.facePlane.normal, alignment);
+  if (!BaseCorners(f.facePlane, f.texture, axes, TurnOf(f.texture.rotate), w->points())) {
+    Error("BasePolyForPlane: no axis found");
+  }
   w->count = 4;
+  f.takeProjection(axes.shade);
   return w;
 }
 

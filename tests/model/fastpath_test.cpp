@@ -41,7 +41,7 @@ bool BuildByWindings(brush& b) {
     valid = true;
     for (int k = 0; k < f.polygon->count; ++k) {
       for (float* c : {&(*f.polygon)[k].x, &(*f.polygon)[k].y, &(*f.polygon)[k].z}) {
-        if (std::fabs(double(*c) - std::round(*c)) < 0.01) *c = std::round(*c);
+        if (std::fabs(double(*c) - std::round(*c)) < 0.01) *c = std::round(*c) + 0.0f;
       }
     }
   }
