@@ -1,6 +1,8 @@
 // Brushes: convex solids of up to 64 faces.
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <vector>
 
 #include "model/counters.h"
@@ -85,7 +87,11 @@ struct brush {
 
  private:
   int alignment() const;
+  // Makes room in the store for polygons of so many bytes; what it held is gone.
+  std::byte* polygonStore(size_t bytes);
 
+  std::unique_ptr<std::byte[]> store_;   // one block with the polygons of all faces, kept for the next build
+  size_t storeSize_ = 0;
   ObjectCounters* counters_ = nullptr;
 };
 

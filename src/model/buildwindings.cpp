@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <new>
 
 #include "base/error.h"
 #include "base/text.h"
@@ -20,8 +22,6 @@ struct BrushPlanes {
   bool degenerate[MAX_FACES];
   bool repeated[MAX_FACES];
   SplitPlane turned[MAX_FACES];  // keep what is behind the face
-
-  bool cuts(int plane, int face) const { return plane != face && !degenerate[plane]; }
 };
 
 bool RepeatsEarlier(const std::vector<face>& faces, size_t index, const BrushPlanes& planes) {
@@ -92,16 +92,13 @@ struct Cutting {
   }
 };
 
-// Faces cut side by side. Cutting one polygon is a chain of steps that wait for each other; several at a time
-// keep the processor busy.
-struct Batch {
-  static constexpr int kMost = 8;
-  Cutting cuttings[kMost];
+// The polygons of the faces that may get one, in order of the faces.
+struct Cuttings {
   int count = 0;
+  Cutting all[MAX_FACES];
 
-  void add(const brush& b, int index, int alignment, LastTurn& turn) {
-    const face& f = b.faces[size_t(index)];
-    Cutting& c = cuttings[count++];
+  void add(const face& f, int index, int alignment, LastTurn& turn) {
+    Cutting& c = all[count++];
     c.face = index;
     c.active = 0;
     c.count = 4;
@@ -111,13 +108,19 @@ struct Batch {
     if (!BaseCorners(f.facePlane, f.texture, axes, turn.of(f.texture.rotate), c.corners())) c.fail();
   }
 
-  void cut(const BrushPlanes& planes) {
+  // Cuts a few polygons side by side. The cuts of one wait for each other; several keep the processor busy.
+  void cut(int from, int to, const BrushPlanes& planes) {
     for (int p = 0; p < planes.count; ++p) {
-      for (int i = 0; i < count; ++i) {
-        Cutting& c = cuttings[i];
-        if (c.count > 0 && planes.cuts(p, c.face)) c.cutBy(planes.turned[p]);
+      if (planes.degenerate[p]) continue;
+      for (int i = from; i < to; ++i) {
+        if (all[i].count > 0 && all[i].face != p) all[i].cutBy(planes.turned[p]);
       }
     }
+  }
+
+  void cutAll(const BrushPlanes& planes) {
+    constexpr int kSideBySide = 8;
+    for (int i = 0; i < count; i += kSideBySide) cut(i, std::min(i + kSideBySide, count), planes);
   }
 };
 
@@ -130,72 +133,110 @@ void Fail(face& f, const brush& b, int alignment) {
 }
 
 float Settled(float c) {
-  if (float(int(c)) == c) return float(int(c));  // never -0
   const double whole = RoundHalfAway(c);
-  return std::fabs(c - whole) < kRoundTolerance ? float(whole) + 0.0f : c;
+  return std::fabs(c - whole) < kRoundTolerance ? float(whole) : c;
 }
 
-void Store(face& f, Cutting& c) {
-  f.polygon = NewWinding(c.count);
-  f.polygon->count = c.count;
-  std::copy_n(c.corners(), c.count, f.polygon->points());
-}
+// The bounds of a brush while its corners settle; the fourth component means nothing.
+struct Bounds {
+  __m128 mins = _mm_set1_ps(kNoBound);
+  __m128 maxs = _mm_set1_ps(-kNoBound);
 
-void SettleAndBound(Cutting& c, vec3& mins, vec3& maxs) {
-  for (int i = 0; i < c.count; ++i) {
-    WindingPoint& corner = c.corners()[i];
-    corner.x = Settled(corner.x);
-    corner.y = Settled(corner.y);
-    corner.z = Settled(corner.z);
-    mins = {std::min(mins.x, corner.x), std::min(mins.y, corner.y), std::min(mins.z, corner.z)};
-    maxs = {std::max(maxs.x, corner.x), std::max(maxs.y, corner.y), std::max(maxs.z, corner.z)};
+  void settle(WindingPoint& corner) {
+    __m128 at = detail::Load(corner);
+    const __m128 whole = _mm_cvtepi32_ps(_mm_cvttps_epi32(at));
+    if ((_mm_movemask_ps(_mm_cmpeq_ps(at, whole)) & 7) != 7) {
+      at = _mm_setr_ps(Settled(corner.x), Settled(corner.y), Settled(corner.z), corner.s);
+    }
+    at = _mm_add_ps(at, _mm_setr_ps(0, 0, 0, -0.0f));  // no coordinate is -0; s stays
+    _mm_storeu_ps(&corner.x, at);
+    mins = _mm_min_ps(mins, at);
+    maxs = _mm_max_ps(maxs, at);
   }
+};
+
+vec3 Vector(__m128 v) {
+  alignas(16) float parts[4];
+  _mm_store_ps(parts, v);
+  return {parts[0], parts[1], parts[2]};
+}
+
+size_t StoredSize(int corners) { return sizeof(winding) + sizeof(WindingPoint) * size_t(corners); }
+
+// The store of a brush's polygons while it is filled.
+class Shelf {
+ public:
+  explicit Shelf(std::byte* store) : next_(store) {}
+
+  const winding* put(Cutting& c) {
+    winding* w = new (next_) winding{c.count};
+    std::memcpy(w->points(), c.corners(), sizeof(WindingPoint) * size_t(c.count));
+    next_ += StoredSize(c.count);
+    return w;
+  }
+
+ private:
+  std::byte* next_;
+};
+
+size_t TotalSize(const Cuttings& cuttings) {
+  size_t size = 0;
+  for (int i = 0; i < cuttings.count; ++i) size += StoredSize(cuttings.all[i].count);
+  return size;
 }
 
 // Hands the polygons over to the faces and widens the bounds; false at the first that is not acceptable.
-bool Finish(Batch& batch, brush& b, int alignment) {
-  for (int i = 0; i < batch.count; ++i) {
-    Cutting& c = batch.cuttings[i];
+bool Finish(Cuttings& cuttings, brush& b, Shelf shelf, int alignment, Bounds& bounds) {
+  for (int i = 0; i < cuttings.count; ++i) {
+    Cutting& c = cuttings.all[i];
     face& f = b.faces[size_t(c.face)];
     f.takeProjection(c.shade);
     if (c.fatal) Fail(f, b, alignment);
     if (c.count == 0) continue;
     if (c.count < 3 || !CheckCorners(c.corners(), c.count, f.facePlane)) {
-      Store(f, c);
+      f.polygon = shelf.put(c);
       return CheckFace(f);
     }
-    SettleAndBound(c, b.mins, b.maxs);
-    Store(f, c);
+    for (int k = 0; k < c.count; ++k) bounds.settle(c.corners()[k]);
+    f.polygon = shelf.put(c);
   }
   return true;
 }
 
 }  // namespace
 
+std::byte* brush::polygonStore(size_t bytes) {
+  if (bytes > storeSize_) {
+    store_.reset(new std::byte[bytes]);
+    storeSize_ = bytes;
+  }
+  return store_.get();
+}
+
 void brush::buildWindings() {
   if (numfaces() > MAX_FACES) Error("addFace: numfaces == MAX_FACES");
-  mins = {kNoBound, kNoBound, kNoBound};
-  maxs = {-kNoBound, -kNoBound, -kNoBound};
   invalid = false;
   for (face& f : faces) {
-    f.polygon.reset();
+    f.polygon = nullptr;
     f.cache.reset();
   }
   BrushPlanes planes;
   MakePlanes(faces, planes);
 
   LastTurn turn;
-  Batch batch;
+  Cuttings cuttings;
   const int textureAlignment = alignment();
-  bool acceptable = true;
-  for (int i = 0; i < numfaces() && acceptable;) {
-    batch.count = 0;
-    for (; i < numfaces() && batch.count < Batch::kMost; ++i) {
-      if (!planes.degenerate[i] && !planes.repeated[i]) batch.add(*this, i, textureAlignment, turn);
-    }
-    batch.cut(planes);
-    acceptable = Finish(batch, *this, textureAlignment);
+  for (int i = 0; i < numfaces(); ++i) {
+    if (planes.degenerate[i] || planes.repeated[i]) continue;
+    cuttings.add(faces[size_t(i)], i, textureAlignment, turn);
   }
+  cuttings.cutAll(planes);
+
+  Bounds bounds;
+  const Shelf shelf(polygonStore(TotalSize(cuttings)));
+  const bool acceptable = Finish(cuttings, *this, shelf, textureAlignment, bounds);
+  mins = Vector(bounds.mins);
+  maxs = Vector(bounds.maxs);
   if (!acceptable || mins.x == kNoBound) {
     invalid = true;
     mins = maxs = {};

@@ -17,7 +17,8 @@ struct face {
 
   plane facePlane;                     // derived; its normal points out of the brush
   float shade = 0;                     // derived, 0..1
-  WindingPtr polygon;                  // derived; none when degenerate, repeated or clipped away
+  const winding* polygon = nullptr;    // derived, in the brush's store; none when degenerate, repeated or
+                                       // clipped away
   std::unique_ptr<TextureRef> cache;   // filled by the camera view, dropped with the polygon
 
   // What projecting the texture leaves in the face: the shade, and 1 in place of a scale of 0.
@@ -29,6 +30,7 @@ struct face {
   }
 
   face() = default;
+  // A face that moves within its brush keeps its polygon; one that moves elsewhere needs buildWindings.
   face(face&&) = default;
   face& operator=(face&&) = default;
   // Copies carry points, texture definition, plane and shade; no polygon and no cache.

@@ -6,9 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__)
 #include <emmintrin.h>
-#endif
 
 #include "model/texturedef.h"
 #include "model/winding.h"
@@ -25,14 +23,12 @@ struct CornerRoom {
   alignas(16) std::byte bytes[(WINDING_MAX_POINTS + CLIP_EXTRA_POINTS + 1) * sizeof(WindingPoint)];
 };
 
-// A plane to cut by, as the inner loops want it.
+// A plane to cut by, as the inner loops want it: every number in both lanes.
 struct SplitPlane {
-  double normal[3];
-  double dist;
+  __m128d x, y, z, dist;
   // New corners get exactly the plane's coordinate where its normal is 1 or -1 on an axis: the bits of
   // x, y, z, s that are kept, and those put in.
-  std::uint32_t kept[4];
-  std::uint32_t fixed[4];
+  __m128 kept, fixed;
 };
 
 SplitPlane SplitBy(const plane& p);
@@ -46,82 +42,91 @@ struct CornerSides {
 
 namespace detail {
 
-// Distances of two corners; the bits of the results: in front, and behind.
-struct TwoSides {
-  unsigned front;
-  unsigned back;
-};
+// x, y, z, s of a corner.
+inline __m128 Load(const WindingPoint& c) { return _mm_loadu_ps(&c.x); }
 
-#if defined(__SSE2__)
-inline TwoSides SidesOfTwo(const WindingPoint& a, const WindingPoint& b, const SplitPlane& split,
-                           double* distance) {
-  const __m128 first = _mm_loadu_ps(&a.x);
-  const __m128 second = _mm_loadu_ps(&b.x);
+inline void Store(WindingPoint& c, __m128 xyzs, float t) {
+  _mm_storeu_ps(&c.x, xyzs);
+  c.t = t;
+}
+
+// Distances of two corners; the results' bits 0 and 1 tell which are in front, and which behind.
+inline void SidesOfTwo(const WindingPoint& a, const WindingPoint& b, const SplitPlane& split,
+                       double* distance, unsigned& front, unsigned& back) {
+  const __m128 first = Load(a);
+  const __m128 second = Load(b);
   const __m128 xy = _mm_unpacklo_ps(first, second);  // x x y y
   const __m128 zs = _mm_unpackhi_ps(first, second);  // z z s s
-  const __m128d x = _mm_mul_pd(_mm_cvtps_pd(xy), _mm_set1_pd(split.normal[0]));
-  const __m128d y = _mm_mul_pd(_mm_cvtps_pd(_mm_movehl_ps(xy, xy)), _mm_set1_pd(split.normal[1]));
-  const __m128d z = _mm_mul_pd(_mm_cvtps_pd(zs), _mm_set1_pd(split.normal[2]));
-  const __m128d d = _mm_sub_pd(_mm_add_pd(_mm_add_pd(x, y), z), _mm_set1_pd(split.dist));
+  const __m128d x = _mm_mul_pd(_mm_cvtps_pd(xy), split.x);
+  const __m128d y = _mm_mul_pd(_mm_cvtps_pd(_mm_movehl_ps(xy, xy)), split.y);
+  const __m128d z = _mm_mul_pd(_mm_cvtps_pd(zs), split.z);
+  const __m128d d = _mm_sub_pd(_mm_add_pd(_mm_add_pd(x, y), z), split.dist);
   _mm_storeu_pd(distance, d);
-  return {unsigned(_mm_movemask_pd(_mm_cmpgt_pd(d, _mm_set1_pd(SIDE_EPSILON)))),
-          unsigned(_mm_movemask_pd(_mm_cmplt_pd(d, _mm_set1_pd(-SIDE_EPSILON))))};
+  front = unsigned(_mm_movemask_pd(_mm_cmpgt_pd(d, _mm_set1_pd(SIDE_EPSILON))));
+  back = unsigned(_mm_movemask_pd(_mm_cmplt_pd(d, _mm_set1_pd(-SIDE_EPSILON))));
 }
-#else
-inline TwoSides SidesOfTwo(const WindingPoint& a, const WindingPoint& b, const SplitPlane& split,
-                           double* distance) {
-  TwoSides sides{0, 0};
-  for (int i = 0; i < 2; ++i) {
-    const WindingPoint& c = i == 0 ? a : b;
-    distance[i] = c.x * split.normal[0] + c.y * split.normal[1] + c.z * split.normal[2] - split.dist;
-    sides.front |= unsigned(distance[i] > SIDE_EPSILON) << i;
-    sides.back |= unsigned(distance[i] < -SIDE_EPSILON) << i;
-  }
-  return sides;
-}
-#endif
 
 // Bit i of the result is bit i + 1 of a polygon's bits: that of the next corner.
 inline std::uint64_t OfNextCorner(std::uint64_t bits, int count) {
   return bits >> 1 | (bits & 1) << (count - 1);
 }
 
-inline bool OneBit(std::uint64_t bits) { return bits != 0 && (bits & (bits - 1)) == 0; }
+inline std::uint64_t WithoutLowest(std::uint64_t bits) { return bits & (bits - 1); }
 
-inline float Between(float from, float to, double fraction) {
-  return float(from + fraction * (double(to) - from));
+// A corner on the edge after corner i, where it meets the plane.
+struct NewCorner {
+  __m128 xyzs;
+  float t;
+};
+
+inline NewCorner SplitEdge(const WindingPoint* corners, int count, int i, const SplitPlane& split,
+                           const CornerSides& sides) {
+  const int next = i + 1 < count ? i + 1 : 0;
+  const double fraction = sides.distance[i] / (sides.distance[i] - sides.distance[next]);
+  const __m128d f = _mm_set1_pd(fraction);
+  const __m128 from = Load(corners[i]);
+  const __m128 to = Load(corners[next]);
+  const __m128d fromXy = _mm_cvtps_pd(from);
+  const __m128d fromZs = _mm_cvtps_pd(_mm_movehl_ps(from, from));
+  const __m128d xy = _mm_add_pd(fromXy, _mm_mul_pd(f, _mm_sub_pd(_mm_cvtps_pd(to), fromXy)));
+  const __m128d zs =
+      _mm_add_pd(fromZs, _mm_mul_pd(f, _mm_sub_pd(_mm_cvtps_pd(_mm_movehl_ps(to, to)), fromZs)));
+  const __m128 made = _mm_movelh_ps(_mm_cvtpd_ps(xy), _mm_cvtpd_ps(zs));
+  const float fromT = corners[i].t;
+  return {_mm_or_ps(_mm_and_ps(made, split.kept), split.fixed),
+          float(fromT + fraction * (double(corners[next].t) - fromT))};
 }
 
 }  // namespace detail
 
 // Tells on which side of the plane each of up to 64 corners lies.
 inline void FindSides(const WindingPoint* corners, int count, const SplitPlane& split, CornerSides& sides) {
-  sides.front = sides.back = 0;
-  for (int i = 0; i < count; i += 2) {
-    const bool pair = i + 1 < count;
-    const detail::TwoSides two =
-        detail::SidesOfTwo(corners[i], corners[pair ? i + 1 : i], split, sides.distance + i);
-    const unsigned used = pair ? 3 : 1;
-    sides.front |= std::uint64_t(two.front & used) << i;
-    sides.back |= std::uint64_t(two.back & used) << i;
+  unsigned front = 0;
+  unsigned back = 0;
+  if (count == 4) {
+    unsigned front2 = 0;
+    unsigned back2 = 0;
+    detail::SidesOfTwo(corners[0], corners[1], split, sides.distance, front, back);
+    detail::SidesOfTwo(corners[2], corners[3], split, sides.distance + 2, front2, back2);
+    sides.front = front | front2 << 2;
+    sides.back = back | back2 << 2;
+    return;
   }
-}
-
-// The corner where the edge after corner i meets the plane.
-inline WindingPoint SplitCorner(const WindingPoint* corners, int count, int i, const SplitPlane& split,
-                                const CornerSides& sides) {
-  const int next = i + 1 < count ? i + 1 : 0;
-  const WindingPoint& from = corners[i];
-  const WindingPoint& to = corners[next];
-  const double fraction = sides.distance[i] / (sides.distance[i] - sides.distance[next]);
-  const float made[4] = {detail::Between(from.x, to.x, fraction), detail::Between(from.y, to.y, fraction),
-                         detail::Between(from.z, to.z, fraction), detail::Between(from.s, to.s, fraction)};
-  float placed[4];
-  for (int k = 0; k < 4; ++k) {
-    placed[k] =
-        std::bit_cast<float>((std::bit_cast<std::uint32_t>(made[k]) & split.kept[k]) | split.fixed[k]);
+  std::uint64_t allFront = 0;
+  std::uint64_t allBack = 0;
+  int i = 0;
+  for (; i + 1 < count; i += 2) {
+    detail::SidesOfTwo(corners[i], corners[i + 1], split, sides.distance + i, front, back);
+    allFront |= std::uint64_t(front) << i;
+    allBack |= std::uint64_t(back) << i;
   }
-  return {placed[0], placed[1], placed[2], placed[3], detail::Between(from.t, to.t, fraction)};
+  if (i < count) {
+    detail::SidesOfTwo(corners[i], corners[i], split, sides.distance + i, front, back);
+    allFront |= std::uint64_t(front & 1) << i;
+    allBack |= std::uint64_t(back & 1) << i;
+  }
+  sides.front = allFront;
+  sides.back = allBack;
 }
 
 // The commonest cut, in place: each of two corners behind the plane gives way to one new corner. False, and
@@ -130,21 +135,23 @@ inline bool CutTwoCorners(WindingPoint* corners, int count, const SplitPlane& sp
                           const CornerSides& sides) {
   const std::uint64_t leaving = sides.front & detail::OfNextCorner(sides.back, count);
   const std::uint64_t entering = sides.back & detail::OfNextCorner(sides.front, count);
-  if (!detail::OneBit(leaving) || !detail::OneBit(entering)) return false;
+  if (leaving == 0 || entering == 0) return false;
   const int before = std::countr_zero(leaving);
   const int last = std::countr_zero(entering);
   const bool wraps = before + 1 == count;
   const int first = wraps ? 0 : before + 1;
-  if (first == last || sides.back != (std::uint64_t(1) << first | entering)) return false;
-  const WindingPoint made = SplitCorner(corners, count, before, split, sides);
-  corners[last] = SplitCorner(corners, count, last, split, sides);
+  if (first == last || sides.back != (std::uint64_t(1) << first | std::uint64_t(1) << last) ||
+      (detail::WithoutLowest(leaving) | detail::WithoutLowest(entering)) != 0) {
+    return false;
+  }
+  const detail::NewCorner atFirst = detail::SplitEdge(corners, count, before, split, sides);
+  const detail::NewCorner atLast = detail::SplitEdge(corners, count, last, split, sides);
+  detail::Store(corners[last], atLast.xyzs, atLast.t);
   if (wraps) {
     // The corner after the last one stays last in the order.
-    for (int i = 1; i < count; ++i) corners[i - 1] = corners[i];
-    corners[count - 1] = made;
-  } else {
-    corners[first] = made;
+    for (int i = 1; i < count; ++i) detail::Store(corners[i - 1], detail::Load(corners[i]), corners[i].t);
   }
+  detail::Store(corners[wraps ? count - 1 : first], atFirst.xyzs, atFirst.t);
   return true;
 }
 

@@ -6,33 +6,27 @@
 namespace velk {
 namespace {
 
-// A row of the map compiler's table: faces that look along `normal` get the axes `s` and `t`.
-struct BaseAxis {
-  vec3 normal;
-  TextureAxes axes;
-};
+// The axes for faces that look along x, y or z, either way; as the map compiler's table of six rows has them.
+constexpr TextureAxes kAxes[3] = {
+    {{0, 1, 0}, {0, 0, -1}, 0.6f}, {{1, 0, 0}, {0, 0, -1}, 0.75f}, {{1, 0, 0}, {0, -1, 0}, 1.0f}};
 
-constexpr int kRows = 6;
-constexpr BaseAxis kBaseAxes[kRows] = {
-    {{0, 0, 1}, {{1, 0, 0}, {0, -1, 0}, 1.0f}},  {{0, 0, -1}, {{1, 0, 0}, {0, -1, 0}, 1.0f}},
-    {{1, 0, 0}, {{0, 1, 0}, {0, 0, -1}, 0.6f}},  {{-1, 0, 0}, {{0, 1, 0}, {0, 0, -1}, 0.6f}},
-    {{0, 1, 0}, {{1, 0, 0}, {0, 0, -1}, 0.75f}}, {{0, -1, 0}, {{1, 0, 0}, {0, 0, -1}, 0.75f}},
-};
+// In the order of the table, and backwards.
+constexpr int kOrder[3] = {2, 0, 1};
+constexpr int kAlternativeOrder[3] = {1, 0, 2};
 
 }  // namespace
 
 TextureAxes TextureAxisFromPlane(const vec3& normal, int alignment) {
-  double best = 0;
-  int chosen = 0;
-  for (int i = 0; i < kRows && (alignment == 0 || alignment == 1); ++i) {
-    const int row = alignment == 0 ? i : kRows - 1 - i;
-    const double d = dot(normal, kBaseAxes[row].normal);
-    if (d > best) {
-      best = d;
-      chosen = row;
+  if (alignment != 0 && alignment != 1) return kAxes[kOrder[0]];
+  float best = 0;
+  int chosen = kOrder[0];
+  for (const int axis : alignment == 0 ? kOrder : kAlternativeOrder) {
+    if (std::fabs(normal[axis]) > best) {
+      best = std::fabs(normal[axis]);
+      chosen = axis;
     }
   }
-  return kBaseAxes[chosen].axes;
+  return kAxes[chosen];
 }
 
 TextureTurn TurnOf(float degrees) {
@@ -42,7 +36,11 @@ TextureTurn TurnOf(float degrees) {
 }
 
 TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, const vec3& point) {
-  return ProjectTexture(axes, TurnOf(definition.rotate), definition.scale, definition.shift, point);
+  const TextureTurn turn = TurnOf(definition.rotate);
+  const double s = dot(point, axes.s);
+  const double t = dot(point, axes.t);
+  return {float((turn.cosine * s - turn.sine * t) / definition.scale[0] + definition.shift[0]),
+          float((turn.cosine * t + turn.sine * s) / definition.scale[1] + definition.shift[1])};
 }
 
 }  // namespace velk

@@ -36,15 +36,6 @@ struct TextureTurn {
 };
 TextureTurn TurnOf(float degrees);
 
-// faceTexCoords for callers that project many points in the same way.
-inline TexCoords ProjectTexture(const TextureAxes& axes, const TextureTurn& turn, const float scale[2],
-                                const float shift[2], const vec3& point) {
-  const double s = dot(point, axes.s);
-  const double t = dot(point, axes.t);
-  return {float((turn.cosine * s - turn.sine * t) / scale[0] + shift[0]),
-          float((turn.cosine * t + turn.sine * s) / scale[1] + shift[1])};
-}
-
 // Texture coordinates of a point; the scales must not be 0.
 TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, const vec3& point);
 

@@ -15,13 +15,14 @@ using test::Face;
 using test::FatalMessage;
 using test::TestMap;
 
-// The rebuild by the letter, of the faces of `b`. Returns whether the brush is valid.
-bool BuildByWindings(brush& b) {
+// The rebuild by the letter, of the faces of `b`, with polygons kept in `made`. Returns whether the brush is
+// valid.
+bool BuildByWindings(brush& b, std::vector<WindingPtr>& made) {
   bool valid = false;
   std::vector<bool> usable;
   for (size_t i = 0; i < b.faces.size(); ++i) {
     face& f = b.faces[i];
-    f.polygon.reset();
+    f.polygon = nullptr;
     bool use = PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], f.facePlane);
     if (!use) f.facePlane = {};
     for (size_t k = 0; k < i && use; ++k) use = !(b.faces[k].facePlane == f.facePlane);
@@ -30,17 +31,19 @@ bool BuildByWindings(brush& b) {
   for (size_t i = 0; i < b.faces.size(); ++i) {
     if (!usable[i]) continue;
     face& f = b.faces[i];
-    f.polygon = BasePolyForPlane(f, b.owner->parent().settings().texture_alignment);
-    for (size_t k = 0; k < b.faces.size() && f.polygon; ++k) {
+    WindingPtr w = BasePolyForPlane(f, b.owner->parent().settings().texture_alignment);
+    for (size_t k = 0; k < b.faces.size() && w; ++k) {
       const plane& p = b.faces[k].facePlane;
       if (k == i || VecEqual(p.normal, {})) continue;
-      f.polygon = ClipWinding(std::move(f.polygon), {{-p.normal.x, -p.normal.y, -p.normal.z}, -p.dist});
+      w = ClipWinding(std::move(w), {{-p.normal.x, -p.normal.y, -p.normal.z}, -p.dist});
     }
-    if (!f.polygon) continue;
+    if (!w) continue;
+    winding& polygon = *made.emplace_back(std::move(w));
+    f.polygon = &polygon;
     if (!CheckFace(f)) return false;
     valid = true;
-    for (int k = 0; k < f.polygon->count; ++k) {
-      for (float* c : {&(*f.polygon)[k].x, &(*f.polygon)[k].y, &(*f.polygon)[k].z}) {
+    for (int k = 0; k < polygon.count; ++k) {
+      for (float* c : {&polygon[k].x, &polygon[k].y, &polygon[k].z}) {
         if (std::fabs(double(*c) - std::round(*c)) < 0.01) *c = std::round(*c) + 0.0f;
       }
     }
@@ -66,8 +69,9 @@ void ExpectSameFace(const face& made, const face& expected) {
 
 void ExpectSameBuild(brush& b) {
   brush expected(b);
+  std::vector<WindingPtr> polygons;
   bool valid = false;
-  const std::string expectedFatal = FatalMessage([&] { valid = BuildByWindings(expected); });
+  const std::string expectedFatal = FatalMessage([&] { valid = BuildByWindings(expected, polygons); });
   ASSERT_EQ(FatalMessage([&] { b.buildWindings(); }), expectedFatal);
   if (!expectedFatal.empty()) return;
   EXPECT_EQ(b.invalid, !valid);

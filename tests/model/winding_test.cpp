@@ -155,8 +155,9 @@ TEST(CheckFaceTest, AcceptsOrRefuses) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     face f = FaceOn({0, 0, 1}, 0);
-    f.polygon = Square();
-    (*f.polygon)[c.corner] = c.moved;
+    const WindingPtr w = Square();
+    (*w)[c.corner] = c.moved;
+    f.polygon = w.get();
     EXPECT_EQ(CheckFace(f), c.accepted);
   }
 }
@@ -164,11 +165,12 @@ TEST(CheckFaceTest, AcceptsOrRefuses) {
 TEST(CheckFaceTest, FatalCases) {
   face f = FaceOn({0, 0, 1}, 0);
   EXPECT_FATAL(CheckFace(f), "CheckFace: no winding");
-  f.polygon = Square();
-  f.polygon->count = 2;
+  const WindingPtr w = Square();
+  f.polygon = w.get();
+  w->count = 2;
   EXPECT_FATAL(CheckFace(f), "CheckFace: 2 points");
-  f.polygon->count = 4;
-  (*f.polygon)[1] = {-10, -10, 0, 0, 0};
+  w->count = 4;
+  (*w)[1] = {-10, -10, 0, 0, 0};
   EXPECT_FATAL(CheckFace(f), "CheckFace: non-convex");
 }
 
