@@ -1,1 +1,216 @@
+#include "model/entity.h"
 
+#include <vector>
+
+#include "support/builders.h"
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+using test::TestMap;
+
+std::string Keys(const entity& e) {
+  std::string keys;
+  for (const KeyPair& pair : e.pairs()) keys += pair.key + " ";
+  return keys;
+}
+
+TEST(PairTest, LimitsAndBlanks) {
+  TestMap t;
+  entity& e = t.addEntity("func_door");
+  const struct {
+    std::string key, value, stored, message;
+  } cases[] = {
+      {"  origin", "1 2 3", "origin", ""},
+      {"\t\x01speed", "100", "speed", ""},
+      {std::string(63, 'k'), std::string(127, 'v'), std::string(63, 'k'), ""},
+      {std::string(64, 'k'), "", "", "setKey: " + std::string(64, 'k') + " > MAX_KEY"},
+      {"key", std::string(128, 'v'), "", "setKey: " + std::string(128, 'v') + " > MAX_VALUE"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_FATAL(e.setKey(c.key, c.value), c.message);
+    EXPECT_EQ(e.valueOfKey(c.stored), c.stored.empty() ? "" : c.value);
+  }
+  e.setKey(" \n ", "ignored");
+  EXPECT_EQ(Keys(e), std::string(63, 'k') + " speed origin classname ");
+}
+
+TEST(PairTest, NewestFirstAndAChangedPairKeepsItsPlace) {
+  TestMap t;
+  entity& e = t.addEntity("func_door");
+  e.setKey("angle", "90");
+  e.setKey("origin", "0 0 0");
+  e.setKey("angle", "180");
+  EXPECT_EQ(Keys(e), "origin angle classname ");
+  EXPECT_EQ(e.valueOfKey("angle"), "180");
+  EXPECT_EQ(e.valueOfKey("Angle"), "") << "keys differ by case";
+  EXPECT_EQ(Keys(*e.copy(t.m, entity::Copy::PairsOnly)), Keys(e));
+}
+
+TEST(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
+  TestMap t;
+  entity& e = t.addEntity("func_door");
+  testing::internal::CaptureStdout();
+  e.removeKeyPair("target");
+  e.removeKeyPair("classname");
+  e.removeKeyPair("classname");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "WARNING: removeKeyPair: target not found\n");
+}
+
+TEST(PairTest, VectorsKeepMissingComponentsAtZero) {
+  TestMap t;
+  entity& e = t.addEntity("func_door");
+  const struct {
+    const char* text;
+    vec3 expected;
+  } cases[] = {{"1 -2.5 3", {1, -2.5f, 3}}, {" +4\t5", {4, 5, 0}}, {"7 x 9", {7, 0, 0}}, {"", {0, 0, 0}},
+               {"1e99 2 3", {0, 0, 0}},     {"inf 1 1", {0, 0, 0}}};
+  for (const auto& c : cases) {
+    e.setKey("origin", c.text);
+    EXPECT_TRUE(VecEqual(e.vectorOfKey("origin"), c.expected)) << c.text;
+  }
+}
+
+TEST(BrushListTest, TheLastBrushTakesTheFreedSlot) {
+  TestMap t;
+  std::vector<brush*> added;
+  for (int i = 0; i < 6; ++i) added.push_back(&t.cube(i));
+  std::unique_ptr<entity> emptied;
+  const std::unique_ptr<brush> removed = t.world().removeObject(added[1], &emptied);
+  EXPECT_EQ(removed.get(), added[1]);
+  EXPECT_EQ(t.world().at(1), added[5]);
+  EXPECT_EQ(t.world().at(5), nullptr);
+  EXPECT_EQ(t.world().indexOf(added[4]), 4);
+  EXPECT_EQ(t.world().removeObject(added[1], nullptr), nullptr) << "no longer there";
+  EXPECT_EQ(t.world().indexOf(added[1]), -1);
+}
+
+TEST(BrushListTest, HoldsAtMost4096) {
+  TestMap t;
+  while (t.world().numbrushes() < MAX_ENTITY_BRUSHES) t.world().addobject(std::make_unique<brush>());
+  EXPECT_FATAL(t.world().addobject(std::make_unique<brush>(&t.counters)),
+               "entity->addobject, too many objects");
+  EXPECT_EQ(t.world().numbrushes(), MAX_ENTITY_BRUSHES);
+  EXPECT_EQ(t.counters.brushesDestroyed, 1);
+}
+
+TEST(BrushListTest, AnEmptiedEntityGoesButNotTheWorld) {
+  TestMap t;
+  entity& light = t.addPoint("light", {0, 0, 0});
+  t.m.setCurrentEntity(&light);
+  brush& b = t.cube(0);
+  DestroyBrush(*light.at(0));
+  DestroyBrush(b);
+  EXPECT_EQ(t.m.numentities(), 1);
+  EXPECT_TRUE(t.m.worldIsCurrent());
+  EXPECT_EQ(t.world().numbrushes(), 0);
+  EXPECT_EQ(t.counters.entitiesDestroyed, 1);
+  EXPECT_EQ(t.counters.brushesDestroyed, 2);
+}
+
+TEST(BrushListTest, ARemovedBrushLeavesItsDepthUnlessInvalid) {
+  TestMap t;
+  entity& door = t.addEntity("func_door");
+  brush& b = t.boxIn(door, {16, 16, 16}, {32, 32, 32});
+  const std::unique_ptr<brush> removed = RemoveFromEntity(b);
+  EXPECT_EQ(removed->owner, nullptr) << "the door is gone";
+  EXPECT_TRUE(VecEqual(t.m.workLow(), {16, 16, 16}));
+  brush& invalid = t.box({64, 64, 64}, {64, 64, 64});
+  DestroyBrush(invalid);
+  EXPECT_TRUE(VecEqual(t.m.workLow(), {16, 16, 16}));
+}
+
+TEST(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
+  TestMap t;
+  entity& door = t.addEntity("func_door");
+  brush& b = t.cube(0);
+  MoveToEntity(b, door);
+  EXPECT_EQ(b.owner, &door);
+  EXPECT_EQ(b.color.z, 0.8f);
+  EXPECT_EQ(door.at(0), &b);
+  MoveToEntity(b, door);
+  EXPECT_EQ(t.m.indexOf(&door), 1) << "moving its only brush to itself keeps the door";
+
+  brush& box = *t.addPoint("light", {0, 0, 0}).at(0);
+  t.settings.multi_select = true;
+  MoveToEntity(box, door);
+  EXPECT_NE(box.owner, &door);
+  t.settings.multi_select = false;
+  MoveToEntity(box, door);
+  EXPECT_EQ(box.owner, &door);
+  EXPECT_EQ(t.m.numentities(), 2) << "the light is gone";
+}
+
+TEST(EntityCopyTest, ThreeKinds) {
+  TestMap t;
+  entity& door = t.addEntity("func_door");
+  t.boxIn(door, {0, 0, 0}, {8, 8, 8});
+  const struct {
+    entity::Copy kind;
+    int brushes;
+    bool built;
+    const entity* source;
+  } cases[] = {{entity::Copy::Rebuilt, 1, true, nullptr},
+               {entity::Copy::ForUndo, 1, false, &door},
+               {entity::Copy::PairsOnly, 0, false, &door}};
+  for (const auto& c : cases) {
+    const std::unique_ptr<entity> copy = door.copy(t.m, c.kind);
+    EXPECT_TRUE(copy->isModel);
+    EXPECT_EQ(copy->source, c.source);
+    ASSERT_EQ(copy->numbrushes(), c.brushes);
+    if (c.brushes == 0) continue;
+    EXPECT_EQ(copy->at(0)->owner, copy.get());
+    EXPECT_EQ(copy->at(0)->source, door.at(0));
+    EXPECT_EQ(copy->at(0)->faces[0].polygon != nullptr, c.built);
+  }
+}
+
+TEST(TargetNameTest, CountsOnFromTheLargest) {
+  TestMap t;
+  entity& e = t.addEntity("func_door");
+  EXPECT_EQ(e.makeTargetName(), "t1");
+  EXPECT_EQ(e.makeTargetName(), "t1") << "it has one now";
+  e.removeKeyPair("targetname");
+  for (const char* name : {"t3", "t12", "door1", "tx", "t-40"})
+    t.addEntity("func_door").setKey("targetname", name);
+  t.world().setKey("targetname", "t99");
+  EXPECT_EQ(e.makeTargetName(), "t13");
+}
+
+TEST(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
+  TestMap t;
+  entity start(t.m);
+  start.setClass("info_player_start");
+  EXPECT_EQ(start.valueOfKey("origin"), "0 0 0") << "nothing is selected";
+
+  t.box({0.75f, -0.75f, 0}, {32, 32, 32}).selected = true;
+  entity placed(t.m);
+  placed.setClass("info_player_start");
+  EXPECT_FALSE(placed.isModel);
+  EXPECT_EQ(placed.valueOfKey("origin"), "16 15 24");
+  ASSERT_EQ(placed.numbrushes(), 1);
+  const brush& box = *placed.at(0);
+  EXPECT_TRUE(VecEqual(box.mins, {0, -1, 0}));
+  EXPECT_TRUE(VecEqual(box.maxs, {32, 31, 56}));
+  EXPECT_EQ(box.brushTexture().name, "entity");
+  EXPECT_TRUE(VecEqual(box.color, {1, 0, 0}));
+
+  placed.at(0)->translate({8, 0, 0});
+  placed.updateOriginFromBox();
+  EXPECT_EQ(placed.valueOfKey("origin"), "24 15 24");
+}
+
+TEST(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
+  TestMap t;
+  entity e(t.m);
+  e.setClass("monster_of_another_game");
+  EXPECT_TRUE(e.isModel);
+  EXPECT_EQ(e.numbrushes(), 0);
+  e.makeClassBox({100, 0, 0});
+  EXPECT_FALSE(e.isModel);
+  EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
+}
+
+}  // namespace
+}  // namespace velk
