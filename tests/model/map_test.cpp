@@ -161,7 +161,7 @@ TEST(HitListTest, ABrushMayOutliveItsMap) {
   std::unique_ptr<brush> kept;
   {
     TestMap t;
-    t.m.hits.add(t.cube(0));
+    t.m.hits.add(t.world().addobject(std::make_unique<brush>()));
     kept = RemoveFromEntity(*t.world().at(0));
   }
   EXPECT_EQ(kept->hits, nullptr);
