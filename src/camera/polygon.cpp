@@ -73,7 +73,7 @@ bool CutToPicture(const Projection& projection, ViewPolygon& polygon, ViewPolygo
     polygon.count = std::min(count, WINDING_MAX_POINTS);
     std::copy_n(scratch.points, polygon.count, polygon.points);
   }
-  return true;
+  return polygon.count > 0;
 }
 
 bool MakeOutline(const Projection& projection, const ViewPolygon& polygon, std::vector<Edge>& edges,

@@ -40,7 +40,7 @@ void MakePlanes(std::vector<face>& faces, BrushPlanes& planes) {
     planes.degenerate[i] = !PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], f.facePlane);
     if (planes.degenerate[i]) f.facePlane = {};
     planes.repeated[i] = !planes.degenerate[i] && RepeatsEarlier(faces, i, planes);
-    planes.turned[i] = SplitBy(Turned(f.facePlane));
+    planes.turned[i] = SplitPlane(Turned(f.facePlane));
   }
 }
 

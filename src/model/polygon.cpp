@@ -25,16 +25,21 @@ double Scaled(double value, float scale) { return scale == 1 ? value : value / s
 
 }  // namespace
 
-SplitPlane SplitBy(const plane& p) {
-  std::uint32_t kept[4] = {~0u, ~0u, ~0u, ~0u};
-  std::uint32_t fixed[4] = {};
+SplitPlane::SplitPlane(const plane& p)
+    : normal{p.normal.x, p.normal.y, p.normal.z},
+      x(_mm_set1_pd(p.normal.x)),
+      y(_mm_set1_pd(p.normal.y)),
+      z(_mm_set1_pd(p.normal.z)),
+      dist(_mm_set1_pd(p.dist)) {
+  std::uint32_t keptBits[4] = {~0u, ~0u, ~0u, ~0u};
+  std::uint32_t fixedBits[4] = {};
   for (int i = 0; i < 3; ++i) {
     if (std::fabs(p.normal[i]) != 1) continue;
-    kept[i] = 0;
-    fixed[i] = std::bit_cast<std::uint32_t>(p.normal[i] == 1 ? p.dist : -p.dist);
+    keptBits[i] = 0;
+    fixedBits[i] = std::bit_cast<std::uint32_t>(p.normal[i] == 1 ? p.dist : -p.dist);
   }
-  return {_mm_set1_pd(p.normal.x), _mm_set1_pd(p.normal.y),     _mm_set1_pd(p.normal.z),
-          _mm_set1_pd(p.dist),     std::bit_cast<__m128>(kept), std::bit_cast<__m128>(fixed)};
+  kept = std::bit_cast<__m128>(keptBits);
+  fixed = std::bit_cast<__m128>(fixedBits);
 }
 
 int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, const CornerSides& sides,

@@ -23,15 +23,18 @@ struct CornerRoom {
   alignas(16) std::byte bytes[(WINDING_MAX_POINTS + CLIP_EXTRA_POINTS + 1) * sizeof(WindingPoint)];
 };
 
-// A plane to cut by, as the inner loops want it: every number in both lanes.
+// A plane to cut by, as the inner loops want it.
 struct SplitPlane {
+  SplitPlane() = default;  // nothing is filled in
+  explicit SplitPlane(const plane& p);
+
+  double normal[3];
+  // Normal and distance, in both lanes.
   __m128d x, y, z, dist;
   // New corners get exactly the plane's coordinate where its normal is 1 or -1 on an axis: the bits of
   // x, y, z, s that are kept, and those put in.
   __m128 kept, fixed;
 };
-
-SplitPlane SplitBy(const plane& p);
 
 // The sides of a polygon's corners. Bit i stands for corner i; one on neither side lies on the plane.
 struct CornerSides {

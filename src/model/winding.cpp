@@ -27,7 +27,7 @@ WindingPtr CopyWinding(const winding& w) {
 }
 
 WindingPtr ClipWinding(WindingPtr w, const plane& split) {
-  const SplitPlane splitPlane = SplitBy(split);
+  const SplitPlane splitPlane(split);
   CornerSides sides;
   FindSides(w->points(), w->count, splitPlane, sides);
   if (sides.back == 0) return w;

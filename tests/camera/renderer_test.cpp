@@ -50,8 +50,8 @@ TEST_F(RendererTest, LooksOnlyAtFrontsOfFaces) {
   m.cameras[0].origin = {6, 0, 0};  // inside
   EXPECT_EQ(draw(), Picture(6, "........"));
   m.cameras[0].origin = {0, 0, 0};
-  b.faces[3].polygon.reset();
-  for (face& f : b.faces) f.polygon.reset();
+  b.faces[3].polygon = nullptr;
+  for (face& f : b.faces) f.polygon = nullptr;
   EXPECT_EQ(draw(), Picture(6, "........"));
 }
 
