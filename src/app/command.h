@@ -19,7 +19,7 @@ enum class When {
   SelectionInEntity,  // the current entity has a selected brush
   UndoKept,
   LeaksShown,
-  Never,              // no operation stands behind it
+  Never,  // no operation stands behind it
 };
 
 struct Command {
@@ -33,7 +33,7 @@ struct Command {
   When when = When::Always;
   bool (*checked)(const Editor&) = nullptr;  // none: not a check mark item
   void (*run)(Editor&) = nullptr;            // none: not built yet
-  const char* reason = "";   // why there is no handler
+  const char* reason = "";                   // why there is no handler
 };
 
 // Every command, in menu order; those without a menu item last.
@@ -45,8 +45,33 @@ const Command* FindCommand(std::string_view nameOrNumber);
 // A key with its modifiers, independent of the toolkit.
 struct KeyStroke {
   enum class Key {
-    None, Character, Up, Down, Left, Right, Home, End, PageUp, PageDown, Insert, Delete, Escape, Enter, Space,
-    F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12
+    None,
+    Character,
+    Up,
+    Down,
+    Left,
+    Right,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    Insert,
+    Delete,
+    Escape,
+    Enter,
+    Space,
+    F1,
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    F10,
+    F11,
+    F12
   };
   Key key = Key::None;
   char character = 0;   // upper case letter, digit or sign, for Key::Character
