@@ -1,0 +1,113 @@
+// The program: reads the command line and runs the editor in a window, by a script, or for a picture.
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QMessageBox>
+
+#include "base/error.h"
+#include "desktop/kit.h"
+#include "desktop/main_window.h"
+#include "desktop/qt_prompts.h"
+#include "desktop/script_host.h"
+
+namespace velk {
+namespace {
+
+constexpr int kUsageError = 1;
+constexpr int kFatalError = 3;
+
+bool wantsDisplay(const QStringList& arguments) {
+  for (const QString& argument : arguments) {
+    for (const char* unattended : {"--script", "--picture", "--help", "--version", "-h", "-v"}) {
+      const QString option = QString::fromLatin1(unattended);
+      if (argument == option || argument.startsWith(option + '=')) return false;
+    }
+  }
+  return true;
+}
+
+bool hasDisplay() {
+  return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
+}
+
+// Ends the program without running destructors: the model may be in the middle of a change.
+[[noreturn]] void leave(int status) {
+  std::fflush(nullptr);
+  _exit(status);
+}
+
+void failOnStandardError(const std::string& message) {
+  std::fprintf(stderr, "%s\n", message.c_str());
+  leave(kFatalError);
+}
+
+void failInBox(const std::string& message) {
+  std::fprintf(stderr, "%s\n", message.c_str());
+  QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()), QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  leave(0);
+}
+
+std::vector<std::string> textsOf(const QStringList& list) {
+  std::vector<std::string> texts;
+  for (const QString& text : list) texts.push_back(text.toLocal8Bit().toStdString());
+  return texts;
+}
+
+int runWindow(const std::vector<std::string>& maps, const QString& picture) {
+  QtPrompts prompts;
+  MainWindow window(FindPlace(), prompts);
+  prompts.setOwner(&window);
+  window.start();
+  window.openFiles(maps);
+  window.show();
+  if (picture.isEmpty()) return QApplication::exec();
+  return window.savePicture(picture) ? 0 : kFatalError;
+}
+
+int runProgram(QApplication& application) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Level editor for Quake maps.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption script("script", "Run the editor unattended on a script.", "file");
+  const QCommandLineOption picture("picture", "Write a picture of the main window and end.", "file");
+  parser.addOption(script);
+  parser.addOption(picture);
+  parser.addPositionalArgument("map", "Maps to open.", "[map...]");
+  if (!parser.parse(application.arguments())) {
+    std::fprintf(stderr, "velk: %s\n", qPrintable(parser.errorText()));
+    return kUsageError;
+  }
+  if (parser.isSet("help")) parser.showHelp(0);
+  if (parser.isSet("version")) parser.showVersion();
+  const std::vector<std::string> maps = textsOf(parser.positionalArguments());
+  const bool unattended = parser.isSet(script) || parser.isSet(picture);
+  SetErrorHandler(unattended ? failOnStandardError : failInBox);
+  if (parser.isSet(script)) return RunScriptFile(parser.value(script).toLocal8Bit().toStdString(), maps);
+  return runWindow(maps, parser.value(picture));
+}
+
+}  // namespace
+}  // namespace velk
+
+int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  if (!velk::wantsDisplay(arguments)) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  } else if (!velk::hasDisplay()) {
+    std::fprintf(stderr, "velk: there is no display; use --script FILE or --picture FILE to run without one\n");
+    return velk::kUsageError;
+  }
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("velk");
+  QApplication::setApplicationVersion(VELK_VERSION);
+  QApplication::setDesktopFileName("velk");
+  return velk::runProgram(application);
+}

@@ -1,0 +1,109 @@
+#include "desktop/qt_prompts.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+#include "base/text.h"
+
+namespace velk {
+namespace {
+
+QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
+std::string text(const QString& from) { return from.toLocal8Bit().toStdString(); }
+
+QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
+  switch (buttons) {
+    case MessageBox::Buttons::Ok: return QMessageBox::Ok;
+    case MessageBox::Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageBox::Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case MessageBox::Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+  }
+  return QMessageBox::Ok;
+}
+
+QMessageBox::Icon iconOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::None: return QMessageBox::NoIcon;
+    case MessageBox::Icon::Information: return QMessageBox::Information;
+    case MessageBox::Icon::Warning: return QMessageBox::Warning;
+    case MessageBox::Icon::Question: return QMessageBox::Question;
+    case MessageBox::Icon::Error: return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// "Map Files (*.map)|*.map|" as Qt writes it, upper-case names included.
+QString nameFilter(const std::string& filter) {
+  const std::vector<std::string> pieces = Split(filter, '|');
+  if (pieces.size() < 2) return QString();
+  const std::string label = pieces[0].substr(0, pieces[0].find(" ("));
+  const std::string& pattern = pieces[1];
+  if (pattern == "*.*") return QStringLiteral("All Files (*)");
+  return text(label) + " (" + text(LowerCase(pattern)) + " " + text(UpperCase(pattern)) + ");;All Files (*)";
+}
+
+QString suffixOf(const std::string& filter) {
+  const std::vector<std::string> pieces = Split(filter, '|');
+  if (pieces.size() < 2 || !pieces[1].starts_with("*.") || pieces[1] == "*.*") return QString();
+  return text(pieces[1].substr(2));
+}
+
+QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
+
+}  // namespace
+
+Answer QtPrompts::ask(const MessageBox& box) {
+  QMessageBox dialog(iconOf(box.icon), text(box.caption), text(box.text), buttonsOf(box.buttons), owner_);
+  dialog.setTextFormat(Qt::PlainText);
+  switch (dialog.exec()) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::Ok: return Answer::Ok;
+    case QMessageBox::No: return Answer::No;
+    // Closing a box that offers no Cancel declines.
+    default: return box.buttons == MessageBox::Buttons::YesNo ? Answer::No : Answer::Cancel;
+  }
+}
+
+std::vector<std::string> QtPrompts::chooseFiles(const FileChooser& chooser) {
+  const std::filesystem::path start = paths_ ? paths_->native(chooser.directory) : std::filesystem::path();
+  QFileDialog dialog(owner_, text(chooser.title), text(start.string()), nameFilter(chooser.filter));
+  if (chooser.kind == FileChooser::Kind::Save) {
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(suffixOf(chooser.filter));
+  } else {
+    const bool many = chooser.kind == FileChooser::Kind::OpenMany;
+    dialog.setFileMode(many ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+  }
+  if (!chooser.fileName.empty()) dialog.selectFile(text(chooser.fileName));
+  std::vector<std::string> chosen;
+  if (dialog.exec() != QDialog::Accepted) return chosen;
+  for (const QString& file : dialog.selectedFiles()) chosen.push_back(text(file));
+  return chosen;
+}
+
+std::optional<std::string> QtPrompts::input(const TextInput& input) {
+  QInputDialog dialog(owner_);
+  dialog.setWindowTitle(text(input.title));
+  dialog.setLabelText(text(input.prompt));
+  dialog.setTextValue(text(input.text));
+  if (auto* line = dialog.findChild<QLineEdit*>()) line->setMaxLength(input.maxLength);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return text(dialog.textValue());
+}
+
+std::optional<Colour> QtPrompts::chooseColour(const ColourChooser& chooser) {
+  QColorDialog dialog(colour(chooser.colour), owner_);
+  dialog.setWindowTitle(text(chooser.title));
+  for (int i = 0; i < static_cast<int>(chooser.custom.size()) && i < QColorDialog::customCount(); ++i) {
+    QColorDialog::setCustomColor(i, colour(chooser.custom[static_cast<size_t>(i)]));
+  }
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const QColor chosen = dialog.currentColor();
+  return Colour{chosen.red(), chosen.green(), chosen.blue()};
+}
+
+}  // namespace velk
