@@ -1,0 +1,135 @@
+#include "desktop/plan_view_window.h"
+
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "desktop/qt_canvas.h"
+#include "planview/drawplanview.h"
+
+namespace velk {
+namespace {
+
+constexpr int kWheelStep = 120;  // eighths of a degree in one notch
+
+Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
+
+PointerEvent pointerEvent(QPointF at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+  PointerEvent event;
+  event.at = {static_cast<int>(at.x()), static_cast<int>(at.y())};
+  if (button == Qt::MiddleButton) event.button = MouseButton::Middle;
+  if (button == Qt::RightButton) event.button = MouseButton::Right;
+  event.shift = modifiers.testFlag(Qt::ShiftModifier);
+  event.ctrl = modifiers.testFlag(Qt::ControlModifier);
+  event.alt = modifiers.testFlag(Qt::AltModifier);
+  return event;
+}
+
+PointerEvent pointerEvent(const QMouseEvent& event) {
+  return pointerEvent(event.position(), event.button(), event.modifiers());
+}
+
+bool isBound(Qt::MouseButton button) {
+  return button == Qt::LeftButton || button == Qt::MiddleButton || button == Qt::RightButton;
+}
+
+}  // namespace
+
+QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
+  const PlanView& record = editor.planViews().views[static_cast<size_t>(view)];
+  QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
+  QtCanvas canvas(image, QString::fromLocal8Bit(editor.settings().velk_font.c_str()));
+  const StripColours strip{colourOf(palette.color(QPalette::Window)), colourOf(palette.color(QPalette::WindowText))};
+  drawPlanView(canvas, editor.planScene(strip), view);
+  return image;
+}
+
+TXYViewWindow::TXYViewWindow(Editor& editor, int view, QWidget* parent)
+    : QWidget(parent), editor_(editor), view_(view) {
+  setWindowTitle(kInitialCaption);
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(160, 100);
+  if (editor.settings().use_crosshair) setCursor(Qt::CrossCursor);
+}
+
+void TXYViewWindow::markStale() {
+  stale_ = true;
+  update();
+}
+
+void TXYViewWindow::drawPicture() {
+  const PlanView& record = editor_.planViews().views[static_cast<size_t>(view_)];
+  picture_ = PictureOfPlanView(editor_, view_, devicePixelRatioF(), palette());
+  stale_ = false;
+  setWindowTitle(QString::fromLatin1(captionText(record, editor_.settings()).c_str()));
+}
+
+void TXYViewWindow::paintEvent(QPaintEvent*) {
+  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) drawPicture();
+  QPainter painter(this);
+  painter.drawImage(0, 0, picture_);
+}
+
+void TXYViewWindow::resizeEvent(QResizeEvent*) {
+  PlanView& record = editor_.planViews().views[static_cast<size_t>(view_)];
+  record.clientWidth = width();
+  record.clientHeight = height();
+  markStale();
+}
+
+void TXYViewWindow::focusInEvent(QFocusEvent*) { editor_.planViews().current = view_; }
+
+void TXYViewWindow::follow(const PointerOutcome& outcome) {
+  if (outcome.redrawStrip) markStale();
+}
+
+void TXYViewWindow::openMenu(const StripMenu& menu) {
+  QMenu popup(this);
+  for (const ViewMenuItem& item : menu.items) {
+    if (item.separator) {
+      popup.addSeparator();
+      continue;
+    }
+    QAction* action = popup.addAction(QString::fromLatin1(item.label.c_str()));
+    const Command* command = FindCommand(item.command);
+    action->setEnabled(command && editor_.isEnabled(*command));
+    action->setCheckable(item.checked);
+    action->setChecked(item.checked);
+    if (command) connect(action, &QAction::triggered, this, [this, command] { editor_.run(*command); });
+  }
+  popup.exec(mapToGlobal(QPoint(menu.at.x, menu.at.y)));
+}
+
+void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
+  if (!isBound(event->button())) return;
+  editor_.planViews().current = view_;
+  const PointerEvent press = pointerEvent(*event);
+  if (press.at.y < kStripHeight) {
+    const std::optional<StripField> field = stripFieldAt(width(), press.at);
+    if (!field) return;
+    if (const auto menu = stripMenu(*field, editor_.settings(), editor_.currentMap())) openMenu(*menu);
+    if (*field == StripField::Direction) editor_.flipPlanView(view_);
+    return;
+  }
+  follow(editor_.pressPlanView(view_, press));
+}
+
+void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) { follow(editor_.movePlanView(view_, pointerEvent(*event))); }
+
+void TXYViewWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (isBound(event->button())) follow(editor_.releasePlanView(view_, pointerEvent(*event)));
+}
+
+void TXYViewWindow::wheelEvent(QWheelEvent* event) {
+  wheelRest_ += event->angleDelta().y();
+  const int steps = wheelRest_ / kWheelStep;
+  wheelRest_ -= steps * kWheelStep;
+  if (steps != 0) {
+    follow(editor_.wheelPlanView(view_, pointerEvent(event->position(), Qt::NoButton, event->modifiers()), steps));
+  }
+  event->accept();
+}
+
+}  // namespace velk

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include "app/editor.h"
+
+namespace velk {
+
+// One plan view in the frame: shows the editor's picture of the view and passes its mouse events in.
+class TXYViewWindow : public QWidget {
+  Q_OBJECT
+ public:
+  // view: 0..2. The editor must outlive the window.
+  TXYViewWindow(Editor& editor, int view, QWidget* parent = nullptr);
+
+  // The next repaint draws a new picture.
+  void markStale();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void follow(const PointerOutcome& outcome);
+  void openMenu(const StripMenu& menu);
+  void drawPicture();
+
+  Editor& editor_;
+  int view_;
+  QImage picture_;
+  bool stale_ = true;
+  int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
+};
+
+// The picture of a plan view at the size it has in the editor.
+QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette);
+
+}  // namespace velk
