@@ -61,7 +61,7 @@ std::vector<std::string> textsOf(const QStringList& list) {
 
 int runWindow(const std::vector<std::string>& maps, const QString& picture) {
   QtPrompts prompts;
-  MainWindow window(FindPlace(), prompts);
+  TVelkWindow window(FindPlace(), prompts);
   prompts.setOwner(&window);
   window.start();
   window.openFiles(maps);

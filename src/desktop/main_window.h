@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+
+#include "app/editor.h"
+#include "desktop/plan_view_window.h"
+
+namespace velk {
+
+// The frame: menu bar, status line and the child windows in which the editor shows the current map.
+class TVelkWindow : public QMainWindow, private Observer {
+  Q_OBJECT
+ public:
+  TVelkWindow(EditorPlace place, Prompts& prompts);
+  ~TVelkWindow() override;
+
+  // Starts the editor and builds what shows it.
+  void start();
+  void openFiles(const std::vector<std::string>& files);
+  // Writes a picture of the whole frame; false when it cannot be written.
+  bool savePicture(const QString& file);
+
+  Editor& editor() { return editor_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void statusChanged(const std::string& text) override;
+  void redrawPlanViews() override;
+  void mapsChanged() override;
+  void exitRequested() override;
+
+  void buildViews();
+  void arrangeViews();
+  bool takesKeys() const;
+
+  Editor editor_;
+  QMdiArea* area_;
+  QLabel* message_;
+  std::array<TXYViewWindow*, kPlanViews> planViews_{};
+  bool leaving_ = false;
+};
+
+}  // namespace velk
