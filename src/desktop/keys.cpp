@@ -77,7 +77,8 @@ const Command* CommandForKey(const QKeyEvent& event) {
   setKey(stroke, event.key());
   if (stroke.key == Key::None) return nullptr;
   if (const Command* command = CommandOnKey(stroke)) return command;
-  const bool sign = stroke.key == Key::Character && !std::isalnum(static_cast<unsigned char>(stroke.character));
+  const bool sign =
+      stroke.key == Key::Character && !std::isalnum(static_cast<unsigned char>(stroke.character));
   if (!sign || !stroke.shift) return nullptr;
   stroke.shift = false;
   return CommandOnKey(stroke);

@@ -14,4 +14,6 @@ std::filesystem::path FindKit() {
   return {};
 }
 
+EditorPlace FindEditorPlace() { return FindPlace(CurrentSurroundings(), FindKit()); }
+
 }  // namespace velk

@@ -1,15 +1,15 @@
 // Where the starter kit and the user's files are on this machine.
 #pragma once
 
-#include "app/editor.h"
+#include "app/place.h"
 
 namespace velk {
 
-// The folder of the starter kit: installed beside the program, or in the build tree. Empty when there is
-// none.
+// The folder of the starter kit: beside the program in the build tree, or where it was installed. Empty
+// when there is none.
 std::filesystem::path FindKit();
 
 // Velk's home for this run; on a first start the kit is copied there.
-EditorPlace FindPlace();
+EditorPlace FindEditorPlace();
 
 }  // namespace velk

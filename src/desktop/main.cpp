@@ -1,13 +1,13 @@
 // The program: reads the command line and runs the editor in a window, by a script, or for a picture.
-#include <unistd.h>
-
-#include <cstdio>
-#include <cstdlib>
-
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
 
+#include <unistd.h>
+
+#include "app/script_prompts.h"
 #include "base/error.h"
 #include "desktop/kit.h"
 #include "desktop/main_window.h"
@@ -47,7 +47,8 @@ void failOnStandardError(const std::string& message) {
 
 void failInBox(const std::string& message) {
   std::fprintf(stderr, "%s\n", message.c_str());
-  QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()), QMessageBox::Ok);
+  QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()),
+                  QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.exec();
   leave(0);
@@ -59,15 +60,32 @@ std::vector<std::string> textsOf(const QStringList& list) {
   return texts;
 }
 
-int runWindow(const std::vector<std::string>& maps, const QString& picture) {
+int runWindow(const std::vector<std::string>& maps) {
   QtPrompts prompts;
-  TVelkWindow window(FindPlace(), prompts);
+  TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setOwner(&window);
+  prompts.setPaths(&window.editor().paths());
   window.start();
   window.openFiles(maps);
   window.show();
-  if (picture.isEmpty()) return QApplication::exec();
-  return window.savePicture(picture) ? 0 : kFatalError;
+  return QApplication::exec();
+}
+
+// Nobody is there to answer: a prompt ends the run.
+int runPicture(const std::vector<std::string>& maps, const QString& picture) {
+  ScriptPrompts prompts;
+  TVelkWindow window(FindEditorPlace(), prompts);
+  try {
+    window.start();
+    window.openFiles(maps);
+  } catch (const ScriptFailure& failure) {
+    std::fprintf(stderr, "velk: %s\n", failure.what());
+    return kFatalError;
+  }
+  window.show();
+  if (window.savePicture(picture)) return 0;
+  std::fprintf(stderr, "velk: couldn't write %s\n", qPrintable(picture));
+  return kFatalError;
 }
 
 int runProgram(QApplication& application) {
@@ -90,7 +108,8 @@ int runProgram(QApplication& application) {
   const bool unattended = parser.isSet(script) || parser.isSet(picture);
   SetErrorHandler(unattended ? failOnStandardError : failInBox);
   if (parser.isSet(script)) return RunScriptFile(parser.value(script).toLocal8Bit().toStdString(), maps);
-  return runWindow(maps, parser.value(picture));
+  if (parser.isSet(picture)) return runPicture(maps, parser.value(picture));
+  return runWindow(maps);
 }
 
 }  // namespace
@@ -102,7 +121,8 @@ int main(int argc, char** argv) {
   if (!velk::wantsDisplay(arguments)) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
   } else if (!velk::hasDisplay()) {
-    std::fprintf(stderr, "velk: there is no display; use --script FILE or --picture FILE to run without one\n");
+    std::fprintf(stderr,
+                 "velk: there is no display; use --script FILE or --picture FILE to run without one\n");
     return velk::kUsageError;
   }
   QApplication application(argc, argv);

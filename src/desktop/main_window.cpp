@@ -58,6 +58,8 @@ void TVelkWindow::buildViews() {
     planViews_[static_cast<size_t>(view)] = window;
     addChild(*area_, window)->show();
   }
+  camera_ = new TCameraWindow(editor_);
+  addChild(*area_, camera_)->show();
   arrangeViews();
 }
 
@@ -99,6 +101,10 @@ void TVelkWindow::redrawPlanViews() {
   for (TXYViewWindow* view : planViews_) {
     if (view) view->markStale();
   }
+}
+
+void TVelkWindow::redrawCamera() {
+  if (camera_) camera_->markStale();
 }
 
 void TVelkWindow::mapsChanged() { setWindowTitle(shown(editor_.title())); }

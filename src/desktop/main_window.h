@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
-
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <array>
 
 #include "app/editor.h"
+#include "desktop/camera_window.h"
 #include "desktop/plan_view_window.h"
 
 namespace velk {
@@ -32,6 +32,7 @@ class TVelkWindow : public QMainWindow, private Observer {
 
  private:
   void statusChanged(const std::string& text) override;
+  void redrawCamera() override;
   void redrawPlanViews() override;
   void mapsChanged() override;
   void exitRequested() override;
@@ -43,6 +44,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   Editor editor_;
   QMdiArea* area_;
   QLabel* message_;
+  TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   bool leaving_ = false;
 };

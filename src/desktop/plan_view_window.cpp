@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "desktop/pointer_events.h"
 #include "desktop/qt_canvas.h"
 #include "planview/drawplanview.h"
 
@@ -14,32 +15,14 @@ constexpr int kWheelStep = 120;  // eighths of a degree in one notch
 
 Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
 
-PointerEvent pointerEvent(QPointF at, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-  PointerEvent event;
-  event.at = {static_cast<int>(at.x()), static_cast<int>(at.y())};
-  if (button == Qt::MiddleButton) event.button = MouseButton::Middle;
-  if (button == Qt::RightButton) event.button = MouseButton::Right;
-  event.shift = modifiers.testFlag(Qt::ShiftModifier);
-  event.ctrl = modifiers.testFlag(Qt::ControlModifier);
-  event.alt = modifiers.testFlag(Qt::AltModifier);
-  return event;
-}
-
-PointerEvent pointerEvent(const QMouseEvent& event) {
-  return pointerEvent(event.position(), event.button(), event.modifiers());
-}
-
-bool isBound(Qt::MouseButton button) {
-  return button == Qt::LeftButton || button == Qt::MiddleButton || button == Qt::RightButton;
-}
-
 }  // namespace
 
 QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
   const PlanView& record = editor.planViews().views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
   QtCanvas canvas(image, QString::fromLocal8Bit(editor.settings().velk_font.c_str()));
-  const StripColours strip{colourOf(palette.color(QPalette::Window)), colourOf(palette.color(QPalette::WindowText))};
+  const StripColours strip{colourOf(palette.color(QPalette::Window)),
+                           colourOf(palette.color(QPalette::WindowText))};
   drawPlanView(canvas, editor.planScene(strip), view);
   return image;
 }
@@ -103,9 +86,9 @@ void TXYViewWindow::openMenu(const StripMenu& menu) {
 }
 
 void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
-  if (!isBound(event->button())) return;
+  if (!IsEditorButton(event->button())) return;
   editor_.planViews().current = view_;
-  const PointerEvent press = pointerEvent(*event);
+  const PointerEvent press = PointerEventOf(*event);
   if (press.at.y < kStripHeight) {
     const std::optional<StripField> field = stripFieldAt(width(), press.at);
     if (!field) return;
@@ -116,10 +99,12 @@ void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
   follow(editor_.pressPlanView(view_, press));
 }
 
-void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) { follow(editor_.movePlanView(view_, pointerEvent(*event))); }
+void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) {
+  follow(editor_.movePlanView(view_, PointerEventOf(*event)));
+}
 
 void TXYViewWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (isBound(event->button())) follow(editor_.releasePlanView(view_, pointerEvent(*event)));
+  if (IsEditorButton(event->button())) follow(editor_.releasePlanView(view_, PointerEventOf(*event)));
 }
 
 void TXYViewWindow::wheelEvent(QWheelEvent* event) {
@@ -127,7 +112,8 @@ void TXYViewWindow::wheelEvent(QWheelEvent* event) {
   const int steps = wheelRest_ / kWheelStep;
   wheelRest_ -= steps * kWheelStep;
   if (steps != 0) {
-    follow(editor_.wheelPlanView(view_, pointerEvent(event->position(), Qt::NoButton, event->modifiers()), steps));
+    follow(editor_.wheelPlanView(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()),
+                                 steps));
   }
   event->accept();
 }

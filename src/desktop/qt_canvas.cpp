@@ -1,9 +1,8 @@
 #include "desktop/qt_canvas.h"
 
+#include <QFontMetrics>
 #include <algorithm>
 #include <cmath>
-
-#include <QFontMetrics>
 
 namespace velk {
 

@@ -1,11 +1,10 @@
 // The views' canvas over a QImage, with Qt's fonts.
 #pragma once
 
-#include <map>
-
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <map>
 
 #include "planview/raster_canvas.h"
 

@@ -16,21 +16,30 @@ std::string text(const QString& from) { return from.toLocal8Bit().toStdString();
 
 QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
   switch (buttons) {
-    case MessageBox::Buttons::Ok: return QMessageBox::Ok;
-    case MessageBox::Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
-    case MessageBox::Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
-    case MessageBox::Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageBox::Buttons::Ok:
+      return QMessageBox::Ok;
+    case MessageBox::Buttons::OkCancel:
+      return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageBox::Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case MessageBox::Buttons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
   }
   return QMessageBox::Ok;
 }
 
 QMessageBox::Icon iconOf(MessageBox::Icon icon) {
   switch (icon) {
-    case MessageBox::Icon::None: return QMessageBox::NoIcon;
-    case MessageBox::Icon::Information: return QMessageBox::Information;
-    case MessageBox::Icon::Warning: return QMessageBox::Warning;
-    case MessageBox::Icon::Question: return QMessageBox::Question;
-    case MessageBox::Icon::Error: return QMessageBox::Critical;
+    case MessageBox::Icon::None:
+      return QMessageBox::NoIcon;
+    case MessageBox::Icon::Information:
+      return QMessageBox::Information;
+    case MessageBox::Icon::Warning:
+      return QMessageBox::Warning;
+    case MessageBox::Icon::Question:
+      return QMessageBox::Question;
+    case MessageBox::Icon::Error:
+      return QMessageBox::Critical;
   }
   return QMessageBox::NoIcon;
 }
@@ -59,11 +68,15 @@ Answer QtPrompts::ask(const MessageBox& box) {
   QMessageBox dialog(iconOf(box.icon), text(box.caption), text(box.text), buttonsOf(box.buttons), owner_);
   dialog.setTextFormat(Qt::PlainText);
   switch (dialog.exec()) {
-    case QMessageBox::Yes: return Answer::Yes;
-    case QMessageBox::Ok: return Answer::Ok;
-    case QMessageBox::No: return Answer::No;
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::Ok:
+      return Answer::Ok;
+    case QMessageBox::No:
+      return Answer::No;
     // Closing a box that offers no Cancel declines.
-    default: return box.buttons == MessageBox::Buttons::YesNo ? Answer::No : Answer::Cancel;
+    default:
+      return box.buttons == MessageBox::Buttons::YesNo ? Answer::No : Answer::Cancel;
   }
 }
 
