@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "camera/compass.h"
-#include "camera/wireview.h"
+#include "camera/wire.h"
 #include "desktop/pointer_events.h"
 #include "desktop/qt_canvas.h"
 
@@ -72,7 +72,7 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
 }
 
 TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
-  setWindowTitle("[?.map]");
+  showTitle();
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -82,6 +82,12 @@ TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent),
 void TCameraWindow::markStale() {
   stale_ = true;
   update();
+}
+
+void TCameraWindow::showTitle() {
+  const map* shown = editor_.currentMap();
+  const QString name = shown ? QString::fromLocal8Bit(shown->name.c_str()) : QString();
+  setWindowTitle(shown ? "[3D - " + name + "]" : QStringLiteral("[?.map]"));
 }
 
 void TCameraWindow::paintEvent(QPaintEvent*) {

@@ -17,6 +17,8 @@ class TCameraWindow : public QWidget {
 
   // The next repaint draws a new picture.
   void markStale();
+  // Takes the current map's name into the caption.
+  void showTitle();
 
  protected:
   void paintEvent(QPaintEvent* event) override;

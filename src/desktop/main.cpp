@@ -7,10 +7,10 @@
 
 #include <unistd.h>
 
-#include "app/script_prompts.h"
 #include "base/error.h"
 #include "desktop/kit.h"
 #include "desktop/main_window.h"
+#include "desktop/picture_prompts.h"
 #include "desktop/qt_prompts.h"
 #include "desktop/script_host.h"
 
@@ -71,17 +71,12 @@ int runWindow(const std::vector<std::string>& maps) {
   return QApplication::exec();
 }
 
-// Nobody is there to answer: a prompt ends the run.
 int runPicture(const std::vector<std::string>& maps, const QString& picture) {
-  ScriptPrompts prompts;
+  PicturePrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
-  try {
-    window.start();
-    window.openFiles(maps);
-  } catch (const ScriptFailure& failure) {
-    std::fprintf(stderr, "velk: %s\n", failure.what());
-    return kFatalError;
-  }
+  prompts.setSettings(&window.editor().settings());
+  window.start();
+  window.openFiles(maps);
   window.show();
   if (window.savePicture(picture)) return 0;
   std::fprintf(stderr, "velk: couldn't write %s\n", qPrintable(picture));

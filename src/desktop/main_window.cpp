@@ -20,10 +20,27 @@ constexpr QSize kFirstSize{1280, 800};
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
 // Child windows live as long as the frame: they can be shrunk to icons, but not closed.
-QMdiSubWindow* addChild(QMdiArea& area, QWidget* widget) {
-  const Qt::WindowFlags frame = Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint;
-  return area.addSubWindow(widget, frame);
+class ChildWindow : public QMdiSubWindow {
+ public:
+  explicit ChildWindow(QWidget* content) {
+    setWidget(content);
+    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowMinMaxButtonsHint);
+    setWindowIcon(QIcon());
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    showMinimized();
+  }
+};
+
+// Quarters of the area, from the top left to the bottom right.
+QRect quarter(const QSize& area, int index) {
+  const int width = area.width() / 2;
+  const int height = area.height() / 2;
+  return {index % 2 * width, index / 2 * height, width, height};
 }
 
 }  // namespace
@@ -56,14 +73,23 @@ void TVelkWindow::buildViews() {
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
     planViews_[static_cast<size_t>(view)] = window;
-    addChild(*area_, window)->show();
+    children_.push_back(area_->addSubWindow(new ChildWindow(window)));
   }
   camera_ = new TCameraWindow(editor_);
-  addChild(*area_, camera_)->show();
-  arrangeViews();
+  children_.insert(children_.begin() + 1, area_->addSubWindow(new ChildWindow(camera_)));
+  for (QMdiSubWindow* child : children_) child->show();
 }
 
-void TVelkWindow::arrangeViews() { area_->tileSubWindows(); }
+// The first layout waits for the frame to have its size.
+void TVelkWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (arranged_) return;
+  arranged_ = true;
+  for (int i = 0; i < static_cast<int>(children_.size()); ++i) {
+    children_[static_cast<size_t>(i)]->setGeometry(quarter(area_->viewport()->size(), i));
+  }
+  area_->setActiveSubWindow(children_.front());
+}
 
 bool TVelkWindow::savePicture(const QString& file) {
   QApplication::processEvents();
@@ -107,7 +133,10 @@ void TVelkWindow::redrawCamera() {
   if (camera_) camera_->markStale();
 }
 
-void TVelkWindow::mapsChanged() { setWindowTitle(shown(editor_.title())); }
+void TVelkWindow::mapsChanged() {
+  setWindowTitle(shown(editor_.title()));
+  if (camera_) camera_->showTitle();
+}
 
 void TVelkWindow::exitRequested() {
   leaving_ = true;

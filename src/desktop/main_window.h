@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <array>
+#include <vector>
 
 #include "app/editor.h"
 #include "desktop/camera_window.h"
@@ -28,6 +29,7 @@ class TVelkWindow : public QMainWindow, private Observer {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -38,7 +40,6 @@ class TVelkWindow : public QMainWindow, private Observer {
   void exitRequested() override;
 
   void buildViews();
-  void arrangeViews();
   bool takesKeys() const;
 
   Editor editor_;
@@ -46,6 +47,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   QLabel* message_;
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
+  std::vector<QMdiSubWindow*> children_;  // in the order of the first layout
+  bool arranged_ = false;
   bool leaving_ = false;
 };
 
