@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -121,6 +122,8 @@ int main(int argc, char** argv) {
     return velk::kUsageError;
   }
   QApplication application(argc, argv);
+  // Qt takes over the user's locale; the editor's files have decimal points everywhere.
+  std::setlocale(LC_NUMERIC, "C");
   QApplication::setApplicationName("velk");
   QApplication::setApplicationVersion(VELK_VERSION);
   QApplication::setDesktopFileName("velk");
