@@ -84,7 +84,7 @@ struct Cutting {
       count = 0;
     } else if (count + CLIP_EXTRA_POINTS > WINDING_MAX_POINTS) {
       fail();
-    } else if (!CutTwoCorners(corners(), count, split, sides)) {
+    } else if (count != 4 || !CutQuad(corners(), split, sides)) {
       count = CutCorners(corners(), count, split, sides, buffers[1 - active].corners());
       active = 1 - active;
       if (count == 0) fail();

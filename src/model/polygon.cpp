@@ -61,7 +61,9 @@ int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, 
   }
   for (std::uint64_t left = splits; left != 0; left = detail::WithoutLowest(left)) {
     const int i = std::countr_zero(left);
-    const detail::NewCorner made = detail::SplitEdge(corners, count, i, split, sides);
+    const int to = i + 1 < count ? i + 1 : 0;
+    const detail::NewCorner made =
+        detail::SplitEdge(corners[i], corners[to], sides.distance[i], sides.distance[to], split);
     detail::Store(out[slots[i]], made.xyzs, made.t);
   }
   return next;

@@ -76,28 +76,27 @@ inline std::uint64_t OfNextCorner(std::uint64_t bits, int count) {
 
 inline std::uint64_t WithoutLowest(std::uint64_t bits) { return bits & (bits - 1); }
 
-// A corner on the edge after corner i, where it meets the plane.
+// A corner on an edge, where it meets the plane.
 struct NewCorner {
   __m128 xyzs;
   float t;
 };
 
-inline NewCorner SplitEdge(const WindingPoint* corners, int count, int i, const SplitPlane& split,
-                           const CornerSides& sides) {
-  const int next = i + 1 < count ? i + 1 : 0;
-  const double fraction = sides.distance[i] / (sides.distance[i] - sides.distance[next]);
+// The new corner between the two, which lie on different sides at these distances.
+inline NewCorner SplitEdge(const WindingPoint& from, const WindingPoint& to, double fromDistance,
+                           double toDistance, const SplitPlane& split) {
+  const double fraction = fromDistance / (fromDistance - toDistance);
   const __m128d f = _mm_set1_pd(fraction);
-  const __m128 from = Load(corners[i]);
-  const __m128 to = Load(corners[next]);
-  const __m128d fromXy = _mm_cvtps_pd(from);
-  const __m128d fromZs = _mm_cvtps_pd(_mm_movehl_ps(from, from));
-  const __m128d xy = _mm_add_pd(fromXy, _mm_mul_pd(f, _mm_sub_pd(_mm_cvtps_pd(to), fromXy)));
-  const __m128d zs =
-      _mm_add_pd(fromZs, _mm_mul_pd(f, _mm_sub_pd(_mm_cvtps_pd(_mm_movehl_ps(to, to)), fromZs)));
-  const __m128 made = _mm_movelh_ps(_mm_cvtpd_ps(xy), _mm_cvtpd_ps(zs));
-  const float fromT = corners[i].t;
+  const __m128 first = Load(from);
+  const __m128 second = Load(to);
+  const __m128d xy = _mm_cvtps_pd(first);
+  const __m128d zs = _mm_cvtps_pd(_mm_movehl_ps(first, first));
+  const __m128d towardsXy = _mm_sub_pd(_mm_cvtps_pd(second), xy);
+  const __m128d towardsZs = _mm_sub_pd(_mm_cvtps_pd(_mm_movehl_ps(second, second)), zs);
+  const __m128 made = _mm_movelh_ps(_mm_cvtpd_ps(_mm_add_pd(xy, _mm_mul_pd(f, towardsXy))),
+                                    _mm_cvtpd_ps(_mm_add_pd(zs, _mm_mul_pd(f, towardsZs))));
   return {_mm_or_ps(_mm_and_ps(made, split.kept), split.fixed),
-          float(fromT + fraction * (double(corners[next].t) - fromT))};
+          float(from.t + fraction * (double(to.t) - from.t))};
 }
 
 }  // namespace detail
@@ -132,29 +131,30 @@ inline void FindSides(const WindingPoint* corners, int count, const SplitPlane& 
   sides.back = allBack;
 }
 
-// The commonest cut, in place: each of two corners behind the plane gives way to one new corner. False, and
-// nothing done, when the cut is another.
-inline bool CutTwoCorners(WindingPoint* corners, int count, const SplitPlane& split,
-                          const CornerSides& sides) {
-  const std::uint64_t leaving = sides.front & detail::OfNextCorner(sides.back, count);
-  const std::uint64_t entering = sides.back & detail::OfNextCorner(sides.front, count);
-  if (leaving == 0 || entering == 0) return false;
-  const int before = std::countr_zero(leaving);
-  const int last = std::countr_zero(entering);
-  const bool wraps = before + 1 == count;
-  const int first = wraps ? 0 : before + 1;
-  if (first == last || sides.back != (std::uint64_t(1) << first | std::uint64_t(1) << last) ||
-      (detail::WithoutLowest(leaving) | detail::WithoutLowest(entering)) != 0) {
-    return false;
+// The commonest cut, in place: two neighbouring corners of a quad lie behind the plane, and a new one takes
+// the place of each. False, and nothing done, when the cut is another.
+inline bool CutQuad(WindingPoint* corners, const SplitPlane& split, const CornerSides& sides) {
+  // By the bits of the corners behind: the corner before them, 4 when they are not two neighbours.
+  constexpr unsigned char kBefore[16] = {4, 4, 4, 3, 4, 4, 0, 4, 4, 2, 4, 4, 1, 4, 4, 4};
+  if ((sides.front | sides.back) != 15 || kBefore[sides.back] == 4) return false;
+  const int before = kBefore[sides.back];
+  const int first = (before + 1) & 3;
+  const int last = (before + 2) & 3;
+  const int after = (before + 3) & 3;
+  const double* d = sides.distance;
+  const detail::NewCorner atFirst =
+      detail::SplitEdge(corners[before], corners[first], d[before], d[first], split);
+  const detail::NewCorner atLast = detail::SplitEdge(corners[last], corners[after], d[last], d[after], split);
+  if (before == 3) {
+    // What comes after corner 3 stays last in the order.
+    detail::Store(corners[0], atLast.xyzs, atLast.t);
+    detail::Store(corners[1], detail::Load(corners[2]), corners[2].t);
+    detail::Store(corners[2], detail::Load(corners[3]), corners[3].t);
+    detail::Store(corners[3], atFirst.xyzs, atFirst.t);
+  } else {
+    detail::Store(corners[first], atFirst.xyzs, atFirst.t);
+    detail::Store(corners[last], atLast.xyzs, atLast.t);
   }
-  const detail::NewCorner atFirst = detail::SplitEdge(corners, count, before, split, sides);
-  const detail::NewCorner atLast = detail::SplitEdge(corners, count, last, split, sides);
-  detail::Store(corners[last], atLast.xyzs, atLast.t);
-  if (wraps) {
-    // The corner after the last one stays last in the order.
-    for (int i = 1; i < count; ++i) detail::Store(corners[i - 1], detail::Load(corners[i]), corners[i].t);
-  }
-  detail::Store(corners[wraps ? count - 1 : first], atFirst.xyzs, atFirst.t);
   return true;
 }
 
