@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <new>
 
 #include "base/error.h"
@@ -142,14 +141,14 @@ struct Bounds {
   __m128 mins = _mm_set1_ps(kNoBound);
   __m128 maxs = _mm_set1_ps(-kNoBound);
 
-  void settle(WindingPoint& corner) {
+  void settle(const WindingPoint& corner, WindingPoint& settled) {
     __m128 at = detail::Load(corner);
     const __m128 whole = _mm_cvtepi32_ps(_mm_cvttps_epi32(at));
     if ((_mm_movemask_ps(_mm_cmpeq_ps(at, whole)) & 7) != 7) {
       at = _mm_setr_ps(Settled(corner.x), Settled(corner.y), Settled(corner.z), corner.s);
     }
     at = _mm_add_ps(at, _mm_setr_ps(0, 0, 0, -0.0f));  // no coordinate is -0; s stays
-    _mm_storeu_ps(&corner.x, at);
+    detail::Store(settled, at, corner.t);
     mins = _mm_min_ps(mins, at);
     maxs = _mm_max_ps(maxs, at);
   }
@@ -163,42 +162,30 @@ vec3 Vector(__m128 v) {
 
 size_t StoredSize(int corners) { return sizeof(winding) + sizeof(WindingPoint) * size_t(corners); }
 
-// The store of a brush's polygons while it is filled.
-class Shelf {
- public:
-  explicit Shelf(std::byte* store) : next_(store) {}
-
-  const winding* put(Cutting& c) {
-    winding* w = new (next_) winding{c.count};
-    std::memcpy(w->points(), c.corners(), sizeof(WindingPoint) * size_t(c.count));
-    next_ += StoredSize(c.count);
-    return w;
-  }
-
- private:
-  std::byte* next_;
-};
-
 size_t TotalSize(const Cuttings& cuttings) {
   size_t size = 0;
   for (int i = 0; i < cuttings.count; ++i) size += StoredSize(cuttings.all[i].count);
   return size;
 }
 
-// Hands the polygons over to the faces and widens the bounds; false at the first that is not acceptable.
-bool Finish(Cuttings& cuttings, brush& b, Shelf shelf, int alignment, Bounds& bounds) {
+// Hands the polygons over to the faces, one after the other in `store`, and widens the bounds; false at the
+// first that is not acceptable.
+bool Finish(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bounds& bounds) {
   for (int i = 0; i < cuttings.count; ++i) {
     Cutting& c = cuttings.all[i];
     face& f = b.faces[size_t(c.face)];
     f.takeProjection(c.shade);
     if (c.fatal) Fail(f, b, alignment);
     if (c.count == 0) continue;
+
+    winding* w = new (store) winding{c.count};
+    store += StoredSize(c.count);
+    f.polygon = w;
     if (c.count < 3 || !CheckCorners(c.corners(), c.count, f.facePlane)) {
-      f.polygon = shelf.put(c);
+      std::copy_n(c.corners(), c.count, w->points());
       return CheckFace(f);
     }
-    for (int k = 0; k < c.count; ++k) bounds.settle(c.corners()[k]);
-    f.polygon = shelf.put(c);
+    for (int k = 0; k < c.count; ++k) bounds.settle(c.corners()[k], (*w)[k]);
   }
   return true;
 }
@@ -233,8 +220,8 @@ void brush::buildWindings() {
   cuttings.cutAll(planes);
 
   Bounds bounds;
-  const Shelf shelf(polygonStore(TotalSize(cuttings)));
-  const bool acceptable = Finish(cuttings, *this, shelf, textureAlignment, bounds);
+  std::byte* store = polygonStore(TotalSize(cuttings));
+  const bool acceptable = Finish(cuttings, *this, store, textureAlignment, bounds);
   mins = Vector(bounds.mins);
   maxs = Vector(bounds.maxs);
   if (!acceptable || mins.x == kNoBound) {

@@ -18,10 +18,50 @@ int LargestAxis(const vec3& normal) {
   return axis;
 }
 
-float ScaleOf(float scale) { return scale == 0 ? 1 : scale; }
+__m128 Wide(const vec3& v) { return _mm_setr_ps(v.x, v.y, v.z, 0); }
 
-// Most scales are 1, and divisions are slow.
-double Scaled(double value, float scale) { return scale == 1 ? value : value / scale; }
+// The upward direction in a plane whose normal lies nearest to `axis`.
+vec3 UpAlong(const vec3& normal, int axis) {
+  vec3 up = axis == 2 ? vec3{1, 0, 0} : vec3{0, 0, 1};
+  const double lean = dot(up, normal);
+  if (lean == 0) return up;  // as most are, and what follows would leave it
+  up = multiplyAdd(up, -lean, normal);
+  normalize(up);
+  return up;
+}
+
+// faceTexCoords, s and t side by side.
+class Projection {
+ public:
+  // The texture axes lie along map axes: s along x or y, t against y or z.
+  Projection(const texturedef& texture, const TextureAxes& axes, const TextureTurn& turn)
+      : sAxis_(axes.s.x != 0 ? 0 : 1),
+        tAxis_(axes.t.y != 0 ? 1 : 2),
+        cosine_(_mm_set1_pd(turn.cosine)),
+        sine_(_mm_set1_pd(turn.sine)),
+        scale_(_mm_setr_pd(ScaleOf(texture.scale[0]), ScaleOf(texture.scale[1]))),
+        shift_(_mm_setr_pd(texture.shift[0], texture.shift[1])),
+        scaled_(_mm_movemask_pd(_mm_cmpneq_pd(scale_, _mm_set1_pd(1))) != 0) {}
+
+  void project(WindingPoint& corner) const {
+    const double s = corner[sAxis_];
+    const double t = -double(corner[tAxis_]);
+    __m128d at = _mm_add_pd(_mm_mul_pd(cosine_, _mm_setr_pd(s, t)), _mm_mul_pd(sine_, _mm_setr_pd(-t, s)));
+    if (scaled_) at = _mm_div_pd(at, scale_);  // few are, and divisions are slow
+    _mm_storel_pi(reinterpret_cast<__m64*>(&corner.s), _mm_cvtpd_ps(_mm_add_pd(at, shift_)));
+  }
+
+ private:
+  static double ScaleOf(float scale) { return scale == 0 ? 1 : scale; }
+
+  int sAxis_;
+  int tAxis_;
+  __m128d cosine_;
+  __m128d sine_;
+  __m128d scale_;
+  __m128d shift_;
+  bool scaled_;
+};
 
 }  // namespace
 
@@ -31,15 +71,11 @@ SplitPlane::SplitPlane(const plane& p)
       y(_mm_set1_pd(p.normal.y)),
       z(_mm_set1_pd(p.normal.z)),
       dist(_mm_set1_pd(p.dist)) {
-  std::uint32_t keptBits[4] = {~0u, ~0u, ~0u, ~0u};
-  std::uint32_t fixedBits[4] = {};
-  for (int i = 0; i < 3; ++i) {
-    if (std::fabs(p.normal[i]) != 1) continue;
-    keptBits[i] = 0;
-    fixedBits[i] = std::bit_cast<std::uint32_t>(p.normal[i] == 1 ? p.dist : -p.dist);
-  }
-  kept = std::bit_cast<__m128>(keptBits);
-  fixed = std::bit_cast<__m128>(fixedBits);
+  const __m128 sign = _mm_set1_ps(-0.0f);
+  const __m128 direction = _mm_setr_ps(p.normal.x, p.normal.y, p.normal.z, 0);
+  const __m128 isFixed = _mm_cmpeq_ps(_mm_andnot_ps(sign, direction), _mm_set1_ps(1));
+  kept = _mm_andnot_ps(isFixed, std::bit_cast<__m128>(_mm_set1_epi32(-1)));
+  fixed = _mm_and_ps(isFixed, _mm_xor_ps(_mm_set1_ps(p.dist), _mm_and_ps(sign, direction)));
 }
 
 int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, const CornerSides& sides,
@@ -74,26 +110,18 @@ bool BaseCorners(const plane& facePlane, const texturedef& texture, const Textur
   const vec3& normal = facePlane.normal;
   const int axis = LargestAxis(normal);
   if (axis < 0) return false;
-  vec3 up = axis == 2 ? vec3{1, 0, 0} : vec3{0, 0, 1};
-  up = multiplyAdd(up, -dot(up, normal), normal);
-  if (dot(up, up) != 1) normalize(up);  // of length 1 it would stay as it is
-  const vec3 org = velk::scale(normal, facePlane.dist);
-  const vec3 right = velk::scale(cross(up, normal), BASE_POLYGON_HALF_SIZE);
-  up = velk::scale(up, BASE_POLYGON_HALF_SIZE);
-  const vec3 left = subtract(org, right);
-  const vec3 rightOf = add(org, right);
-  const vec3 places[4] = {add(left, up), add(rightOf, up), subtract(rightOf, up), subtract(left, up)};
-
-  // The texture axes lie along map axes: s along x or y, t against y or z.
-  const int sAxis = axes.s.x != 0 ? 0 : 1;
-  const int tAxis = axes.t.y != 0 ? 1 : 2;
-  const float scales[2] = {ScaleOf(texture.scale[0]), ScaleOf(texture.scale[1])};
+  const vec3 up = UpAlong(normal, axis);
+  const __m128 org = Wide(velk::scale(normal, facePlane.dist));
+  const __m128 right = Wide(velk::scale(cross(up, normal), BASE_POLYGON_HALF_SIZE));
+  const __m128 halfUp = Wide(velk::scale(up, BASE_POLYGON_HALF_SIZE));
+  const __m128 left = _mm_sub_ps(org, right);
+  const __m128 rightOf = _mm_add_ps(org, right);
+  const __m128 places[4] = {_mm_add_ps(left, halfUp), _mm_add_ps(rightOf, halfUp),
+                            _mm_sub_ps(rightOf, halfUp), _mm_sub_ps(left, halfUp)};
+  const Projection projection(texture, axes, turn);
   for (int i = 0; i < 4; ++i) {
-    const double s = places[i][sAxis];
-    const double t = -places[i][tAxis];
-    out[i] = {places[i].x, places[i].y, places[i].z,
-              float(Scaled(turn.cosine * s - turn.sine * t, scales[0]) + texture.shift[0]),
-              float(Scaled(turn.cosine * t + turn.sine * s, scales[1]) + texture.shift[1])};
+    _mm_storeu_ps(&out[i].x, places[i]);
+    projection.project(out[i]);
   }
   return true;
 }

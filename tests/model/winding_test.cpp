@@ -130,6 +130,25 @@ TEST(BasePolygonTest, TakesTheEarlierOfEqualAxes) {
   EXPECT_GT(up.z, 0);
 }
 
+TEST(BasePolygonTest, ProjectsTheTextureOnEveryCorner) {
+  const vec3 normals[] = {{0, 0, -1}, {1, 0, 0}, {0, -1, 0}, {0.6f, 0, 0.8f}, {-0.48f, 0.8f, -0.36f}};
+  const float rotations[] = {0, 30, -90};
+  for (const vec3& normal : normals) {
+    for (const float rotation : rotations) {
+      face f = FaceOn(normal, 100);
+      f.texture.rotate = rotation;
+      f.texture.scale[1] = rotation == 0 ? 1.0f : 0.7f;
+      f.texture.shift[0] = -13.5f;
+      const WindingPtr w = BasePolyForPlane(f, 1);
+      for (const WindingPoint& corner : *w) {
+        const TexCoords at = faceTexCoords(f.texture, TextureAxisFromPlane(normal, 1), corner.position());
+        EXPECT_EQ(corner.s, at.s);
+        EXPECT_EQ(corner.t, at.t);
+      }
+    }
+  }
+}
+
 TEST(BasePolygonTest, NeedsAnAxis) {
   face f = FaceOn({NAN, NAN, NAN}, 0);
   EXPECT_FATAL(BasePolyForPlane(f, 0), "BasePolyForPlane: no axis found");
