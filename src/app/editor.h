@@ -9,6 +9,7 @@
 #include "app/command.h"
 #include "app/observer.h"
 #include "app/place.h"
+#include "app/windows.h"
 #include "base/paths.h"
 #include "base/prompts.h"
 #include "camera/movement.h"
@@ -140,6 +141,18 @@ class Editor {
   void requestExit();
   bool exiting() const { return exiting_; }
 
+  // The windows that commands act on; without a host, windows that nobody sees.
+  WindowHost& windows() const { return *windows_; }
+  void setWindows(WindowHost& host) { windows_ = &host; }
+  Arrangements& arrangements() { return arrangements_; }
+  const Arrangements& arrangements() const { return arrangements_; }
+  // Reads velk.pos, when there is one, and places the windows; run once they exist.
+  void loadArrangements();
+  // Gives the windows the places of the current slot; nothing without an arrangement.
+  void applyArrangement();
+  // Takes the windows' places into a slot (0..3) and writes all slots to velk.pos.
+  void saveArrangement(int slot);
+
   // One tick of ten seconds.
   void tick();
 
@@ -173,6 +186,9 @@ class Editor {
   TextureBrowser textureBrowser_;
   CameraView cameraView_;
   RenderAssets assets_;
+  PlainWindows plainWindows_;
+  WindowHost* windows_ = &plainWindows_;
+  Arrangements arrangements_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;
   std::string status_;

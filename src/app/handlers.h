@@ -165,4 +165,41 @@ void renderQuality(Editor& editor) {
 // The check mark of rows whose state does not exist yet.
 inline bool never(const Editor&) { return false; }
 
+// Windows and bars. Tool windows are shown, hidden or brought to the front, as they stand.
+void restoreTool(Editor& editor, ToolWindow window);
+void saveArrangement(Editor& editor);
+void restorePositions(Editor& editor);
+void useArrangement(Editor& editor, int slot);
+void stepArrangement(Editor& editor, int step);
+bool arrangementIs(const Editor& editor, int slot);
+void cascadeWindows(Editor& editor);
+void tileWindows(Editor& editor);
+void arrangeIcons(Editor& editor);
+void toggleBar(Editor& editor, int bar);
+bool barIsVisible(const Editor& editor, int bar);
+template <ToolWindow window>
+void restore(Editor& editor) {
+  restoreTool(editor, window);
+}
+template <int slot>
+void useSlot(Editor& editor) {
+  useArrangement(editor, slot);
+}
+template <int slot>
+bool isSlot(const Editor& editor) {
+  return arrangementIs(editor, slot);
+}
+template <int step>
+void stepSlot(Editor& editor) {
+  stepArrangement(editor, step);
+}
+template <int bar>
+void toggleBarNumber(Editor& editor) {
+  toggleBar(editor, bar);
+}
+template <int bar>
+bool barNumberVisible(const Editor& editor) {
+  return barIsVisible(editor, bar);
+}
+
 }  // namespace velk::commands

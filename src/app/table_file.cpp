@@ -52,7 +52,7 @@ const Command kRows[] = {
      .reason = "not built yet: the settings dialogs"},
     {.id = 191, .name = "CM_FILE_ARRANGE", .menu = "&File", .label = "Save Window Arrangement",
      .hint = "Save Window Arrangement...", .when = When::MapOpen,
-     .reason = "not built yet: window arrangement"},
+     .run = saveArrangement},
     {.id = 167, .menu = "&File", .label = "Reload Ents.qc", .hint = "Reload entity classes",
      .run = reloadClasses},
     {.id = 294, .name = "CM_SHOW_LEAKS", .menu = "&File|Leaks", .label = "Load .pts...",

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QStatusBar>
 #include <QTextEdit>
 
@@ -19,28 +18,15 @@ constexpr QSize kFirstSize{1280, 800};
 
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
-// Child windows live as long as the frame: they can be shrunk to icons, but not closed.
-class ChildWindow : public QMdiSubWindow {
- public:
-  explicit ChildWindow(QWidget* content) {
-    setWidget(content);
-    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowMinMaxButtonsHint);
-    setWindowIcon(QIcon());
-  }
-
- protected:
-  void closeEvent(QCloseEvent* event) override {
-    event->ignore();
-    showMinimized();
-  }
-};
-
-// Quarters of the area, from the top left to the bottom right.
-QRect quarter(const QSize& area, int index) {
-  const int width = area.width() / 2;
-  const int height = area.height() / 2;
-  return {index % 2 * width, index / 2 * height, width, height};
+// Holds a window's place until its contents are built.
+QLabel* placeholder(const char* title, const char* line) {
+  auto* label = new QLabel(QString::fromLatin1(line));
+  label->setWindowTitle(QString::fromLatin1(title));
+  label->setAlignment(Qt::AlignCenter);
+  label->setWordWrap(true);
+  label->setEnabled(false);
+  label->setMinimumSize(80, 40);
+  return label;
 }
 
 }  // namespace
@@ -60,7 +46,7 @@ TVelkWindow::~TVelkWindow() { qApp->removeEventFilter(this); }
 void TVelkWindow::start() {
   editor_.start();
   BuildMenus(*menuBar(), editor_);
-  buildViews();
+  buildWindows();
   setWindowTitle(shown(editor_.title()));
   qApp->installEventFilter(this);
 }
@@ -69,15 +55,20 @@ void TVelkWindow::openFiles(const std::vector<std::string>& files) {
   for (const std::string& file : files) editor_.openFile(file);
 }
 
-void TVelkWindow::buildViews() {
+void TVelkWindow::buildWindows() {
+  children_ = new ChildWindows(*area_);
+  children_->add(ToolWindow::Textures, placeholder("Textures", "Thumbnails of the textures come here."));
+  children_->add(ToolWindow::SelectedBrush, placeholder("Selected Brush", "The current brush comes here."));
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
     planViews_[static_cast<size_t>(view)] = window;
-    children_.push_back(area_->addSubWindow(new ChildWindow(window)));
+    children_->add(static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + view), window);
   }
+  children_->add(ToolWindow::Entities, placeholder("Entities", "Keys and values of entities come here."));
   camera_ = new TCameraWindow(editor_);
-  children_.insert(children_.begin() + 1, area_->addSubWindow(new ChildWindow(camera_)));
-  for (QMdiSubWindow* child : children_) child->show();
+  children_->add(ToolWindow::Camera, camera_);
+  children_->add(ToolWindow::Groups, placeholder("Groups", "The groups of the map come here."));
+  editor_.setWindows(*children_);
 }
 
 // The first layout waits for the frame to have its size.
@@ -85,10 +76,8 @@ void TVelkWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (arranged_) return;
   arranged_ = true;
-  for (int i = 0; i < static_cast<int>(children_.size()); ++i) {
-    children_[static_cast<size_t>(i)]->setGeometry(quarter(area_->viewport()->size(), i));
-  }
-  area_->setActiveSubWindow(children_.front());
+  children_->layOut();
+  editor_.loadArrangements();
 }
 
 bool TVelkWindow::savePicture(const QString& file) {

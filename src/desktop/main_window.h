@@ -4,10 +4,10 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <array>
-#include <vector>
 
 #include "app/editor.h"
 #include "desktop/camera_window.h"
+#include "desktop/child_windows.h"
 #include "desktop/plan_view_window.h"
 
 namespace velk {
@@ -39,7 +39,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void mapsChanged() override;
   void exitRequested() override;
 
-  void buildViews();
+  void buildWindows();
   bool takesKeys() const;
 
   Editor editor_;
@@ -47,7 +47,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   QLabel* message_;
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
-  std::vector<QMdiSubWindow*> children_;  // in the order of the first layout
+  ChildWindows* children_ = nullptr;
   bool arranged_ = false;
   bool leaving_ = false;
 };

@@ -1,0 +1,126 @@
+#include "app/windows.h"
+
+#include <algorithm>
+
+namespace velk {
+namespace {
+
+constexpr std::int32_t kRecordLength = 44;
+
+size_t indexOf(ToolWindow window) { return static_cast<size_t>(window); }
+
+void put(std::string& bytes, std::int32_t value) {
+  for (int shift = 0; shift < 32; shift += 8) {
+    bytes += static_cast<char>(static_cast<std::uint32_t>(value) >> shift & 255);
+  }
+}
+
+// Takes integers off the front of a text long enough.
+class Integers {
+ public:
+  explicit Integers(std::string_view bytes) : bytes_(bytes) {}
+  std::int32_t next() {
+    std::uint32_t value = 0;
+    for (size_t i = 0; i < 4; ++i) value |= std::uint32_t(static_cast<unsigned char>(bytes_[i])) << (8 * i);
+    bytes_.remove_prefix(4);
+    return static_cast<std::int32_t>(value);
+  }
+
+ private:
+  std::string_view bytes_;
+};
+
+void put(std::string& bytes, const WindowPlacement& placement) {
+  put(bytes, kRecordLength);
+  put(bytes, placement.flags);
+  put(bytes, static_cast<std::int32_t>(placement.state));
+  for (const std::int32_t value : placement.minimised) put(bytes, value);
+  for (const std::int32_t value : placement.maximised) put(bytes, value);
+  for (const std::int32_t value : placement.normal) put(bytes, value);
+}
+
+// Other show states of the record count as normal.
+ShowState stateOf(std::int32_t value) {
+  return value == 2 || value == 3 ? static_cast<ShowState>(value) : ShowState::Normal;
+}
+
+WindowPlacement takePlacement(Integers& from) {
+  WindowPlacement placement;
+  placement.flags = from.next();
+  placement.state = stateOf(from.next());
+  for (std::int32_t& value : placement.minimised) value = from.next();
+  for (std::int32_t& value : placement.maximised) value = from.next();
+  for (std::int32_t& value : placement.normal) value = from.next();
+  return placement;
+}
+
+WindowPlacement placedAt(int left, int top, int right, int bottom) {
+  WindowPlacement placement;
+  placement.normal = {left, top, right, bottom};
+  return placement;
+}
+
+}  // namespace
+
+std::string Arrangements::bytes() const {
+  std::string bytes;
+  for (const Arrangement& slot : slots) {
+    for (const WindowPlacement& placement : slot) put(bytes, placement);
+  }
+  return bytes;
+}
+
+std::optional<Arrangements> Arrangements::Parse(std::string_view bytes) {
+  if (bytes.size() < kFileSize) return std::nullopt;
+  Integers integers(bytes);
+  Arrangements read;
+  read.loaded = true;
+  for (Arrangement& slot : read.slots) {
+    for (WindowPlacement& placement : slot) {
+      if (integers.next() != kRecordLength) return std::nullopt;
+      placement = takePlacement(integers);
+    }
+  }
+  return read;
+}
+
+PlainWindows::PlainWindows() : placements_(FirstLayout(1280, 740)) {}
+
+WindowPlacement PlainWindows::placement(ToolWindow window) const { return placements_[indexOf(window)]; }
+
+void PlainWindows::place(ToolWindow window, const WindowPlacement& placement) {
+  placements_[indexOf(window)] = placement;
+}
+
+void PlainWindows::bringToFront(ToolWindow window) {
+  WindowPlacement& placement = placements_[indexOf(window)];
+  if (placement.state == ShowState::Minimised) placement.state = ShowState::Normal;
+  focus_ = window;
+}
+
+void PlainWindows::minimise(ToolWindow window) {
+  placements_[indexOf(window)].state = ShowState::Minimised;
+  if (focus_ == window) focus_.reset();
+}
+
+// Plan views and camera in quarters; the tools in a column at the right.
+Arrangement FirstLayout(int width, int height) {
+  const int column = std::max(0, width - std::max(230, width / 5));
+  const int middle = column / 2;
+  const int half = height / 2;
+  const auto tool = [&](int from, int to) {
+    return placedAt(column, height * from / 100, width, height * to / 100);
+  };
+  Arrangement layout;
+  layout[indexOf(ToolWindow::Plan1)] = placedAt(0, 0, middle, half);
+  layout[indexOf(ToolWindow::Camera)] = placedAt(middle, 0, column, half);
+  layout[indexOf(ToolWindow::Plan2)] = placedAt(0, half, middle, height);
+  layout[indexOf(ToolWindow::Plan3)] = placedAt(middle, half, column, height);
+  layout[indexOf(ToolWindow::Textures)] = tool(0, 36);
+  layout[indexOf(ToolWindow::Entities)] = tool(36, 62);
+  layout[indexOf(ToolWindow::Groups)] = tool(62, 80);
+  layout[indexOf(ToolWindow::SelectedBrush)] = tool(80, 100);
+  return layout;
+}
+
+}  // namespace velk

@@ -1,0 +1,131 @@
+#include "desktop/child_windows.h"
+
+#include <QCloseEvent>
+#include <QResizeEvent>
+
+namespace velk {
+namespace {
+
+class ChildWindow : public QMdiSubWindow {
+ public:
+  explicit ChildWindow(QWidget* content) {
+    setWidget(content);
+    setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowMinMaxButtonsHint);
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();
+    showMinimized();
+  }
+};
+
+QRect rectOf(const WindowPlacement& placement) {
+  const auto& [left, top, right, bottom] = placement.normal;
+  return {QPoint(left, top), QSize(right - left, bottom - top)};
+}
+
+int share(int position, int from, int to) { return from > 0 ? (position * to + from / 2) / from : position; }
+
+}  // namespace
+
+ChildWindows::ChildWindows(QMdiArea& area) : QObject(&area), area_(area) {
+  area_.viewport()->installEventFilter(this);
+}
+
+void ChildWindows::add(ToolWindow window, QWidget* content) {
+  QMdiSubWindow*& child = children_[static_cast<size_t>(window)];
+  child = area_.addSubWindow(new ChildWindow(content));
+  child->show();
+}
+
+void ChildWindows::layOut() {
+  const QSize size = area_.viewport()->size();
+  const Arrangement layout = FirstLayout(size.width(), size.height());
+  for (int i = 0; i < kToolWindows; ++i) {
+    place(static_cast<ToolWindow>(i), layout[static_cast<size_t>(i)]);
+  }
+  bringToFront(ToolWindow::Plan1);
+}
+
+WindowPlacement ChildWindows::placement(ToolWindow window) const {
+  const QMdiSubWindow& from = child(window);
+  WindowPlacement placement;
+  if (from.isMinimized()) placement.state = ShowState::Minimised;
+  if (from.isMaximized()) placement.state = ShowState::Maximised;
+  const bool normal = placement.state == ShowState::Normal;
+  const QRect rect = normal ? from.geometry() : from.property("velkNormalRect").toRect();
+  placement.normal = {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+  if (from.isMinimized()) placement.minimised = {from.x(), from.y()};
+  return placement;
+}
+
+void ChildWindows::place(ToolWindow window, const WindowPlacement& placement) {
+  const QRect rect = rectOf(placement);
+  if (rect.width() <= 0 || rect.height() <= 0) return;
+  QMdiSubWindow& target = child(window);
+  target.showNormal();
+  target.setGeometry(rect);
+  target.setProperty("velkNormalRect", rect);
+  if (placement.state == ShowState::Minimised) target.showMinimized();
+  if (placement.state == ShowState::Maximised) target.showMaximized();
+}
+
+bool ChildWindows::hasFocus(ToolWindow window) const { return area_.activeSubWindow() == &child(window); }
+
+void ChildWindows::bringToFront(ToolWindow window) {
+  QMdiSubWindow& target = child(window);
+  if (target.isMinimized()) target.showNormal();
+  target.raise();
+  area_.setActiveSubWindow(&target);
+  target.widget()->setFocus();
+}
+
+void ChildWindows::minimise(ToolWindow window) {
+  QMdiSubWindow& target = child(window);
+  if (!target.isMaximized()) target.setProperty("velkNormalRect", target.geometry());
+  target.showMinimized();
+}
+
+void ChildWindows::cascade() { area_.cascadeSubWindows(); }
+
+void ChildWindows::tile() { area_.tileSubWindows(); }
+
+// Icons in a row along the bottom, as many as fit, then the next row above.
+void ChildWindows::arrangeIcons() {
+  int left = 0;
+  int bottom = area_.viewport()->height();
+  for (QMdiSubWindow* icon : children_) {
+    if (!icon->isMinimized()) continue;
+    if (left > 0 && left + icon->width() > area_.viewport()->width()) {
+      left = 0;
+      bottom -= icon->height();
+    }
+    icon->move(left, bottom - icon->height());
+    left += icon->width();
+  }
+}
+
+bool ChildWindows::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == area_.viewport() && event->type() == QEvent::Resize) {
+    const auto* resized = static_cast<QResizeEvent*>(event);
+    keepShares(resized->oldSize(), resized->size());
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void ChildWindows::keepShares(const QSize& from, const QSize& to) {
+  if (from.width() <= 0 || from.height() <= 0) return;
+  for (QMdiSubWindow* window : children_) {
+    if (!window || window->isMinimized() || window->isMaximized()) continue;
+    const QRect old = window->geometry();
+    const int left = share(old.left(), from.width(), to.width());
+    const int top = share(old.top(), from.height(), to.height());
+    const int right = share(old.left() + old.width(), from.width(), to.width());
+    const int bottom = share(old.top() + old.height(), from.height(), to.height());
+    window->setGeometry(left, top, right - left, bottom - top);
+  }
+}
+
+}  // namespace velk

@@ -1,0 +1,44 @@
+// The child windows of the frame and their places.
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <array>
+
+#include "app/windows.h"
+
+namespace velk {
+
+// The eight windows live as long as the frame: they can be shrunk to icons, not closed. When the frame
+// changes its size they keep their share of it.
+class ChildWindows : public QObject, public WindowHost {
+  Q_OBJECT
+ public:
+  explicit ChildWindows(QMdiArea& area);
+
+  // Gives a window its contents, which it owns.
+  void add(ToolWindow window, QWidget* content);
+  // Puts all windows into their first layout.
+  void layOut();
+
+  WindowPlacement placement(ToolWindow window) const override;
+  void place(ToolWindow window, const WindowPlacement& placement) override;
+  bool hasFocus(ToolWindow window) const override;
+  void bringToFront(ToolWindow window) override;
+  void minimise(ToolWindow window) override;
+  void cascade() override;
+  void tile() override;
+  void arrangeIcons() override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QMdiSubWindow& child(ToolWindow window) const { return *children_[static_cast<size_t>(window)]; }
+  void keepShares(const QSize& from, const QSize& to);
+
+  QMdiArea& area_;
+  std::array<QMdiSubWindow*, kToolWindows> children_{};
+};
+
+}  // namespace velk

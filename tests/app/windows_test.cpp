@@ -1,0 +1,74 @@
+#include "app/windows.h"
+
+#include <gtest/gtest.h>
+
+#include "app/session.h"
+
+namespace velk {
+namespace {
+
+using test::Session;
+
+bool overlap(const WindowPlacement& a, const WindowPlacement& b) {
+  return a.normal[0] < b.normal[2] && b.normal[0] < a.normal[2] && a.normal[1] < b.normal[3] &&
+         b.normal[1] < a.normal[3];
+}
+
+TEST(Windows, FirstLayoutShowsEveryWindowBesideTheOthers) {
+  for (const auto& [width, height] : {std::pair{1280, 740}, {1366, 700}, {1920, 1000}, {3840, 2060}}) {
+    const Arrangement layout = FirstLayout(width, height);
+    for (size_t i = 0; i < layout.size(); ++i) {
+      const auto& [left, top, right, bottom] = layout[i].normal;
+      EXPECT_TRUE(left >= 0 && top >= 0 && right <= width && bottom <= height) << i;
+      EXPECT_TRUE(right - left >= 200 && bottom - top >= 100) << i;
+      for (size_t k = 0; k < i; ++k) EXPECT_FALSE(overlap(layout[i], layout[k])) << i << " " << k;
+    }
+  }
+}
+
+TEST(Windows, ArrangementsKeepTheirFourSlotsInTheFile) {
+  Arrangements saved;
+  saved.slots[1][3].state = ShowState::Minimised;
+  saved.slots[1][3].normal = {-5, 6, 700, 80000};
+  saved.slots[3][7].minimised = {1, 2};
+  EXPECT_EQ(saved.bytes().size(), Arrangements::kFileSize);
+  const auto read = Arrangements::Parse(saved.bytes());
+  ASSERT_TRUE(read);
+  EXPECT_TRUE(read->loaded);
+  EXPECT_EQ(read->slots, saved.slots);
+  EXPECT_FALSE(Arrangements::Parse(saved.bytes().substr(1)));
+  EXPECT_FALSE(Arrangements::Parse(std::string(Arrangements::kFileSize, '\0')));
+}
+
+TEST(Windows, SavesASlotAndGoesRoundTheSlots) {
+  Session session;
+  session.run("CM_FILENEW");
+  for (const char* refused : {"0", "5", "x"}) {
+    session.answer(refused);
+    session.run("CM_FILE_ARRANGE");
+    EXPECT_FALSE(session.editor.arrangements().loaded) << refused;
+  }
+  session.answer("2");
+  session.run("CM_FILE_ARRANGE");
+  EXPECT_EQ(session.editor.status(), "Window arrangement 2 saved...");
+  EXPECT_EQ(session.home.read("velk.pos").size(), Arrangements::kFileSize);
+  EXPECT_EQ(session.editor.arrangements().current, 0);
+  session.run("CM_WDOWN");
+  EXPECT_EQ(session.editor.arrangements().current, 3);
+  session.run("CM_WUP");
+  EXPECT_EQ(session.editor.arrangements().current, 0);
+}
+
+TEST(Windows, ToolCommandsShowHideAndRaise) {
+  Session session;
+  session.run("CM_FILENEW");
+  const char* expected[] = {"Group Window Brought to Front...", "Group Window Hidden...",
+                            "Group Window Shown..."};
+  for (const char* status : expected) {
+    session.run("CM_GROUP");
+    EXPECT_EQ(session.editor.status(), status);
+  }
+}
+
+}  // namespace
+}  // namespace velk
