@@ -108,6 +108,7 @@ bool Editor::saveDocument(MapDocument& document, const std::string& path) {
   }
   m.name = path;
   m.modified = false;
+  dropRescueCopy(document);
   observer_.mapsChanged();
   postStatus(Format("File [%s] saved...", path.c_str()));
   return true;
@@ -115,6 +116,7 @@ bool Editor::saveDocument(MapDocument& document, const std::string& path) {
 
 void Editor::closeDocument(int index) {
   if (!document(index)) return;
+  dropRescueCopy(*document(index));
   std::swap(documents_[static_cast<size_t>(index)], documents_.back());
   documents_.pop_back();
   current_ = 0;

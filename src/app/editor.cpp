@@ -126,9 +126,9 @@ void Editor::carryOutRedraws() {
 
 void Editor::requestExit() {
   exiting_ = true;
+  // What the user did not want to save is not to be offered again.
+  for (const auto& document : documents_) dropRescueCopy(*document);
   observer_.exitRequested();
 }
-
-void Editor::tick() { ++autosaveTicks_; }
 
 }  // namespace velk

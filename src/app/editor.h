@@ -9,6 +9,7 @@
 #include "app/command.h"
 #include "app/observer.h"
 #include "app/place.h"
+#include "app/rescue.h"
 #include "app/windows.h"
 #include "base/paths.h"
 #include "base/prompts.h"
@@ -35,6 +36,7 @@ struct MapDocument {
       : textures(badtex), model(settings, classes, counters) {}
   TextureSet textures;
   map model;  // model.name is the path, as given
+  std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 };
 
 // The camera view's window and what it keeps between frames.
@@ -153,10 +155,19 @@ class Editor {
   // Takes the windows' places into a slot (0..3) and writes all slots to velk.pos.
   void saveArrangement(int slot);
 
-  // One tick of ten seconds.
+  // One tick of ten seconds: from the seventh on, the current map goes to "c:\\backup.map", or for a second
+  // editor at work to a file beside it. The map does not count as saved.
   void tick();
+  // Opens the copies that an editor left which did not end in peace, or puts them aside, as the user says.
+  void offerRescueCopies();
+  // Writes every modified map to a file beside the backup; how many were written. For fatal errors and
+  // crashes, too.
+  int writeRescueCopies();
 
  private:
+  std::filesystem::path freeCopyFile() const;
+  void openRescueCopy(const RescueCopy& copy);
+  void dropRescueCopy(MapDocument& document);
   bool refuseEleventh(const char* caption);
   bool refuseSave(const std::string& text, MessageBox::Icon icon);
   std::unique_ptr<MapDocument> makeDocument();
@@ -189,6 +200,7 @@ class Editor {
   PlainWindows plainWindows_;
   WindowHost* windows_ = &plainWindows_;
   Arrangements arrangements_;
+  std::unique_ptr<RescueFolder> rescue_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;
   std::string status_;

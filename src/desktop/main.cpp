@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "base/error.h"
+#include "desktop/crash_guard.h"
 #include "desktop/kit.h"
 #include "desktop/main_window.h"
 #include "desktop/picture_prompts.h"
@@ -47,6 +48,7 @@ void failOnStandardError(const std::string& message) {
 }
 
 void failInBox(const std::string& message) {
+  CrashGuard::RunNow();
   std::fprintf(stderr, "%s\n", message.c_str());
   QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()),
                   QMessageBox::Ok);
@@ -67,8 +69,10 @@ int runWindow(const std::vector<std::string>& maps) {
   prompts.setOwner(&window);
   prompts.setPaths(&window.editor().paths());
   window.start();
-  window.openFiles(maps);
+  const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
   window.show();
+  window.editor().offerRescueCopies();
+  window.openFiles(maps);
   return QApplication::exec();
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/main_window.h"
 
+#include <chrono>
+
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
@@ -15,6 +17,7 @@ namespace velk {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
+constexpr std::chrono::seconds kTick{10};
 
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
@@ -49,6 +52,8 @@ void TVelkWindow::start() {
   buildWindows();
   setWindowTitle(shown(editor_.title()));
   qApp->installEventFilter(this);
+  connect(&ticks_, &QTimer::timeout, this, [this] { editor_.tick(); });
+  ticks_.start(kTick);
 }
 
 void TVelkWindow::openFiles(const std::vector<std::string>& files) {

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QTimer>
 #include <array>
 
 #include "app/editor.h"
@@ -48,6 +49,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;
+  QTimer ticks_;
   bool arranged_ = false;
   bool leaving_ = false;
 };

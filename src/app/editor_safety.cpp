@@ -1,0 +1,85 @@
+// Nothing is lost: the backup of the current map, and rescue copies of all that is not saved.
+#include "app/editor.h"
+#include "base/files.h"
+#include "base/text.h"
+#include "mapfile/mapwriter.h"
+
+namespace velk {
+namespace {
+
+// Ticks without a backup after New.
+constexpr int kFirstBackupTick = 6;
+
+bool hasContents(const map& m) { return m.world() && (m.world()->numbrushes() > 0 || m.numentities() > 1); }
+
+std::string listOf(const std::vector<RescueCopy>& copies) {
+  std::string list;
+  for (const RescueCopy& copy : copies) list += "\n" + copy.original;
+  return list;
+}
+
+}  // namespace
+
+// Not through WriteMapFile, which would count the map as saved.
+void Editor::tick() {
+  if (mapCount() == 0 || ++autosaveTicks_ <= kFirstBackupTick) return;
+  map& m = *currentMap();
+  if (!rescue_ || !rescue_->held() || m.world()->numbrushes() == 0) return;
+  const WriteResult written = ReplaceFile(rescue_->backupFile(), MapFileText(m, {}));
+  postStatus(written.ok ? "Autosaving" : Format("Autosaving failed: %s", written.reason.c_str()));
+}
+
+int Editor::writeRescueCopies() {
+  if (!rescue_ || !rescue_->held()) return 0;
+  int kept = 0;
+  for (int i = 0; i < mapCount(); ++i) {
+    MapDocument& from = *document(i);
+    if (!from.model.modified || !hasContents(from.model)) continue;
+    if (from.rescueFile.empty()) from.rescueFile = freeCopyFile();
+    const std::string text = RescueFolder::header(from.model.name) + MapFileText(from.model, {});
+    if (ReplaceFile(from.rescueFile, text).ok) ++kept;
+  }
+  return kept;
+}
+
+std::filesystem::path Editor::freeCopyFile() const {
+  int index = 0;
+  std::error_code ignored;
+  while (std::filesystem::exists(rescue_->copyFile(index), ignored)) ++index;
+  return rescue_->copyFile(index);
+}
+
+void Editor::dropRescueCopy(MapDocument& document) {
+  std::error_code ignored;
+  if (!document.rescueFile.empty()) std::filesystem::remove(document.rescueFile, ignored);
+  document.rescueFile.clear();
+}
+
+void Editor::offerRescueCopies() {
+  rescue_ = std::make_unique<RescueFolder>(paths_.native("c:\\"));
+  const std::vector<RescueCopy> copies = rescue_->claim();
+  if (copies.empty()) return;
+  const Answer answer = prompts_.ask({.caption = "Velk - Rescued Maps",
+                                      .text = "Velk ended before these maps were saved:\n" + listOf(copies) +
+                                              "\n\nOpen the copies that were rescued?",
+                                      .buttons = MessageBox::Buttons::YesNo,
+                                      .icon = MessageBox::Icon::Question});
+  for (const RescueCopy& copy : copies) {
+    if (answer == Answer::Yes && mapCount() < MAX_MAPS) {
+      openRescueCopy(copy);
+    } else {
+      postStatus(Format("Rescue copy kept as %s", rescue_->putAside(copy).c_str()));
+    }
+  }
+}
+
+void Editor::openRescueCopy(const RescueCopy& copy) {
+  openFile(copy.file.string());
+  current()->rescueFile = copy.file;
+  current()->model.name = copy.original;
+  current()->model.modified = true;
+  observer_.mapsChanged();
+  postStatus(Format("Map [%s] rescued...", copy.original.c_str()));
+}
+
+}  // namespace velk
