@@ -12,6 +12,13 @@ constexpr int kFirstBackupTick = 6;
 
 bool hasContents(const map& m) { return m.world() && (m.world()->numbrushes() > 0 || m.numentities() > 1); }
 
+// Where the map lies, whatever folder the next editor starts in. A new map has no place yet.
+std::string placeOf(const std::string& name, const Settings& settings, const Paths& paths) {
+  const bool fixed = name == settings.newmap || name.starts_with('/') || name.starts_with('\\') ||
+                     (name.size() > 1 && name[1] == ':');
+  return fixed ? name : std::filesystem::absolute(paths.native(name)).string();
+}
+
 std::string listOf(const std::vector<RescueCopy>& copies) {
   std::string list;
   for (const RescueCopy& copy : copies) list += "\n" + copy.original;
@@ -36,7 +43,8 @@ int Editor::writeRescueCopies() {
     MapDocument& from = *document(i);
     if (!from.model.modified || !hasContents(from.model)) continue;
     if (from.rescueFile.empty()) from.rescueFile = freeCopyFile();
-    const std::string text = RescueFolder::header(from.model.name) + MapFileText(from.model, {});
+    const std::string text =
+        RescueFolder::header(placeOf(from.model.name, settings_, paths_)) + MapFileText(from.model, {});
     if (ReplaceFile(from.rescueFile, text).ok) ++kept;
   }
   return kept;

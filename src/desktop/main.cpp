@@ -1,6 +1,7 @@
 // The program: reads the command line and runs the editor in a window, by a script, or for a picture.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QMessageBox>
 #include <clocale>
 #include <cstdio>
@@ -131,5 +132,6 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("velk");
   QApplication::setApplicationVersion(VELK_VERSION);
   QApplication::setDesktopFileName("velk");
+  QApplication::setWindowIcon(QIcon(":/icons/velk.svg"));
   return velk::runProgram(application);
 }

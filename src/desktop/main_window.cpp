@@ -1,14 +1,17 @@
 #include "desktop/main_window.h"
 
-#include <chrono>
-
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QTextEdit>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <chrono>
 
 #include "desktop/keys.h"
 #include "desktop/menus.h"
@@ -36,11 +39,11 @@ QLabel* placeholder(const char* title, const char* line) {
 
 TVelkWindow::TVelkWindow(EditorPlace place, Prompts& prompts)
     : editor_(std::move(place), prompts, *this), area_(new QMdiArea(this)), message_(new QLabel(this)) {
-  setCentralWidget(area_);
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   message_->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(message_, 1);
+  setAcceptDrops(true);
   resize(kFirstSize);
 }
 
@@ -49,6 +52,7 @@ TVelkWindow::~TVelkWindow() { qApp->removeEventFilter(this); }
 void TVelkWindow::start() {
   editor_.start();
   BuildMenus(*menuBar(), editor_);
+  buildCentre();
   buildWindows();
   setWindowTitle(shown(editor_.title()));
   qApp->installEventFilter(this);
@@ -58,6 +62,23 @@ void TVelkWindow::start() {
 
 void TVelkWindow::openFiles(const std::vector<std::string>& files) {
   for (const std::string& file : files) editor_.openFile(file);
+}
+
+// The windows' area, with the tabs above or below it.
+void TVelkWindow::buildCentre() {
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(area_, 1);
+  if (editor_.settings().show_tabs != 0) {
+    const bool below = editor_.settings().show_tabs == 2;
+    tabs_ = new MapTabs(editor_);
+    tabs_->setShape(below ? QTabBar::RoundedSouth : QTabBar::RoundedNorth);
+    column->insertWidget(below ? 1 : 0, tabs_);
+    tabs_->refresh();
+  }
+  setCentralWidget(centre);
 }
 
 void TVelkWindow::buildWindows() {
@@ -95,6 +116,19 @@ void TVelkWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(leaving_);
 }
 
+void TVelkWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void TVelkWindow::dropEvent(QDropEvent* event) {
+  std::vector<std::string> files;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    if (url.isLocalFile()) files.push_back(url.toLocalFile().toLocal8Bit().toStdString());
+  }
+  event->acceptProposedAction();
+  openFiles(files);
+}
+
 // Keys go to the key table unless a dialog or a menu is open or a text is being typed.
 bool TVelkWindow::takesKeys() const {
   if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return false;
@@ -129,6 +163,7 @@ void TVelkWindow::redrawCamera() {
 
 void TVelkWindow::mapsChanged() {
   setWindowTitle(shown(editor_.title()));
+  if (tabs_) tabs_->refresh();
   if (camera_) camera_->showTitle();
 }
 

@@ -9,6 +9,7 @@
 #include "app/editor.h"
 #include "desktop/camera_window.h"
 #include "desktop/child_windows.h"
+#include "desktop/map_tabs.h"
 #include "desktop/plan_view_window.h"
 
 namespace velk {
@@ -31,6 +32,8 @@ class TVelkWindow : public QMainWindow, private Observer {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -40,12 +43,14 @@ class TVelkWindow : public QMainWindow, private Observer {
   void mapsChanged() override;
   void exitRequested() override;
 
+  void buildCentre();
   void buildWindows();
   bool takesKeys() const;
 
   Editor editor_;
   QMdiArea* area_;
   QLabel* message_;
+  MapTabs* tabs_ = nullptr;  // none when tabs are switched off
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;

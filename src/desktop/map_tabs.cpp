@@ -1,0 +1,29 @@
+#include "desktop/map_tabs.h"
+
+namespace velk {
+
+MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(editor) {
+  setExpanding(false);
+  setDrawBase(false);
+  setElideMode(Qt::ElideMiddle);
+  setFocusPolicy(Qt::NoFocus);
+  connect(this, &QTabBar::currentChanged, this, [this](int index) {
+    if (!refreshing_ && index >= 0) editor_.setCurrentIndex(index);
+  });
+}
+
+void MapTabs::refresh() {
+  refreshing_ = true;
+  while (count() > editor_.mapCount()) removeTab(count() - 1);
+  while (count() < editor_.mapCount()) addTab(QString());
+  for (int i = 0; i < count(); ++i) {
+    const std::string& path = editor_.document(i)->model.name;
+    setTabText(i, QString::fromLocal8Bit(FileNamePart(path).c_str()));
+    setTabToolTip(i, QString::fromLocal8Bit(path.c_str()));
+  }
+  setCurrentIndex(editor_.currentIndex());
+  setVisible(count() > 0);
+  refreshing_ = false;
+}
+
+}  // namespace velk
