@@ -35,4 +35,13 @@ const Command* FindCommand(std::string_view nameOrNumber) {
   return nullptr;
 }
 
+std::string PlainLabel(const Command& command) {
+  std::string label;
+  for (const char* c = command.label; *c; ++c) {
+    if (*c != '&') label += *c;
+  }
+  while (label.ends_with('.')) label.pop_back();
+  return label;
+}
+
 }  // namespace velk

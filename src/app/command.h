@@ -18,6 +18,7 @@ enum class When {
   RoomForMap,         // fewer than ten maps are open
   SelectionInEntity,  // the current entity has a selected brush
   UndoKept,
+  RedoKept,
   LeaksShown,
   Never,  // no operation stands behind it
 };
@@ -41,6 +42,9 @@ std::span<const Command> Commands();
 const Command* FindCommand(int id);
 // Without regard to case; also accepts the number as text. None when there is no such command.
 const Command* FindCommand(std::string_view nameOrNumber);
+
+// The label without its mnemonic marker and its dots.
+std::string PlainLabel(const Command& command);
 
 // A key with its modifiers, independent of the toolkit.
 struct KeyStroke {

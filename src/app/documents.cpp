@@ -108,6 +108,7 @@ bool Editor::saveDocument(MapDocument& document, const std::string& path) {
   }
   m.name = path;
   m.modified = false;
+  ++m.saves;
   dropRescueCopy(document);
   observer_.mapsChanged();
   postStatus(Format("File [%s] saved...", path.c_str()));

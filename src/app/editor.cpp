@@ -80,6 +80,9 @@ bool Editor::isEnabled(const Command& command) const {
     case When::SelectionInEntity:
       return selectionInEntity(currentMap());
     case When::UndoKept:
+      return current() && current()->history.canUndo();
+    case When::RedoKept:
+      return current() && current()->history.canRedo();
     case When::LeaksShown:
     case When::Never:
       return false;
@@ -89,7 +92,9 @@ bool Editor::isEnabled(const Command& command) const {
 
 bool Editor::run(const Command& command) {
   if (!isEnabled(command)) return false;
+  beginChange();
   command.run(*this);
+  endChange(PlainLabel(command));
   observer_.commandsChanged();
   return true;
 }
@@ -102,6 +107,10 @@ std::string Editor::statusLine(const std::string& text) const {
   for (const auto& open : documents_) {
     brushes += open->model.brushCount();
     entities += open->model.numentities() + 1;
+  }
+  if (clipboard_) {
+    brushes += clipboard_->brushCount();
+    entities += clipboard_->numentities() + 1;
   }
   const ObjectCounters& c = counters_;
   const std::string numbers =

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,7 @@
 #include "entities/entityclass.h"
 #include "mapfile/mapreader.h"
 #include "model/map.h"
+#include "model/undo.h"
 #include "planview/drawplanview.h"
 #include "planview/planview.h"
 #include "planview/pointer.h"
@@ -36,6 +38,7 @@ struct MapDocument {
       : textures(badtex), model(settings, classes, counters) {}
   TextureSet textures;
   map model;  // model.name is the path, as given
+  UndoHistory history;
   std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 };
 
@@ -80,6 +83,8 @@ class Editor {
   bool isEnabled(const Command& command) const;
   bool isChecked(const Command& command) const { return command.checked && command.checked(*this); }
   bool run(const Command& command);
+  // The command's label in the menu as things stand: undo and redo name what they would take back.
+  std::string labelOf(const Command& command) const;
 
   // What New, Open, Save and Close do once their questions are answered. A fatal error on the way leaves
   // the list of open maps as it was. New and open refuse an eleventh map with a message box.
@@ -143,6 +148,21 @@ class Editor {
   void requestExit();
   bool exiting() const { return exiting_; }
 
+  // Undo. With more than one level every command takes its own copies; a drag brackets its changes with
+  // these two. An ending without a beginning, or without a change, keeps nothing.
+  void beginChange();
+  void endChange(const std::string& name);
+  // Taken by commands before a change, for the classic single level.
+  void saveUndo(const std::string& name, UndoMode mode);
+  void undo();
+  void redo();
+
+  // The clipboard of all open maps; none before the first copy.
+  map* clipboard() const { return clipboard_.get(); }
+  void copySelection();
+  void pasteClipboard();
+  void cloneSelection();
+
   // The windows that commands act on; without a host, windows that nobody sees.
   WindowHost& windows() const { return *windows_; }
   void setWindows(WindowHost& host) { windows_ = &host; }
@@ -200,6 +220,9 @@ class Editor {
   PlainWindows plainWindows_;
   WindowHost* windows_ = &plainWindows_;
   Arrangements arrangements_;
+  std::unique_ptr<map> clipboard_;
+  std::optional<MapSnapshot> before_;      // of the change under way
+  const MapDocument* changing_ = nullptr;  // the map it is made to
   std::unique_ptr<RescueFolder> rescue_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;

@@ -165,6 +165,14 @@ void renderQuality(Editor& editor) {
 // The check mark of rows whose state does not exist yet.
 inline bool never(const Editor&) { return false; }
 
+// Undo and the clipboard.
+void saveForUndo(Editor& editor);
+void undoChange(Editor& editor);
+void redoChange(Editor& editor);
+void copySelection(Editor& editor);
+void pasteClipboard(Editor& editor);
+void cloneSelection(Editor& editor);
+
 // Windows and bars. Tool windows are shown, hidden or brought to the front, as they stand.
 void restoreTool(Editor& editor, ToolWindow window);
 void saveArrangement(Editor& editor);

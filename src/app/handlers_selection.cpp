@@ -110,4 +110,15 @@ void nextHit(Editor& editor) { cycleHit(editor, 1, "Hit brush cycled up..."); }
 
 void previousHit(Editor& editor) { cycleHit(editor, -1, "Hit brush cycled down..."); }
 
+void saveForUndo(Editor& editor) {
+  editor.saveUndo("Saving for undo...", UndoMode::All);
+  editor.postStatus("Saved for undo...");
+}
+
+void undoChange(Editor& editor) { editor.undo(); }
+void redoChange(Editor& editor) { editor.redo(); }
+void copySelection(Editor& editor) { editor.copySelection(); }
+void pasteClipboard(Editor& editor) { editor.pasteClipboard(); }
+void cloneSelection(Editor& editor) { editor.cloneSelection(); }
+
 }  // namespace velk::commands

@@ -28,8 +28,8 @@ QMenu* menuAt(QMenuBar& bar, const std::string& path) {
 }
 
 // The key text stands behind a tab: shown by the menu, but no shortcut of Qt's. Keys are the key table's.
-QString itemText(const Command& command) {
-  QString text = QString::fromLatin1(command.label);
+QString itemText(const Command& command, const Editor& editor) {
+  QString text = QString::fromLocal8Bit(editor.labelOf(command).c_str());
   if (*command.keyText) text += '\t' + QString::fromLatin1(command.keyText);
   return text;
 }
@@ -37,6 +37,7 @@ QString itemText(const Command& command) {
 void refresh(QAction& action, const Editor& editor) {
   const Command* command = FindCommand(action.data().toInt());
   if (!command) return;
+  action.setText(itemText(*command, editor));
   action.setEnabled(editor.isEnabled(*command));
   if (action.isCheckable()) action.setChecked(editor.isChecked(*command));
 }
@@ -47,7 +48,7 @@ void BuildMenus(QMenuBar& bar, Editor& editor) {
   for (const Command& command : Commands()) {
     if (!*command.menu) continue;
     QMenu* menu = menuAt(bar, command.menu);
-    QAction* action = menu->addAction(itemText(command));
+    QAction* action = menu->addAction(itemText(command, editor));
     action->setData(command.id);
     action->setStatusTip(QString::fromLatin1(command.hint));
     action->setCheckable(command.checked != nullptr);

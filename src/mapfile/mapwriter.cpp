@@ -167,7 +167,10 @@ MapWriteResult WriteMapFile(map& m, const Paths& paths, const std::string& name,
   if (m.world() == nullptr || m.world()->numbrushes() == 0)
     return {MapWriteResult::Outcome::NothingToSave, {}};
   MapWriteResult result = Replace(paths, name, MapFileText(m, options));
-  if (result.ok()) m.modified = false;
+  if (result.ok()) {
+    m.modified = false;
+    ++m.saves;
+  }
   return result;
 }
 

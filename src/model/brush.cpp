@@ -79,6 +79,11 @@ void brush::initBox(entity& boxOwner, const vec3& boxMins, const vec3& boxMaxs, 
   setBox(boxMins, boxMaxs, texture);
 }
 
+std::weak_ptr<const void> brush::identity() {
+  if (!identity_) identity_ = std::make_shared<int>(0);
+  return identity_;
+}
+
 void brush::setBox(const vec3& boxMins, const vec3& boxMaxs, const texturedef& texture) {
   if (boxMaxs.x - boxMins.x <= 0 || boxMaxs.y - boxMins.y <= 0 || boxMaxs.z - boxMins.z <= 0) {
     mins = boxMins;

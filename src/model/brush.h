@@ -11,6 +11,7 @@
 namespace velk {
 
 class entity;
+struct BrushShape;
 struct HitList;
 
 inline constexpr int MAX_FACES = 64;
@@ -36,6 +37,9 @@ struct brush {
   std::vector<face> faces;       // at most MAX_FACES
   const brush* source = nullptr; // in an undo copy: the live brush
   HitList* hits = nullptr;       // the hit list that holds this brush, if any
+  std::shared_ptr<const BrushShape> kept;  // of the last snapshot; may be out of date
+  // Expires with the brush; made when first asked for.
+  std::weak_ptr<const void> identity();
 
   int numfaces() const { return static_cast<int>(faces.size()); }
   // The texture of face 0; an empty definition when there is no face.
@@ -93,6 +97,7 @@ struct brush {
   std::unique_ptr<std::byte[]> store_;   // one block with the polygons of all faces, kept for the next build
   size_t storeSize_ = 0;
   ObjectCounters* counters_ = nullptr;
+  std::shared_ptr<const int> identity_;
 };
 
 }  // namespace velk

@@ -45,6 +45,11 @@ entity::~entity() {
   if (parent_->counters()) ++parent_->counters()->entitiesDestroyed;
 }
 
+std::weak_ptr<const void> entity::identity() {
+  if (!identity_) identity_ = std::make_shared<int>(0);
+  return identity_;
+}
+
 int entity::indexOf(const brush* b) const {
   const auto found =
       std::find_if(brushes_.begin(), brushes_.end(), [&](const auto& p) { return p.get() == b; });

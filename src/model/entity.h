@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "entities/entityclass.h"
@@ -47,11 +48,15 @@ class entity {
   // caller to destroy; when that is null it stays in the map, empty.
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
   void destroyBrushes() { brushes_.clear(); }
+  // Hands over all brushes; the entity stays in its list.
+  std::vector<std::unique_ptr<brush>> takeBrushes() { return std::exchange(brushes_, {}); }
   Pointees<brush> brushes() const { return Pointees(brushes_); }
   std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
 
   // Pairs, newest first, as they are written.
   Reversed<KeyPair> pairs() const { return Reversed(pairs_); }
+  // The same, oldest first.
+  const std::vector<KeyPair>& pairsInOrder() const { return pairs_; }
   // A key of 64 characters or more is fatal "setKey: %s > MAX_KEY", a value of 128 or more "setKey: %s >
   // MAX_VALUE". Leading bytes up to 32 of the key are dropped; an empty key is ignored.
   void setKey(std::string_view key, std::string_view value);
@@ -61,6 +66,9 @@ class entity {
   const std::string& valueOfKey(std::string_view key) const;
   // Missing components stay 0.
   vec3 vectorOfKey(std::string_view key) const;
+
+  // Expires with the entity; made when first asked for.
+  std::weak_ptr<const void> identity();
 
   const EntityClass& entityClass() const;
   bool isWorld() const;
@@ -86,6 +94,7 @@ class entity {
   map* parent_;
   std::vector<std::unique_ptr<brush>> brushes_;
   std::vector<KeyPair> pairs_;   // oldest first
+  std::shared_ptr<const int> identity_;
 };
 
 // The colour in which brushes of the entity's class are drawn flat.

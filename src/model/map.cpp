@@ -122,9 +122,9 @@ void map::setWorkHigh(const vec3& high) {
   notify(MapNotice::WorkRange);
 }
 
-void map::copyWorkRange(const map& other) {
-  workLow_ = other.workLow_;
-  workHigh_ = other.workHigh_;
+void map::setWorkRange(const vec3& low, const vec3& high) {
+  workLow_ = low;
+  workHigh_ = high;
   notify(MapNotice::WorkRange);
 }
 

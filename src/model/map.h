@@ -88,6 +88,7 @@ class map {
 
   std::string name;             // the map's file, as given
   bool modified = false;
+  int saves = 0;                // how often the file was written
   GroupList groups;
   std::array<camera, kCameras> cameras;
   int currentCamera = 0;
@@ -132,7 +133,8 @@ class map {
   const vec3& workHigh() const { return workHigh_; }
   void setWorkLow(const vec3& low);      // axes above -2048 only
   void setWorkHigh(const vec3& high);    // axes below 2048 only
-  void copyWorkRange(const map& other);
+  // Takes the range as it is, off the grid or not.
+  void setWorkRange(const vec3& low, const vec3& high);
 
   // In group mode, whether the brush's group is visible; otherwise true.
   bool passesGroupFilter(const brush& b) const { return !settings_.groupmode || groups.passes(b.group); }

@@ -103,5 +103,28 @@ TEST(Handlers, RedrawsOnlyWhatChanged) {
   EXPECT_EQ(seen.planRedraws, 1);
 }
 
+TEST(Undo, CommandsTakeTheirOwnCopiesAboveOneLevel) {
+  Session session;
+  session.open();
+  const Command& undo = *FindCommand(11844);
+  session.editor.settings().undo_levels = 5;
+  session.run("CM_SELECT_ALL");
+  EXPECT_FALSE(session.editor.isEnabled(undo));
+  EXPECT_EQ(session.editor.labelOf(undo), "&Undo...");
+  session.run("CM_DELETE");
+  EXPECT_EQ(session.editor.labelOf(undo), "&Undo Delete...");
+  EXPECT_EQ(session.current().brushCount(), 0);
+  session.run("11844");
+  EXPECT_EQ(session.editor.status(), "Undo...");
+  EXPECT_EQ(session.current().brushCount(), 3);
+  session.run("CM_REDO");
+  EXPECT_EQ(session.current().brushCount(), 0);
+
+  session.editor.settings().undo_levels = 1;
+  session.run("11844");
+  session.run("CM_DELETE");
+  EXPECT_FALSE(session.editor.isEnabled(undo));
+}
+
 }  // namespace
 }  // namespace velk

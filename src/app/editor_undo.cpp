@@ -1,0 +1,80 @@
+// Undo and the clipboard.
+#include "app/editor.h"
+#include "base/text.h"
+#include "model/clipboard.h"
+
+namespace velk {
+namespace {
+
+constexpr int kUndo = 11844;
+constexpr int kRedo = 1100;
+
+std::string named(const char* verb, const std::string& name) {
+  return name.empty() ? Format("&%s...", verb) : Format("&%s %s...", verb, name.c_str());
+}
+
+}  // namespace
+
+std::string Editor::labelOf(const Command& command) const {
+  const UndoHistory* history = current() ? &current()->history : nullptr;
+  if (command.id == kUndo) return named("Undo", history ? history->undoName() : "");
+  if (command.id == kRedo) return named("Redo", history ? history->redoName() : "");
+  return command.label;
+}
+
+void Editor::beginChange() {
+  before_.reset();
+  changing_ = settings_.undo_levels > 1 ? current() : nullptr;
+  if (changing_) before_ = TakeSnapshot(current()->model);
+}
+
+// Undo, redo and the closing of the map itself take the beginning back.
+void Editor::endChange(const std::string& name) {
+  if (!before_ || !changing_ || current() != changing_) return;
+  MapSnapshot before = std::move(*before_);
+  before_.reset();
+  MapDocument& document = *current();
+  if (SameContents(before, TakeSnapshot(document.model, &before))) return;
+  document.history.changed(std::move(before), name, settings_.undo_levels);
+}
+
+void Editor::saveUndo(const std::string& name, UndoMode mode) {
+  if (current()) current()->history.save(current()->model, name, mode, settings_.undo_levels);
+}
+
+void Editor::undo() {
+  before_.reset();
+  if (!current() || !current()->history.undo(current()->model, settings_.undo_levels)) return;
+  showCurrent();
+  postStatus("Undo...");
+}
+
+void Editor::redo() {
+  before_.reset();
+  if (!current() || !current()->history.redo(current()->model)) return;
+  showCurrent();
+  postStatus("Redo...");
+}
+
+void Editor::copySelection() {
+  if (!currentMap()) return;
+  clipboard_ = std::make_unique<map>(settings_, classes_, &counters_);
+  CopySelection(*currentMap(), *clipboard_);
+  postStatus("Selection copied...");
+}
+
+void Editor::pasteClipboard() {
+  if (!currentMap() || !clipboard_) return;
+  PasteClipboard(*currentMap(), *clipboard_, 0, PasteOffset(settings_));
+  flagAllViews();
+  postStatus("Selection pasted...");
+}
+
+void Editor::cloneSelection() {
+  if (!currentMap()) return;
+  CloneSelection(*currentMap(), PasteOffset(settings_));
+  flagAllViews();
+  postStatus("Selection cloned...");
+}
+
+}  // namespace velk
