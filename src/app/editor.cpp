@@ -140,4 +140,13 @@ void Editor::requestExit() {
   observer_.exitRequested();
 }
 
+void Editor::settingsChanged(const Settings& before) {
+  if (before.texture_alignment == settings_.texture_alignment) return;
+  for (const auto& document : documents_) {
+    for (entity& e : document->model.entities()) {
+      for (brush& b : e.brushes()) b.buildWindings();
+    }
+  }
+}
+
 }  // namespace velk

@@ -99,6 +99,10 @@ class Editor {
   // "[Velk - <path>]"
   std::string title() const;
 
+  // After the settings were changed by a dialog: what depends on them follows. A texture alignment other
+  // than `before` gives every face new texture coordinates.
+  void settingsChanged(const Settings& before);
+
   // Status line. With `redraw` the pending redraws are carried out.
   void postStatus(const std::string& text, bool redraw = true);
   const std::string& status() const { return status_; }

@@ -165,6 +165,12 @@ void renderQuality(Editor& editor) {
 // The check mark of rows whose state does not exist yet.
 inline bool never(const Editor&) { return false; }
 
+// The settings dialogs.
+void preferences(Editor& editor);
+void colours(Editor& editor);
+void directories(Editor& editor);
+void mouseSettings(Editor& editor);
+
 // Undo and the clipboard.
 void saveForUndo(Editor& editor);
 void undoChange(Editor& editor);

@@ -85,6 +85,7 @@ struct ScriptRunner::Instruction {
 const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
   static const std::vector<Instruction> all{
       {"answer", 1, 99, "answer TEXT", &ScriptRunner::answer},
+      {"set", 2, 99, "set FIELD VALUE", &ScriptRunner::set},
       {"key", 1, 1, "key TEXT", &ScriptRunner::key},
       {"size", 3, 3, "size VIEW W H", &ScriptRunner::size},
       {"press", 4, 7, "press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::press},
@@ -147,6 +148,12 @@ void ScriptRunner::answer(const Words& words) {
   std::vector<std::string> texts;
   for (const ScriptWord& word : words) texts.push_back(word.text);
   prompts_.queue(std::move(texts), words[0].quoted);
+}
+
+void ScriptRunner::set(const Words& words) {
+  std::string value = words[1].text;
+  for (size_t i = 2; i < words.size(); ++i) value += ' ' + words[i].text;
+  prompts_.set(words[0].text, value);
 }
 
 void ScriptRunner::key(const Words& words) {

@@ -55,6 +55,7 @@ class ScriptRunner {
   void perform(const Words& words);
   void runCommand(const Words& words);
   void answer(const Words& words);
+  void set(const Words& words);
   void key(const Words& words);
   void size(const Words& words);
   void press(const Words& words);

@@ -106,4 +106,19 @@ std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) 
   return Colour{channel(0), channel(1), channel(2)};
 }
 
+FormAnswer ScriptPrompts::fill(Form& form) {
+  const Queued given = take("form", form.title, "");
+  for (const auto& [name, value] : std::exchange(sets_, {})) {
+    const auto field =
+        std::find_if(form.fields.begin(), form.fields.end(),
+                     [&, &wanted = name](const FormField& f) { return EqualNoCase(f.name, wanted); });
+    if (field == form.fields.end()) failPrompt("no such field in", form.title, name);
+    field->value = value;
+  }
+  if (given.words[0] == "ok") return FormAnswer::Ok;
+  if (given.words[0] == "save" && !form.saveLabel.empty()) return FormAnswer::Save;
+  if (given.words[0] == "cancel") return FormAnswer::Cancel;
+  failPrompt("the answer is none of the buttons of", form.title, "");
+}
+
 }  // namespace velk

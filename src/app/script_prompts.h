@@ -4,6 +4,7 @@
 #include <deque>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/prompts.h"
@@ -34,6 +35,10 @@ class ScriptPrompts : public Prompts {
   std::vector<std::string> chooseFiles(const FileChooser& chooser) override;
   std::optional<std::string> input(const TextInput& input) override;
   std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
+  FormAnswer fill(Form& form) override;
+
+  // The value of a field of the next form to be filled.
+  void set(const std::string& field, const std::string& value) { sets_.emplace_back(field, value); }
 
  private:
   struct Queued {
@@ -45,6 +50,7 @@ class ScriptPrompts : public Prompts {
   Queued take(const char* kind, const std::string& caption, const std::string& text);
 
   std::deque<Queued> answers_;
+  std::vector<std::pair<std::string, std::string>> sets_;
   std::vector<std::string> log_;
 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/colour.h"
+#include "base/form.h"
 
 namespace velk {
 
@@ -51,6 +52,8 @@ class Prompts {
   virtual std::vector<std::string> chooseFiles(const FileChooser& chooser) = 0;
   virtual std::optional<std::string> input(const TextInput& input) = 0;
   virtual std::optional<Colour> chooseColour(const ColourChooser& chooser) = 0;
+  // Fills in the form's values; on Cancel they mean nothing.
+  virtual FormAnswer fill(Form& form) = 0;
 
   // The one chosen path, or none.
   std::optional<std::string> chooseFile(const FileChooser& chooser) {

@@ -33,4 +33,6 @@ std::optional<Colour> PicturePrompts::chooseColour(const ColourChooser& chooser)
   refuse(chooser.title, "");
 }
 
+FormAnswer PicturePrompts::fill(Form& form) { refuse(form.title, ""); }
+
 }  // namespace velk

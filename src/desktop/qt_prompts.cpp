@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include "base/text.h"
+#include "desktop/form_dialog.h"
 
 namespace velk {
 namespace {
@@ -117,6 +118,11 @@ std::optional<Colour> QtPrompts::chooseColour(const ColourChooser& chooser) {
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QColor chosen = dialog.currentColor();
   return Colour{chosen.red(), chosen.green(), chosen.blue()};
+}
+
+FormAnswer QtPrompts::fill(Form& form) {
+  FormDialog dialog(form, paths_, owner_);
+  return dialog.run();
 }
 
 }  // namespace velk

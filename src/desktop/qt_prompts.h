@@ -19,6 +19,7 @@ class QtPrompts : public Prompts {
   std::vector<std::string> chooseFiles(const FileChooser& chooser) override;
   std::optional<std::string> input(const TextInput& input) override;
   std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
+  FormAnswer fill(Form& form) override;
 
  private:
   QWidget* owner_ = nullptr;

@@ -44,6 +44,11 @@ class ScriptedPrompts : public Prompts {
     return next<Colour>(chooser.title, "");
   }
 
+  FormAnswer fill(Form& form) override {
+    return next<Answer>(form.title, "").value_or(Answer::Cancel) == Answer::Ok ? FormAnswer::Ok
+                                                                               : FormAnswer::Cancel;
+  }
+
   size_t unused() const { return queue_.size(); }
 
   // Every prompt so far as "caption|text", and as it was given, by kind.
