@@ -124,10 +124,10 @@ constexpr SettingKey kKeys[] = {
     {"select_delay", Form::Number, &S::select_delay, atLeast(0)},
     {"start_set->scale", Form::Number, &S::start_set_scale, atLeast(1), SavedBy::Preferences, 18},
     {"grid_style", Form::Number, &S::grid_style, kAny},
-    {"wheel_zoom", Form::Flag, &S::wheel_zoom},
-    {"middle_drag", Form::Flag, &S::middle_drag},
+    {"wheel_zoom", Form::Flag, &S::wheel_zoom, kNone, SavedBy::Preferences, 36},
+    {"middle_drag", Form::Flag, &S::middle_drag, kNone, SavedBy::Preferences, 37},
     {"window_quality", Form::Flag, &S::window_quality},
-    {"undo_levels", Form::Number, &S::undo_levels, {1, 1000}},
+    {"undo_levels", Form::Number, &S::undo_levels, {1, 1000}, SavedBy::Preferences, 38},
 
     {"fgcolor", Form::Rgb, &ViewColours::fgcolor, kNone, SavedBy::Colours, 1, Section::VelkColors},
     {"bgcolor", Form::Rgb, &ViewColours::bgcolor, kNone, SavedBy::Colours, 2, Section::VelkColors},

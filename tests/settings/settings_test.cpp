@@ -125,7 +125,7 @@ TEST(SettingsTest, DialogsSaveTheirKeysInOrder) {
   StoreColours(settings, colours);
   StoreDirectories(settings, directories);
   const std::vector<std::string> preferenceKeys = KeysOf(preferences);
-  ASSERT_EQ(preferenceKeys.size(), 36u);
+  ASSERT_EQ(preferenceKeys.size(), 39u);
   EXPECT_EQ(preferenceKeys[1], "drag_vertex");
   EXPECT_EQ(preferenceKeys[18], "start_set->scale");
   EXPECT_EQ(preferenceKeys[35], "lock_cameras");
