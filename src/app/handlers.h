@@ -17,6 +17,7 @@ void nextMap(Editor& editor);
 void previousMap(Editor& editor);
 void reloadClasses(Editor& editor);
 void about(Editor& editor);
+void help(Editor& editor);
 
 // Selection.
 void selectAll(Editor& editor);

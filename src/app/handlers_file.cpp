@@ -88,4 +88,6 @@ void about(Editor& editor) {
                         .icon = MessageBox::Icon::Information});
 }
 
+void help(Editor& editor) { editor.observer().helpRequested(); }
+
 }  // namespace velk::commands

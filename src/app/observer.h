@@ -26,6 +26,8 @@ class Observer {
   // The user asked for the window that replaces textures, which stays open beside the others. False when
   // there is none: the texts are asked for one after the other instead.
   virtual bool showReplaceTexture() { return false; }
+  // The user asked for the manual.
+  virtual void helpRequested() {}
   // The user asked to exit and gave no Cancel.
   virtual void exitRequested() {}
 };

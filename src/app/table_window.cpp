@@ -67,7 +67,7 @@ const Command kRows[] = {
     {.id = 162, .name = "CM_ABOUT", .menu = "&Help", .label = "&About...", .hint = "About Velk...",
      .run = about},
     {.id = 163, .menu = "&Help", .label = "&Help", .hint = "Help with Velk",
-     .reason = "not built yet: the manual"},
+     .run = help},
 };
 // clang-format on
 

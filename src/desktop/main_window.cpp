@@ -167,6 +167,11 @@ void TVelkWindow::mapsChanged() {
   if (camera_) camera_->showTitle();
 }
 
+void TVelkWindow::helpRequested() {
+  if (!help_) help_ = new HelpWindow(this);
+  help_->showContents();
+}
+
 void TVelkWindow::exitRequested() {
   leaving_ = true;
   close();

@@ -9,6 +9,7 @@
 #include "app/editor.h"
 #include "desktop/camera_window.h"
 #include "desktop/child_windows.h"
+#include "desktop/help_window.h"
 #include "desktop/map_tabs.h"
 #include "desktop/plan_view_window.h"
 
@@ -41,6 +42,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void redrawCamera() override;
   void redrawPlanViews() override;
   void mapsChanged() override;
+  void helpRequested() override;
   void exitRequested() override;
 
   void buildCentre();
@@ -50,6 +52,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   Editor editor_;
   QMdiArea* area_;
   QLabel* message_;
+  HelpWindow* help_ = nullptr;  // made when first asked for
   MapTabs* tabs_ = nullptr;  // none when tabs are switched off
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};

@@ -17,7 +17,7 @@ TEST(Script, FailuresNameLineAndReason) {
   const std::vector<Failure> cases{
       {"CM_FILENEW\n\n// a comment\nCM_NOTHING\n", 4, "no such instruction or command: CM_NOTHING"},
       {"CM_FILESAVE", 1, "CM_FILESAVE is disabled"},
-      {"163", 1, "163 is disabled (not built yet: the manual)"},
+      {"24337", 1, "24337 is disabled (printing is not offered)"},
       {"CM_FILENEW now", 1, "a command stands alone on its line"},
       {"key Ctrl+F11", 1, "no command on the key Ctrl+F11"},
       {"CM_FILEOPEN", 1, R"(no answer for the prompt: "Select MAP File" "Map Files (*.map)|*.map|")"},

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QTextBrowser>
+
+namespace velk {
+
+// The manual in a window of its own. Its page of keys is made from the command table.
+class HelpWindow : public QTextBrowser {
+  Q_OBJECT
+ public:
+  explicit HelpWindow(QWidget* parent = nullptr);
+
+  // Shows the contents page.
+  void showContents();
+
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override;
+};
+
+}  // namespace velk
