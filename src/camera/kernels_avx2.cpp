@@ -18,9 +18,14 @@ struct Lanes {
   static Floats countFrom(int first) { return _mm256_cvtepi32_ps(_mm256_add_epi32(all(first), lanes())); }
   static Floats load(const float* from) { return _mm256_loadu_ps(from); }
   static void store(int* to, Ints value) { _mm256_store_si256(reinterpret_cast<__m256i*>(to), value); }
-  static void store(float* to, Mask where, Floats value, Floats) { _mm256_maskstore_ps(to, where, value); }
+  // Whole vectors are written: some machines take long over masked stores of this set.
+  static void store(float* to, Mask where, Floats value, Floats stored) {
+    _mm256_storeu_ps(to, _mm256_blendv_ps(stored, value, _mm256_castsi256_ps(where)));
+  }
   static void store(uint32_t* to, Mask where, uint32_t value) {
-    _mm256_maskstore_epi32(reinterpret_cast<int*>(to), where, all(static_cast<int>(value)));
+    __m256i* place = reinterpret_cast<__m256i*>(to);
+    _mm256_storeu_si256(place,
+                        _mm256_blendv_epi8(_mm256_loadu_si256(place), all(static_cast<int>(value)), where));
   }
 
   static Mask first(int count) { return _mm256_cmpgt_epi32(all(count), lanes()); }

@@ -1,0 +1,1 @@
+velk_bench(camera SOURCES camera_bench.cpp USES mapfile)
