@@ -6,7 +6,7 @@ namespace velk {
 
 namespace {
 
-constexpr int kTextHeight = 11;  // pixels
+constexpr int kTextHeight = 10;  // pixels
 constexpr int kTextLeft = 3;     // of a field's text
 constexpr int kTextRight = 2;    // kept free of it, the divider included
 constexpr int kMenuTop = 13;     // pop-up menus open that far below the view's top edge
