@@ -15,6 +15,9 @@ namespace {
 
 const std::string kNoValue;
 
+// From here on looking through all pairs takes longer than an index.
+constexpr size_t kManyPairs = 64;
+
 constexpr std::string_view kBlanks = " \t\n\v\f\r";
 
 // Reads the next number and takes it off `text`; false at the end or at anything else.
@@ -84,27 +87,34 @@ void entity::setKey(std::string_view key, std::string_view value) {
   if (value.size() >= MAX_VALUE) Error("setKey: %s > MAX_VALUE", std::string(value).c_str());
   key = WithoutLeadingBlanks(key);
   if (key.empty()) return;
-  for (KeyPair& pair : pairs_) {
-    if (pair.key == key) {
-      pair.value = value;
-      return;
-    }
+  if (const size_t place = placeOf(key); place < pairs_.size()) {
+    pairs_[place].value = value;
+  } else {
+    pairs_.push_back({std::string(key), std::string(value)});
   }
-  pairs_.push_back({std::string(key), std::string(value)});
 }
 
 void entity::removeKeyPair(std::string_view key) {
   if (pairs_.empty()) return;
+  places_.clear();
   if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) == 0) {
     std::printf("WARNING: removeKeyPair: %s not found\n", std::string(key).c_str());
   }
 }
 
 const std::string& entity::valueOfKey(std::string_view key) const {
-  for (const KeyPair& pair : pairs_) {
-    if (pair.key == key) return pair.value;
+  const size_t place = placeOf(key);
+  return place < pairs_.size() ? pairs_[place].value : kNoValue;
+}
+
+size_t entity::placeOf(std::string_view key) const {
+  if (pairs_.size() < kManyPairs) {
+    const auto found = std::ranges::find(pairs_, key, &KeyPair::key);
+    return static_cast<size_t>(found - pairs_.begin());
   }
-  return kNoValue;
+  for (size_t i = places_.size(); i < pairs_.size(); ++i) places_.emplace(pairs_[i].key, i);
+  const auto found = places_.find(std::string(key));
+  return found == places_.end() ? pairs_.size() : found->second;
 }
 
 vec3 entity::vectorOfKey(std::string_view key) const {

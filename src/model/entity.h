@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -91,9 +92,14 @@ class entity {
 
  private:
   friend class map;
+  // Where the key's pair is in `pairs_`; its size when there is none.
+  size_t placeOf(std::string_view key) const;
+
   map* parent_;
   std::vector<std::unique_ptr<brush>> brushes_;
   std::vector<KeyPair> pairs_;   // oldest first
+  // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.
+  mutable std::unordered_map<std::string, size_t> places_;
   std::shared_ptr<const int> identity_;
 };
 

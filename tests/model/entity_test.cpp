@@ -58,6 +58,21 @@ TEST(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "WARNING: removeKeyPair: target not found\n");
 }
 
+TEST(PairTest, ManyPairsAreFoundChangedAndRemovedAsFewAre) {
+  TestMap t;
+  entity& e = t.world();
+  const auto key = [](int i) { return "key" + std::to_string(i); };
+  for (int i = 0; i < 200; ++i) e.setKey(key(i), std::to_string(i));
+  e.setKey(key(7), "changed");
+  e.removeKeyPair(key(3));
+  e.setKey(key(3), "back");
+  EXPECT_EQ(e.valueOfKey(key(7)), "changed");
+  EXPECT_EQ(e.valueOfKey(key(199)), "199");
+  EXPECT_EQ(e.valueOfKey("key200"), "");
+  EXPECT_EQ((*e.pairs().begin()).key, key(3));
+  EXPECT_EQ(std::ranges::distance(e.pairs()), 202);
+}
+
 TEST(PairTest, VectorsKeepMissingComponentsAtZero) {
   TestMap t;
   entity& e = t.addEntity("func_door");
