@@ -1,11 +1,14 @@
 #include "app/windows.h"
 
 #include <algorithm>
+#include <span>
 
 namespace velk {
 namespace {
 
 constexpr std::int32_t kRecordLength = 44;
+// Beyond any screen; keeps what a damaged file says within what a window can be.
+constexpr std::int32_t kFarthest = 8192;
 
 size_t indexOf(ToolWindow window) { return static_cast<size_t>(window); }
 
@@ -44,13 +47,17 @@ ShowState stateOf(std::int32_t value) {
   return value == 2 || value == 3 ? static_cast<ShowState>(value) : ShowState::Normal;
 }
 
+void takeCoordinates(Integers& from, std::span<std::int32_t> coordinates) {
+  for (std::int32_t& value : coordinates) value = std::clamp(from.next(), -kFarthest, kFarthest);
+}
+
 WindowPlacement takePlacement(Integers& from) {
   WindowPlacement placement;
   placement.flags = from.next();
   placement.state = stateOf(from.next());
-  for (std::int32_t& value : placement.minimised) value = from.next();
-  for (std::int32_t& value : placement.maximised) value = from.next();
-  for (std::int32_t& value : placement.normal) value = from.next();
+  takeCoordinates(from, placement.minimised);
+  takeCoordinates(from, placement.maximised);
+  takeCoordinates(from, placement.normal);
   return placement;
 }
 

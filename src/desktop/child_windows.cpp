@@ -108,7 +108,8 @@ void ChildWindows::arrangeIcons() {
 }
 
 bool ChildWindows::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == area_.viewport() && event->type() == QEvent::Resize) {
+  // The type first: while the area is destroyed, other events come that find no viewport to ask for.
+  if (event->type() == QEvent::Resize && watched == area_.viewport()) {
     const auto* resized = static_cast<QResizeEvent*>(event);
     keepShares(resized->oldSize(), resized->size());
   }

@@ -1,9 +1,10 @@
 #include "textures/colormap.h"
 
-#include <fstream>
+#include <algorithm>
 #include <optional>
 
 #include "base/error.h"
+#include "base/files.h"
 
 namespace velk {
 namespace {
@@ -27,10 +28,9 @@ std::unique_ptr<ColormapTable> loadColormap(const WadServices& services) {
   if (!services.paths.exists(path)) Error("Invalid colormap.lmp file.");
 
   auto table = std::make_unique<ColormapTable>();
-  std::ifstream file(services.paths.native(path), std::ios::binary);
-  std::array<char, std::tuple_size_v<ColormapTable>> bytes{};
-  if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return nullptr;
-  std::copy(bytes.begin(), bytes.end(), table->begin());
+  const std::string bytes = ReadFile(services.paths.native(path)).contents;
+  if (bytes.size() < table->size()) return nullptr;
+  std::copy_n(bytes.begin(), table->size(), table->begin());
   return table;
 }
 

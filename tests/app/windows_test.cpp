@@ -29,13 +29,16 @@ TEST(Windows, FirstLayoutShowsEveryWindowBesideTheOthers) {
 TEST(Windows, ArrangementsKeepTheirFourSlotsInTheFile) {
   Arrangements saved;
   saved.slots[1][3].state = ShowState::Minimised;
-  saved.slots[1][3].normal = {-5, 6, 700, 80000};
+  saved.slots[1][3].normal = {-5, 6, 700, 8000};
   saved.slots[3][7].minimised = {1, 2};
   EXPECT_EQ(saved.bytes().size(), Arrangements::kFileSize);
   const auto read = Arrangements::Parse(saved.bytes());
   ASSERT_TRUE(read);
   EXPECT_TRUE(read->loaded);
   EXPECT_EQ(read->slots, saved.slots);
+  saved.slots[1][3].normal = {INT32_MIN, 6, INT32_MAX, 8000};
+  const WindowPlacement bounded = Arrangements::Parse(saved.bytes())->slots[1][3];
+  EXPECT_EQ(bounded.normal, (std::array<std::int32_t, 4>{-8192, 6, 8192, 8000}));
   EXPECT_FALSE(Arrangements::Parse(saved.bytes().substr(1)));
   EXPECT_FALSE(Arrangements::Parse(std::string(Arrangements::kFileSize, '\0')));
 }
