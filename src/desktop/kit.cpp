@@ -16,4 +16,11 @@ std::filesystem::path FindKit() {
 
 EditorPlace FindEditorPlace() { return FindPlace(CurrentSurroundings(), FindKit()); }
 
+std::string KitMap(const EditorPlace& place) {
+  const char* const name = "start.map";
+  std::error_code ignored;
+  const bool copied = std::filesystem::exists(place.home / name, ignored);
+  return ((copied ? place.home : FindKit()) / name).string();
+}
+
 }  // namespace velk

@@ -12,4 +12,7 @@ std::filesystem::path FindKit();
 // Velk's home for this run; on a first start the kit is copied there.
 EditorPlace FindEditorPlace();
 
+// The map of the starter kit: the user's own copy, or the kit's when that is gone.
+std::string KitMap(const EditorPlace& place);
+
 }  // namespace velk

@@ -64,7 +64,18 @@ std::vector<std::string> textsOf(const QStringList& list) {
   return texts;
 }
 
-int runWindow(const std::vector<std::string>& maps) {
+// What the command line says.
+struct Request {
+  std::vector<std::string> maps;
+  bool kit = false;
+
+  void open(TVelkWindow& window) const {
+    window.openFiles(maps);
+    if (kit) window.openFiles({KitMap(window.editor().place())});
+  }
+};
+
+int runWindow(const Request& request) {
   QtPrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setOwner(&window);
@@ -73,16 +84,16 @@ int runWindow(const std::vector<std::string>& maps) {
   const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
   window.show();
   window.editor().offerRescueCopies();
-  window.openFiles(maps);
+  request.open(window);
   return QApplication::exec();
 }
 
-int runPicture(const std::vector<std::string>& maps, const QString& picture) {
+int runPicture(const Request& request, const QString& picture) {
   PicturePrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setSettings(&window.editor().settings());
   window.start();
-  window.openFiles(maps);
+  request.open(window);
   window.show();
   if (window.savePicture(picture)) return 0;
   std::fprintf(stderr, "velk: couldn't write %s\n", qPrintable(picture));
@@ -96,6 +107,8 @@ int runProgram(QApplication& application) {
   parser.addVersionOption();
   const QCommandLineOption script("script", "Run the editor unattended on a script.", "file");
   const QCommandLineOption picture("picture", "Write a picture of the main window and end.", "file");
+  const QCommandLineOption kit("kit", "Open the map of the starter kit.");
+  parser.addOption(kit);
   parser.addOption(script);
   parser.addOption(picture);
   parser.addPositionalArgument("map", "Maps to open.", "[map...]");
@@ -105,12 +118,13 @@ int runProgram(QApplication& application) {
   }
   if (parser.isSet("help")) parser.showHelp(0);
   if (parser.isSet("version")) parser.showVersion();
-  const std::vector<std::string> maps = textsOf(parser.positionalArguments());
+  const Request request{textsOf(parser.positionalArguments()), parser.isSet(kit)};
   const bool unattended = parser.isSet(script) || parser.isSet(picture);
   SetErrorHandler(unattended ? failOnStandardError : failInBox);
-  if (parser.isSet(script)) return RunScriptFile(parser.value(script).toLocal8Bit().toStdString(), maps);
-  if (parser.isSet(picture)) return runPicture(maps, parser.value(picture));
-  return runWindow(maps);
+  if (parser.isSet(script))
+    return RunScriptFile(parser.value(script).toLocal8Bit().toStdString(), request.maps);
+  if (parser.isSet(picture)) return runPicture(request, parser.value(picture));
+  return runWindow(request);
 }
 
 }  // namespace
