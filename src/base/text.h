@@ -41,9 +41,9 @@ bool StartsWithNoCase(std::string_view text, std::string_view prefix);
 // The pieces between the separators, empty ones kept; an empty text gives no pieces.
 std::vector<std::string> Split(std::string_view text, char separator);
 
-// Nearest integer, halves away from zero.
+// Nearest integer, halves away from zero; never -0, which would be shown as such.
 inline double RoundHalfAway(double value) {
-  return value < 0 ? std::ceil(value - 0.5) : std::floor(value + 0.5);
+  return value < 0 ? std::ceil(value - 0.5) + 0.0 : std::floor(value + 0.5);
 }
 // Nearest multiple of step (at least 1), halves away from zero.
 inline double Snap(double value, int step) { return RoundHalfAway(value / step) * step; }

@@ -96,6 +96,7 @@ TEST(TextTest, Rounding) {
     EXPECT_EQ(Snap(c.value, 8), c.snapped8) << c.value;
     EXPECT_EQ(Truncate(c.value), c.truncated) << c.value;
   }
+  EXPECT_FALSE(std::signbit(Snap(-3, 8))) << "shown as 0, not -0";
   EXPECT_EQ(Truncate(1e300), INT_MAX);
   EXPECT_EQ(Truncate(-1e300), INT_MIN);
   EXPECT_EQ(Truncate(std::nan("")), 0);
