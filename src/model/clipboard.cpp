@@ -1,17 +1,21 @@
 #include "model/clipboard.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string>
 
 #include "base/text.h"
 
 namespace velk {
 namespace {
 
-// "t<n>" as a number; -1 for other names.
-int targetNumber(std::string_view name) { return name.starts_with('t') ? TextToInt(name.substr(1)) : -1; }
+// "t<n>" as a number, one that leaves room for sums; -1 for other names.
+std::int64_t targetNumber(std::string_view name) {
+  return name.starts_with('t') ? TextToInt(name.substr(1)) : -1;
+}
 
-int largestTargetNumber(map& m) {
-  int largest = 0;
+std::int64_t largestTargetNumber(map& m) {
+  std::int64_t largest = 0;
   for (int i = 1; i < m.numentities(); ++i) {
     largest = std::max(largest, targetNumber(m.at(i)->valueOfKey("targetname")));
   }
@@ -45,9 +49,9 @@ void dropDanglingTargets(map& clipboard) {
   }
 }
 
-void renumber(entity& e, const char* key, int base) {
-  const int number = targetNumber(e.valueOfKey(key));
-  if (number >= 0) e.setKey(key, Format("t%i", number + base));
+void renumber(entity& e, const char* key, std::int64_t base) {
+  const std::int64_t number = targetNumber(e.valueOfKey(key));
+  if (number >= 0) e.setKey(key, "t" + std::to_string(number + base));
 }
 
 }  // namespace
@@ -77,7 +81,7 @@ void CopySelection(map& from, map& clipboard) {
 void PasteClipboard(map& to, map& clipboard, int group, const vec3& offset) {
   entity* current = to.currentEntity();
   to.MGPerform(Method::Deselect);
-  const int base = 1 + largestTargetNumber(to);
+  const std::int64_t base = 1 + largestTargetNumber(to);
   for (const brush& b : clipboard.world()->brushes()) {
     brush& pasted = to.world()->addobject(copyInto(*to.world(), b, offset));
     pasted.selected = true;

@@ -57,6 +57,10 @@ TEST_F(ClipboardTest, PasteRenumbersPastTheMapAndMovesByTheOffset) {
   EXPECT_FALSE(t.world().at(0)->selected);
   EXPECT_EQ(t.m.totalSelected(), 3);
   EXPECT_TRUE(t.m.worldIsCurrent());
+
+  t.m.at(5)->setKey("targetname", "t2147483647");
+  PasteClipboard(t.m, clipboard, 0, {});
+  EXPECT_EQ(t.m.at(6)->valueOfKey("targetname"), "t2147483649");
 }
 
 TEST_F(ClipboardTest, CloneTakesEntitiesWholeAndTheSelectionAlong) {
