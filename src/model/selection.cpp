@@ -89,10 +89,11 @@ RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFir
   return pick;
 }
 
-bool Connect(map& m, const vec3& start, const vec3& end) {
+bool Connect(map& m, const vec3& start, const vec3& end, RayPick* picked) {
   entity* from = m.currentEntity();
   if (!from || from->isWorld()) return false;
-  selectByRay(m, start, end, true);
+  const RayPick pick = selectByRay(m, start, end, true);
+  if (picked) *picked = pick;
   entity* to = m.currentEntity();
   if (to == from || to->isWorld()) return false;
   from->setKey("target", to->makeTargetName());

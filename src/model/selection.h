@@ -24,7 +24,8 @@ struct RayPick {
 // entitiesFirst, world brushes count only when no other entity's was hit. Fills the hit list.
 RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFirst);
 
-// Links the current entity to the one picked: "target" and "targetname". True when linked.
-bool Connect(map& m, const vec3& start, const vec3& end);
+// Links the current entity to the one picked: "target" and "targetname". True when linked. `picked`, when
+// given, tells what the pick found.
+bool Connect(map& m, const vec3& start, const vec3& end, RayPick* picked = nullptr);
 
 }  // namespace velk

@@ -140,7 +140,10 @@ TEST(ConnectTest, LinksTheCurrentEntityToThePicked) {
   entity& button = t.addEntity("func_button");
   EXPECT_FALSE(Connect(t.m, kStart, kEnd)) << "the world is current";
   t.m.setCurrentEntity(&button);
-  EXPECT_TRUE(Connect(t.m, kStart, kEnd));
+  RayPick picked;
+  EXPECT_TRUE(Connect(t.m, kStart, kEnd, &picked));
+  EXPECT_EQ(picked.hit, door.at(0));
+  EXPECT_TRUE(picked.firstOfSelection);
   EXPECT_EQ(button.valueOfKey("target"), "t1");
   EXPECT_EQ(door.valueOfKey("targetname"), "t1");
   EXPECT_EQ(t.m.currentEntity(), &door);
