@@ -87,7 +87,8 @@ class entity {
   void setClass(std::string_view classname);
   // Adds the box of the entity's class at `origin`, 16 units a side for an unknown class.
   void makeClassBox(const vec3& origin);
-  // "origin" of a fixed-size entity: its box's mins less the class mins, truncated.
+  // "origin" of a fixed-size entity: its box's mins less the class mins, truncated; the box's mins when the
+  // class is unknown.
   void updateOriginFromBox();
 
  private:

@@ -17,9 +17,11 @@ Box ClassBox(const entity& e) {
   return {{found.mins[0], found.mins[1], found.mins[2]}, {found.maxs[0], found.maxs[1], found.maxs[2]}};
 }
 
-// Where the class box of `e` must be put to start at `mins`, in whole units.
+// Where the class box of `e` must be put to start at `mins`, in whole units; `mins` itself for a class
+// without a size.
 vec3 OriginFor(const entity& e, const vec3& mins) {
-  const vec3 offset = subtract(mins, ClassBox(e).mins);
+  const EntityClass& found = e.entityClass();
+  const vec3 offset = subtract(mins, {found.mins[0], found.mins[1], found.mins[2]});
   return {float(Truncate(offset.x)), float(Truncate(offset.y)), float(Truncate(offset.z))};
 }
 
