@@ -59,8 +59,12 @@ int entity::indexOf(const brush* b) const {
   return found == brushes_.end() ? -1 : int(found - brushes_.begin());
 }
 
-brush& entity::addobject(std::unique_ptr<brush> added) {
+void entity::requireRoom() const {
   if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
+}
+
+brush& entity::addobject(std::unique_ptr<brush> added) {
+  requireRoom();
   added->owner = this;
   brushes_.push_back(std::move(added));
   return *brushes_.back();

@@ -26,10 +26,10 @@ MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> se
   if (!m.world() || !m.worldIsCurrent()) return {};
   const EntityClass& found = m.classes().findByName(classname);
   const bool fixedSize = m.classes().isKnown(found) && found.fixedSize;
-  if (m.selectedCount() == 0) {
-    if (!fixedSize) return {EntityMaking::NeedsSeed, nullptr};
-    AddSeed(m, seedAt.value_or(m.activeCamera().origin));
-  }
+  const bool seeded = m.selectedCount() > 0;
+  if (!seeded && !fixedSize) return {EntityMaking::NeedsSeed, nullptr};
+  m.requireRoom();
+  if (!seeded) AddSeed(m, seedAt.value_or(m.activeCamera().origin));
 
   auto made = std::make_unique<entity>(m);
   made->setClass(classname);

@@ -28,8 +28,12 @@ int map::indexOf(const entity* e) const {
   return found == entities_.end() ? -1 : int(found - entities_.begin());
 }
 
-entity& map::addobject(std::unique_ptr<entity> added) {
+void map::requireRoom() const {
   if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
+}
+
+entity& map::addobject(std::unique_ptr<entity> added) {
+  requireRoom();
   entities_.push_back(std::move(added));
   modified = true;
   return *entities_.back();

@@ -25,6 +25,7 @@ std::unique_ptr<brush> RemoveFromEntity(brush& b) { return TakeOut(b, true); }
 
 void MoveToEntity(brush& b, entity& target) {
   if (b.owner && !b.owner->isModel && target.parent().settings().multi_select) return;
+  if (b.owner != &target) target.requireRoom();
   // A brush that is its target's only one must not take the target with it.
   std::unique_ptr<brush> moved = TakeOut(b, b.owner != &target);
   if (!moved) return;

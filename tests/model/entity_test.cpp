@@ -108,6 +108,11 @@ TEST(BrushListTest, HoldsAtMost4096) {
                "entity->addobject, too many objects");
   EXPECT_EQ(t.world().numbrushes(), MAX_ENTITY_BRUSHES);
   EXPECT_EQ(t.counters.brushesDestroyed, 1);
+
+  brush& stays = *t.addPoint("light", {0, 0, 0}).at(0);
+  t.settings.multi_select = false;
+  EXPECT_FATAL(MoveToEntity(stays, t.world()), "entity->addobject, too many objects");
+  EXPECT_EQ(t.m.at(1)->at(0), &stays) << "still there to be rescued";
 }
 
 TEST(BrushListTest, AnEmptiedEntityGoesButNotTheWorld) {
@@ -225,6 +230,8 @@ TEST(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
   e.makeClassBox({100, 0, 0});
   EXPECT_FALSE(e.isModel);
   EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
+  e.updateOriginFromBox();
+  EXPECT_EQ(e.valueOfKey("origin"), "92 -8 -8") << "no class mins to take off";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/builders.h"
+#include "support/fatal.h"
 
 namespace velk {
 namespace {
@@ -75,6 +76,17 @@ TEST(MakeEntityTest, ASelectionInHiddenGroupsMakesNoEmptyEntity) {
   EXPECT_EQ(MakeEntity(t.m, "func_door").outcome, EntityMaking::NeedsSeed);
   EXPECT_EQ(t.m.numentities(), 1);
   EXPECT_EQ(b.owner, &t.world());
+}
+
+TEST(MakeEntityTest, AFullMapKeepsTheSelectionInItsPlace) {
+  TestMap t;
+  brush& b = t.cube(0);
+  b.selected = true;
+  while (t.m.numentities() < MAX_ENTITIES) t.addEntity("func_door");
+  for (const char* classname : {"func_door", "light"}) {
+    EXPECT_FATAL(MakeEntity(t.m, classname), "map->addobject, too many brushes on entity...");
+    EXPECT_EQ(t.world().at(0), &b);
+  }
 }
 
 }  // namespace
