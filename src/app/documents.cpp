@@ -58,13 +58,18 @@ void Editor::showCurrent() {
   observer_.entityChanged();
 }
 
+// Without default wads there is no current texture until a map brings some.
+void Editor::offerFirstTexture(const MapDocument& from) {
+  if (textureBrowser_.current().name.empty()) textureBrowser_.takeFirstTexture(from.textures);
+}
+
 void Editor::newMap() {
   if (refuseEleventh("Velk - Cannot Open New Map")) return;
   auto made = makeDocument();
   made->model.initNew(settings_.default_wad);
   made->model.name = settings_.newmap;
   textureManager_.openMapWads(made->model, made->textures, wadProgress());
-  textureBrowser_.takeFirstTexture(made->textures);
+  offerFirstTexture(*made);
   addDocument(std::move(made));
   autosaveTicks_ = 0;
   postStatus(Format("Map [%s] created...", settings_.newmap.c_str()));
@@ -85,6 +90,7 @@ void Editor::openFile(const std::string& path) {
   made->model.name = path;
   made->model.favourites = read.favourites;
   textureManager_.openMapWads(made->model, made->textures, wadProgress());
+  offerFirstTexture(*made);
   addDocument(std::move(made));
   postStatus(Format("File [%s] processed...", path.c_str()));
 }

@@ -61,7 +61,9 @@ void Editor::checkBadtex() {
 
 void Editor::reloadClasses() {
   if (!currentMap()) return;
-  classes_.setSorted(settings_.sort_entities);
+  // No dialog sets it: who changes it in the file wants to see it without a restart.
+  settings_.sort_entities =
+      IniFile::Load(place_.home / "velk.ini").integer("Velk", "sort_entities", settings_.sort_entities) != 0;
   classes_.loadAll(settings_, paths_, prompts_);
   observer_.entityChanged();
   flagAllViews();

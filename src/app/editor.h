@@ -196,6 +196,7 @@ class Editor {
   bool refuseSave(const std::string& text, MessageBox::Icon icon);
   std::unique_ptr<MapDocument> makeDocument();
   MapReadOptions readOptions();
+  void offerFirstTexture(const MapDocument& from);
   void addDocument(std::unique_ptr<MapDocument> added);
   void noticed(const MapDocument& from, MapNotice what);
   void showCurrent();

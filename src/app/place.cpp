@@ -5,6 +5,9 @@
 #include <cstdlib>
 #include <system_error>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace velk {
 namespace {
 
@@ -17,6 +20,14 @@ constexpr std::array kPaths{&Settings::entity_qc_directory, &Settings::wad_direc
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value ? value : "";
+}
+
+// The system knows the user's folder where the environment does not.
+std::string userHome() {
+  const std::string home = environment("HOME");
+  if (!home.empty()) return home;
+  const passwd* user = getpwuid(getuid());
+  return user && user->pw_dir ? user->pw_dir : "/";
 }
 
 fs::path homeFolder(const Surroundings& around) {
@@ -61,8 +72,7 @@ bool isRelative(const std::string& path) {
 
 Surroundings CurrentSurroundings() {
   std::error_code ignored;
-  return {fs::current_path(ignored), environment("VELK_HOME"), environment("XDG_CONFIG_HOME"),
-          environment("HOME")};
+  return {fs::current_path(ignored), environment("VELK_HOME"), environment("XDG_CONFIG_HOME"), userHome()};
 }
 
 EditorPlace FindPlace(const Surroundings& surroundings, const fs::path& kit) {

@@ -18,7 +18,7 @@ struct Surroundings {
   std::filesystem::path workingDirectory;
   std::string velkHome;    // VELK_HOME
   std::string configHome;  // XDG_CONFIG_HOME
-  std::string userHome;    // HOME
+  std::string userHome;    // HOME, or the folder that the system gives the user
 };
 Surroundings CurrentSurroundings();
 

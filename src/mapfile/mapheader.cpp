@@ -113,6 +113,7 @@ void ReadGroups(Lines& lines, MapHeader& header) {
 
 void ReadFavourites(Lines& lines, MapHeader& header) {
   const int count = CountAfter(lines.take(), kFavourites);
+  header.hasFavourites = true;
   // Without a name the line is empty; files cut short go on with something else.
   if (!lines.peek().starts_with("//") || lines.peek().starts_with(kCamerasTag)) return;
   for (std::string& name : Split(lines.take().substr(2), ';')) {

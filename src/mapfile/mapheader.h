@@ -22,6 +22,7 @@ struct MapHeader {
   };
   std::vector<Group> groups;            // group 0 first
   std::vector<std::string> favourites;  // texture names
+  bool hasFavourites = false;           // the record is there, be it without names
   std::vector<camera> cameras;          // at most kCameras
   bool camerasComplete = false;         // there are some, and none failed to read
 };

@@ -278,8 +278,7 @@ MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name
   m.modified = false;
 
   Warn(reading.result, name);
-  header.favourites.resize(
-      std::min<size_t>(header.favourites.size(), static_cast<size_t>(std::max(0, m.settings().numfav))));
+  if (header.hasFavourites) header.favourites.resize(static_cast<size_t>(std::max(0, m.settings().numfav)));
   reading.result.favourites = std::move(header.favourites);
   reading.result.camerasRead = header.camerasComplete;
   return std::move(reading.result);

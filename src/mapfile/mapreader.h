@@ -29,7 +29,8 @@ struct MapReadOptions {
 
 // What a reading found beyond the map's entities.
 struct MapReadResult {
-  // Textures to look up for the map's favourites, at most settings.numfav.
+  // Textures to look up for the map's favourites: settings.numfav slots, the free ones empty. No slots when
+  // the file has no favourites record.
   std::vector<std::string> favourites;
   bool camerasRead = false;  // from the file; false: they stand at the player start, if there is one
   long entities = 0;

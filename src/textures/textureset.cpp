@@ -123,6 +123,7 @@ void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
   if (m.favourites.empty()) {
     for (int i = 0; i < std::min(slots, set.count()); ++i) favourites.push_back(set.at(i).texture->name);
   }
+  favourites.resize(static_cast<size_t>(slots));
   m.favourites = std::move(favourites);
 }
 

@@ -68,7 +68,7 @@ class TextureSet {
 };
 
 // Builds the map's set and settles its favourites: the ones it names that are in the set, or, when it
-// names none, the first numfav textures. Face caches are dropped. No memory is fatal "Couldn't allocate
+// has no slots yet, the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are dropped. No memory is fatal "Couldn't allocate
 // favorites...".
 void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
 

@@ -82,6 +82,44 @@ TEST(Documents, SaveWritesWhatWasOpened) {
   EXPECT_EQ(session.contents(path), first);
 }
 
+TEST(Documents, FavouritesAreTheNamedTexturesThatAreThere) {
+  Session session;
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "//VELKFAVORITES0010\r\n//FLOOR1;SKY1;WALL1\r\n"},
+      {"//VELKFAVORITES0010\n//none;wall1\n", "//VELKFAVORITES0010\r\n//WALL1\r\n"},
+      {"//VELKFAVORITES0010\n\n", "//VELKFAVORITES0010\r\n\r\n"},
+      {"//VELKFAVORITES0010\n//none\n", "//VELKFAVORITES0010\r\n\r\n"}};
+  for (const auto& [header, saved] : cases) {
+    const std::string path = session.home.write("favourites.map", header + test::SmallMapText());
+    session.editor.openFile(path);
+    session.run("CM_FILESAVE");
+    EXPECT_NE(session.contents(path).find(saved + "//VELKCAMERAS"), std::string::npos) << header;
+  }
+}
+
+TEST(Documents, TheCurrentTextureStaysWhateverIsOpened) {
+  Session session;
+  TextureBrowser& browser = session.editor.textureBrowser();
+  EXPECT_EQ(browser.current().name, "FLOOR1");
+  browser.setCurrent({.name = "WALL1"});
+  session.run("CM_FILENEW");
+  session.open();
+  EXPECT_EQ(browser.current().name, "WALL1");
+  browser.setCurrent({});
+  session.open();
+  EXPECT_EQ(browser.current().name, "FLOOR1") << "there was none";
+}
+
+TEST(Documents, ReloadingClassesReadsTheirOrderAgain) {
+  Session session;
+  session.open();
+  EXPECT_EQ(session.editor.classes().classAt(0).name, "func_wall");
+  session.home.write("velk.ini", "[Velk]\nsort_entities=0\n");
+  session.editor.reloadClasses();
+  EXPECT_EQ(session.editor.classes().classAt(0).name, "worldspawn");
+  EXPECT_EQ(session.editor.status(), "Entity list reloaded...");
+}
+
 TEST(Documents, UntitledMapAsksForItsName) {
   Session session;
   session.run("CM_FILENEW");

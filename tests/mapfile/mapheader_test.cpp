@@ -65,6 +65,7 @@ TEST(MapHeader, ShortAndOddHeadersKeepWhatReads) {
     const MapHeader header = ReadMapHeader(c.text);
     EXPECT_EQ(header.groups.size(), c.groups) << c.text;
     EXPECT_EQ(header.favourites.size(), c.favourites) << c.text;
+    EXPECT_EQ(header.hasFavourites, c.text.starts_with("//VELKFAVORITES")) << c.text;
     EXPECT_EQ(header.cameras.size(), c.cameras) << c.text;
     EXPECT_EQ(header.camerasComplete, c.camerasComplete) << c.text;
   }

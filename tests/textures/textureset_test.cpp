@@ -108,6 +108,9 @@ TEST_F(TextureSetTest, FavouritesAreTheMapsOrTheFirstOfTheSet) {
   open("a.wad");
   EXPECT_EQ(m.favourites, (Names{"+0C", "D"}));
   EXPECT_EQ(FavouriteAt(m, set, 1), set.find("d"));
+  m.favourites = {"none", "d"};
+  open("a.wad");
+  EXPECT_EQ(m.favourites, (Names{"D", ""}));
   EXPECT_EQ(FavouriteAt(m, set, 2), -1);
 
   m.favourites.clear();
