@@ -46,7 +46,14 @@ void Editor::noticed(const MapDocument& from, MapNotice what) {
 void Editor::addDocument(std::unique_ptr<MapDocument> added) {
   documents_.push_back(std::move(added));
   current_ = mapCount() - 1;
+  goToActiveCamera();
   showCurrent();
+}
+
+// The plan views show where the current map was last worked on.
+void Editor::goToActiveCamera() {
+  const map* m = currentMap();
+  if (m) setPlanCenter(planViews_, m, m->activeCamera().origin, settings_.lock_cameras);
 }
 
 // Every window shows the current map.
@@ -127,6 +134,7 @@ void Editor::closeDocument(int index) {
   std::swap(documents_[static_cast<size_t>(index)], documents_.back());
   documents_.pop_back();
   current_ = 0;
+  goToActiveCamera();
   showCurrent();
   if (mapCount() > 0) {
     postStatus("Map closed...");
@@ -139,6 +147,7 @@ void Editor::closeDocument(int index) {
 void Editor::setCurrentIndex(int index) {
   if (!document(index)) return;
   current_ = index;
+  goToActiveCamera();
   showCurrent();
   postStatus("Map switched...");
 }

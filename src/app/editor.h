@@ -199,6 +199,7 @@ class Editor {
   void offerFirstTexture(const MapDocument& from);
   void addDocument(std::unique_ptr<MapDocument> added);
   void noticed(const MapDocument& from, MapNotice what);
+  void goToActiveCamera();
   void showCurrent();
   void checkBadtex();
   void startTextures();

@@ -6,10 +6,17 @@ namespace {
 
 constexpr const char* kMapFilter = "Map Files (*.map)|*.map|";
 
+// Where the map's file is; for a new map, where maps are kept.
+std::string folderOf(const Editor& editor, const std::string& path) {
+  if (path == editor.settings().newmap) return editor.settings().map_directory;
+  const std::string folder = path.substr(0, path.size() - FileNamePart(path).size());
+  return folder.empty() ? "./" : folder;
+}
+
 bool saveAs(Editor& editor, MapDocument& document) {
   const auto path = editor.prompts().chooseFile({.title = "Output Map File",
                                                  .filter = kMapFilter,
-                                                 .directory = editor.settings().map_directory,
+                                                 .directory = folderOf(editor, document.model.name),
                                                  .fileName = FileNamePart(document.model.name),
                                                  .kind = FileChooser::Kind::Save});
   return path && editor.saveDocument(document, *path);

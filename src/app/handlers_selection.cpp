@@ -111,6 +111,7 @@ void nextHit(Editor& editor) { cycleHit(editor, 1, "Hit brush cycled up..."); }
 void previousHit(Editor& editor) { cycleHit(editor, -1, "Hit brush cycled down..."); }
 
 void saveForUndo(Editor& editor) {
+  if (!editor.currentMap()) return;
   editor.saveUndo("Saving for undo...", UndoMode::All);
   editor.postStatus("Saved for undo...");
 }

@@ -11,7 +11,7 @@ namespace {
 // clang-format off
 const Command kRows[] = {
     {.id = 11845, .menu = "&Edit", .label = "Save for Undo...", .hint = "Temp. cmd to Save...",
-     .when = When::MapOpen, .run = saveForUndo},
+     .run = saveForUndo},
     {.id = 11844, .menu = "&Edit", .label = "&Undo", .keyText = "Ctrl-Z", .keys = "Ctrl+Z",
      .hint = "Undo last change...", .when = When::UndoKept,
      .run = undoChange},
@@ -127,10 +127,10 @@ const Command kRows[] = {
      .reason = "not built yet: transforms"},
     {.id = 397, .name = "CM_FACE_TEXTURE", .menu = "&Edit|Set Te&xture", .label = "Set &Face Texture",
      .keyText = "Alt-F", .keys = "Alt+F", .hint = "Apply current texture to current face...",
-     .when = When::MapOpen, .run = setFaceTexture},
+     .run = setFaceTexture},
     {.id = 396, .name = "CM_BRUSH_TEXTURE", .menu = "&Edit|Set Te&xture", .label = "Set &Brush Texture",
      .keyText = "Alt-B", .keys = "Alt+B", .hint = "Apply current texture to brush...",
-     .when = When::MapOpen, .run = setBrushTexture},
+     .run = setBrushTexture},
     {.id = 278, .name = "CM_NEXT_FACE", .menu = "&Edit", .label = "Next Face", .keyText = "Numpad-9",
      .keys = "Num9", .hint = "Cycle through faces of selected brush...", .when = When::MapOpen,
      .run = nextFace},

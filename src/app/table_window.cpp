@@ -58,7 +58,7 @@ const Command kRows[] = {
      .hint = "Restore Selected Brush View", .when = When::MapOpen,
      .run = restore<ToolWindow::SelectedBrush>},
     {.id = 214, .name = "CM_NEXT_MAP", .menu = "&Window", .label = "&Next Map", .keyText = "Ctrl-+",
-     .keys = "Ctrl+=", .hint = "Switch to Next Map", .when = When::MapOpen, .run = nextMap},
+     .keys = "Ctrl+= Ctrl++", .hint = "Switch to Next Map", .when = When::MapOpen, .run = nextMap},
     {.id = 215, .name = "CM_PREVIOUS_MAP", .menu = "&Window", .label = "&Previous Map", .keyText = "Ctrl--",
      .keys = "Ctrl+-", .hint = "Switch to Previous Map", .when = When::MapOpen, .run = previousMap},
     {.id = 134, .name = "CM_SWITCH_MAP_VIEW", .menu = "&Window", .label = "&Switch Map View",

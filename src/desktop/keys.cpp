@@ -70,7 +70,8 @@ void setKey(KeyStroke& stroke, int key) {
 
 const Command* CommandForKey(const QKeyEvent& event) {
   KeyStroke stroke;
-  stroke.numPad = event.modifiers().testFlag(Qt::KeypadModifier);
+  // The number pad's Enter does what the main one does.
+  stroke.numPad = event.modifiers().testFlag(Qt::KeypadModifier) && event.key() != Qt::Key_Enter;
   stroke.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   stroke.alt = event.modifiers().testFlag(Qt::AltModifier);
   stroke.shift = event.modifiers().testFlag(Qt::ShiftModifier);

@@ -3,6 +3,8 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
+#include <QScreen>
+#include <QStyle>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -75,6 +77,14 @@ struct Request {
   }
 };
 
+// A frame with its title bar that the screen has no room for fills it.
+void showFitting(QWidget& window) {
+  const QSize room = window.screen()->availableSize();
+  const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const bool fits = window.width() <= room.width() && window.height() + title <= room.height();
+  fits ? window.show() : window.showMaximized();
+}
+
 int runWindow(const Request& request) {
   QtPrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
@@ -82,7 +92,7 @@ int runWindow(const Request& request) {
   prompts.setPaths(&window.editor().paths());
   window.start();
   const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
-  window.show();
+  showFitting(window);
   window.editor().offerRescueCopies();
   request.open(window);
   return QApplication::exec();

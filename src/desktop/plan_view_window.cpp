@@ -93,7 +93,10 @@ void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
     const std::optional<StripField> field = stripFieldAt(width(), press.at);
     if (!field) return;
     if (const auto menu = stripMenu(*field, editor_.settings(), editor_.currentMap())) openMenu(*menu);
-    if (*field == StripField::Direction) editor_.flipPlanView(view_);
+    if (*field == StripField::Direction) {
+      editor_.flipPlanView(view_);
+      markStale();  // without a map, too
+    }
     return;
   }
   follow(editor_.pressPlanView(view_, press));
