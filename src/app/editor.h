@@ -44,8 +44,9 @@ struct MapDocument {
 
 // The camera view's window and what it keeps between frames.
 struct CameraView {
-  int clientWidth = 320;  // pixels
+  int clientWidth = 320;  // the editor's pixels
   int clientHeight = 200;
+  double deviceScale = 1;  // device pixels a side of one of them
   WireLens lens;
   Renderer renderer;
 };

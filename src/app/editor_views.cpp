@@ -81,7 +81,9 @@ void Editor::refreshAssets() {
 }
 
 RenderSize Editor::renderSize() const {
-  return RenderSizeFor(settings_, cameraView_.clientWidth, cameraView_.clientHeight);
+  const double scale = cameraView_.deviceScale;
+  return RenderSizeFor(settings_, Truncate(RoundHalfAway(cameraView_.clientWidth * scale)),
+                       Truncate(RoundHalfAway(cameraView_.clientHeight * scale)));
 }
 
 void Editor::renderCamera() {

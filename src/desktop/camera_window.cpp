@@ -56,6 +56,7 @@ void drawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int 
 QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   const int width = editor.cameraView().clientWidth;
   const int height = editor.cameraView().clientHeight;
+  editor.cameraView().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
   const map* shown = editor.currentMap();
   if (shown && editor.settings().drawmode != kWireMode) drawRendered(editor, image);

@@ -12,6 +12,7 @@
 #include "desktop/help_window.h"
 #include "desktop/map_tabs.h"
 #include "desktop/plan_view_window.h"
+#include "desktop/replace_dialog.h"
 
 namespace velk {
 
@@ -43,6 +44,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void redrawPlanViews() override;
   void mapsChanged() override;
   void helpRequested() override;
+  bool showReplaceTexture() override;
   void exitRequested() override;
 
   void buildCentre();
@@ -52,7 +54,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   Editor editor_;
   QMdiArea* area_;
   QLabel* message_;
-  HelpWindow* help_ = nullptr;  // made when first asked for
+  HelpWindow* help_ = nullptr;        // made when first asked for
+  ReplaceDialog* replace_ = nullptr;  // as well
   MapTabs* tabs_ = nullptr;  // none when tabs are switched off
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};

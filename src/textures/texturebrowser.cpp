@@ -87,10 +87,8 @@ bool TextureBrowser::selectTexture(TextureSet& set, int index) {
 
 bool TextureBrowser::liftTexture(const texturedef& definition, TextureSet* set) {
   if (EqualNoCase(definition.name, "ENTITY")) return false;
+  if (set) selectTexture(*set, set->indexOf(definition.name));
   current_ = definition;
-  if (!set) return true;
-  const int place = set->indexOf(definition.name);
-  if (place >= 0 && set->at(place).texture->name == definition.name) selectTexture(*set, place);
   return true;
 }
 

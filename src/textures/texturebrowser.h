@@ -37,8 +37,8 @@ class TextureBrowser {
   // outside the set are ignored. True when there was one to select.
   bool selectTexture(TextureSet& set, int index);
 
-  // Takes a face's definition. When the map's set (may be none) has a texture of exactly that name, it
-  // becomes current there. "ENTITY", in any case, changes nothing. True when the definition was taken.
+  // Takes a face's definition. When the map's set (may be none) has a texture of that name, in any case,
+  // it becomes current there. "ENTITY", in any case, changes nothing. True when the definition was taken.
   bool liftTexture(const texturedef& definition, TextureSet* set);
 
  private:

@@ -74,6 +74,34 @@ TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {
   EXPECT_EQ(session.editor.planViews().planCenter.z, 128);
 }
 
+TEST(Handlers, PlanViewsGoToTheCameraOfTheMapThatIsShown) {
+  Session session;
+  Editor& editor = session.editor;
+  const std::string start = "{\n\"classname\" \"info_player_start\"\n\"origin\" \"32 48 96\"\n}\n";
+  editor.openFile(session.home.write("start.map", test::SmallMapText() + start));
+  EXPECT_EQ(editor.planViews().planCenter, vec3(32, 48, 96));
+  session.open();
+  EXPECT_EQ(editor.planViews().planCenter, vec3(0, 0, 0));
+  editor.settings().lock_cameras = true;
+  editor.setCurrentIndex(0);
+  EXPECT_EQ(editor.planViews().planCenter, vec3(0, 0, 0));
+  editor.settings().lock_cameras = false;
+  editor.closeDocument(1);
+  EXPECT_EQ(editor.planViews().planCenter, vec3(32, 48, 96));
+}
+
+TEST(Handlers, WindowQualityHasTheDevicesPixels) {
+  Session session;
+  Editor& editor = session.editor;
+  editor.cameraView().clientWidth = 301;
+  editor.cameraView().clientHeight = 200;
+  editor.cameraView().deviceScale = 1.5;
+  session.run("CM_QUALITY_WINDOW");
+  EXPECT_EQ(editor.renderSize(), (RenderSize{452, 300}));
+  session.run("192");
+  EXPECT_EQ(editor.renderSize(), (RenderSize{80, 60}));
+}
+
 TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
   struct Windowed : test::RecordingObserver {
     bool showReplaceTexture() override { return shown = true; }

@@ -73,12 +73,14 @@ TEST_F(BrowserSelection, SelectingKeepsTheNumbers) {
 TEST_F(BrowserSelection, LiftingTakesTheDefinition) {
   EXPECT_FALSE(browser.liftTexture({"Entity", 90, {1, 2}, {3, 4}}, &set));
   EXPECT_EQ(browser.current().rotate, 0);
-  EXPECT_TRUE(browser.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set));  // not that exact name
-  EXPECT_EQ(browser.current().name, "wall");
+  EXPECT_TRUE(browser.liftTexture({"none", 45, {1, 2}, {3, 4}}, &set));
   EXPECT_EQ(browser.currentIndex(), 0);
-  EXPECT_TRUE(browser.liftTexture({"WALL", 45, {1, 2}, {3, 4}}, &set));
-  EXPECT_EQ(browser.currentIndex(), 1);
   EXPECT_EQ(browser.current().rotate, 45);
+  EXPECT_TRUE(browser.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set));  // the set's is WALL
+  EXPECT_EQ(browser.currentIndex(), 1);
+  EXPECT_EQ(set.currentName, "WALL");
+  EXPECT_EQ(browser.current().name, "wall");
+  EXPECT_EQ(browser.current().rotate, 90);
 }
 
 }  // namespace
