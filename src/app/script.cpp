@@ -1,7 +1,6 @@
 #include "app/script.h"
 
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 #include "app/script_print.h"
@@ -11,6 +10,9 @@
 
 namespace velk {
 namespace {
+
+// Larger than any script; keeps a device that never ends from filling the memory.
+constexpr size_t kMaxScript = size_t{16} << 20;
 
 struct ScriptLine {
   int number = 0;
@@ -37,13 +39,6 @@ void readLines(Tokenizer& tokens, std::vector<ScriptLine>& lines) {
     if (lines.empty() || lines.back().number != tokens.line()) lines.push_back({tokens.line(), {}});
     lines.back().words.push_back({std::string(tokens.token()), tokens.quoted()});
   }
-}
-
-int number(const ScriptWord& word) {
-  if (word.text.empty() || word.text.find_first_not_of("0123456789-") != std::string::npos) {
-    throw ScriptFailure("not a whole number: " + word.text);
-  }
-  return TextToInt(word.text);
 }
 
 MouseButton button(const ScriptWord& word) {
@@ -117,10 +112,13 @@ ScriptResult ScriptRunner::run(std::string_view text) {
   return {};
 }
 
+// By a stream, so that a script may also come through a pipe.
 ScriptResult ScriptRunner::runFile(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
-  const std::string text(std::istreambuf_iterator<char>(in), {});
-  if (!in.is_open() || in.bad()) return {false, 0, "couldn't read the script " + file.string()};
+  std::string text(kMaxScript, '\0');
+  in.read(text.data(), static_cast<std::streamsize>(text.size()));
+  if (!in.eof() || in.bad()) return {false, 0, "couldn't read the script " + file.string()};
+  text.resize(static_cast<size_t>(in.gcount()));
   return run(text);
 }
 
@@ -165,8 +163,8 @@ void ScriptRunner::key(const Words& words) {
 void ScriptRunner::size(const Words& words) {
   constexpr int kLargest = 16384;
   const ScriptView view = ScriptViewNamed(words[0].text);
-  const int width = number(words[1]);
-  const int height = number(words[2]);
+  const int width = ScriptNumber(words[1]);
+  const int height = ScriptNumber(words[2]);
   if (width < 1 || height < 1 || width > kLargest || height > kLargest) {
     throw ScriptFailure("a view is 1 to 16384 pixels wide and high");
   }
@@ -184,7 +182,7 @@ void ScriptRunner::press(const Words& words) {
   const ScriptView view = ScriptViewNamed(words[0].text);
   held_ = {};
   held_.button = button(words[1]);
-  held_.at = {number(words[2]), number(words[3])};
+  held_.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
   for (size_t i = 4; i < words.size(); ++i) setModifier(held_, words[i]);
   if (view == ScriptView::Camera) {
     editor_.pressCamera(held_);
@@ -195,7 +193,7 @@ void ScriptRunner::press(const Words& words) {
 
 void ScriptRunner::move(const Words& words) {
   const ScriptView view = ScriptViewNamed(words[0].text);
-  held_.at = {number(words[1]), number(words[2])};
+  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
   if (view == ScriptView::Camera) {
     editor_.moveInCamera(held_);
   } else {
@@ -205,7 +203,7 @@ void ScriptRunner::move(const Words& words) {
 
 void ScriptRunner::release(const Words& words) {
   const ScriptView view = ScriptViewNamed(words[0].text);
-  held_.at = {number(words[1]), number(words[2])};
+  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
   if (view == ScriptView::Camera) {
     editor_.releaseCamera(held_);
   } else {
@@ -218,8 +216,8 @@ void ScriptRunner::wheel(const Words& words) {
   const ScriptView view = ScriptViewNamed(words[0].text);
   if (view == ScriptView::Camera) throw ScriptFailure("the wheel works in plan views");
   PointerEvent event;
-  event.at = {number(words[2]), number(words[3])};
-  editor_.wheelPlanView(static_cast<int>(view), event, number(words[1]));
+  event.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
+  editor_.wheelPlanView(static_cast<int>(view), event, ScriptNumber(words[1]));
 }
 
 void ScriptRunner::print(const Words& words) {

@@ -1,6 +1,7 @@
 #include "app/script_print.h"
 
 #include <array>
+#include <charconv>
 #include <utility>
 
 #include "base/text.h"
@@ -132,6 +133,14 @@ ScriptView ScriptViewNamed(const std::string& name) {
   throw ScriptFailure("no such view: " + name);
 }
 
+int ScriptNumber(const ScriptWord& word) {
+  const char* end = word.text.data() + word.text.size();
+  int value = 0;
+  const auto [stop, error] = std::from_chars(word.text.data(), end, value);
+  if (error != std::errc{} || stop != end) throw ScriptFailure("not a whole number: " + word.text);
+  return value;
+}
+
 Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vector<ScriptWord>& what) {
   const std::string& word = what[0].text;
   if (what.size() == 1) return printPlain(editor, prompts, word);
@@ -140,7 +149,7 @@ Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vecto
     return {viewText(editor, ScriptViewNamed(what[1].text))};
   }
   if (what.size() == 3 && EqualNoCase(word, "pick")) {
-    return {pickText(editor, {TextToInt(what[1].text), TextToInt(what[2].text)})};
+    return {pickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
   }
   throw ScriptFailure("nothing to print by that name: " + word);
 }

@@ -25,15 +25,25 @@ namespace {
 constexpr int kUsageError = 1;
 constexpr int kFatalError = 3;
 
-bool wantsDisplay(const QStringList& arguments) {
-  for (const QString& argument : arguments) {
-    for (const char* unattended : {"--script", "--picture", "--help", "--version", "-h", "-v"}) {
-      const QString option = QString::fromLatin1(unattended);
-      if (argument == option || argument.startsWith(option + '=')) return false;
-    }
+struct CommandLine {
+  QCommandLineParser parser;
+  const QCommandLineOption script{"script", "Run the editor unattended on a script.", "file"};
+  const QCommandLineOption picture{"picture", "Write a PNG picture of the main window and end.", "file"};
+  const QCommandLineOption kit{"kit", "Open the map of the starter kit."};
+
+  CommandLine() {
+    parser.setApplicationDescription("Level editor for Quake maps.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(kit);
+    parser.addOption(script);
+    parser.addOption(picture);
+    parser.addPositionalArgument("map", "Maps to open.", "[map...]");
   }
-  return true;
-}
+
+  bool isUnattended() const { return parser.isSet(script) || parser.isSet(picture); }
+  bool needsDisplay() const { return !isUnattended() && !parser.isSet("help") && !parser.isSet("version"); }
+};
 
 bool hasDisplay() {
   return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
@@ -98,7 +108,7 @@ int runWindow(const Request& request) {
   return QApplication::exec();
 }
 
-int runPicture(const Request& request, const QString& picture) {
+int runPicture(const Request& request, const std::string& picture) {
   PicturePrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setSettings(&window.editor().settings());
@@ -106,34 +116,33 @@ int runPicture(const Request& request, const QString& picture) {
   request.open(window);
   window.show();
   if (window.savePicture(picture)) return 0;
-  std::fprintf(stderr, "velk: couldn't write %s\n", qPrintable(picture));
+  std::fprintf(stderr, "velk: couldn't write %s\n", picture.c_str());
   return kFatalError;
 }
 
-int runProgram(QApplication& application) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription("Level editor for Quake maps.");
-  parser.addHelpOption();
-  parser.addVersionOption();
-  const QCommandLineOption script("script", "Run the editor unattended on a script.", "file");
-  const QCommandLineOption picture("picture", "Write a picture of the main window and end.", "file");
-  const QCommandLineOption kit("kit", "Open the map of the starter kit.");
-  parser.addOption(kit);
-  parser.addOption(script);
-  parser.addOption(picture);
-  parser.addPositionalArgument("map", "Maps to open.", "[map...]");
-  if (!parser.parse(application.arguments())) {
-    std::fprintf(stderr, "velk: %s\n", qPrintable(parser.errorText()));
-    return kUsageError;
-  }
+int refuse(const QString& why) {
+  std::fprintf(stderr, "velk: %s\n", qPrintable(why));
+  return kUsageError;
+}
+
+// Qt ends the program by a crash when it cannot reach the display.
+void passOn(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  std::fprintf(stderr, "%s\n", qPrintable(message));
+  if (type == QtFatalMsg) leave(kUsageError);
+}
+
+int runProgram(CommandLine& line, const QStringList& arguments) {
+  QCommandLineParser& parser = line.parser;
+  if (!parser.parse(arguments)) return refuse(parser.errorText());
   if (parser.isSet("help")) parser.showHelp(0);
   if (parser.isSet("version")) parser.showVersion();
-  const Request request{textsOf(parser.positionalArguments()), parser.isSet(kit)};
-  const bool unattended = parser.isSet(script) || parser.isSet(picture);
-  SetErrorHandler(unattended ? failOnStandardError : failInBox);
-  if (parser.isSet(script))
-    return RunScriptFile(parser.value(script).toLocal8Bit().toStdString(), request.maps);
-  if (parser.isSet(picture)) return runPicture(request, parser.value(picture));
+  const auto value = [&parser](const auto& option) {
+    return parser.value(option).toLocal8Bit().toStdString();
+  };
+  const Request request{textsOf(parser.positionalArguments()), parser.isSet(line.kit)};
+  SetErrorHandler(line.isUnattended() ? failOnStandardError : failInBox);
+  if (parser.isSet(line.script)) return RunScriptFile(value(line.script), request.maps);
+  if (parser.isSet(line.picture)) return runPicture(request, value(line.picture));
   return runWindow(request);
 }
 
@@ -142,14 +151,17 @@ int runProgram(QApplication& application) {
 
 int main(int argc, char** argv) {
   QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
-  if (!velk::wantsDisplay(arguments)) {
+  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  velk::CommandLine line;
+  const bool understood = line.parser.parse(arguments);
+  if (!line.needsDisplay()) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
   } else if (!velk::hasDisplay()) {
-    std::fprintf(stderr,
-                 "velk: there is no display; use --script FILE or --picture FILE to run without one\n");
-    return velk::kUsageError;
+    return velk::refuse(understood
+                            ? "there is no display; use --script FILE or --picture FILE to run without one"
+                            : line.parser.errorText());
   }
+  qInstallMessageHandler(velk::passOn);
   QApplication application(argc, argv);
   // Qt takes over the user's locale; the editor's files have decimal points everywhere.
   std::setlocale(LC_NUMERIC, "C");
@@ -157,5 +169,5 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(VELK_VERSION);
   QApplication::setDesktopFileName("velk");
   QApplication::setWindowIcon(QIcon(":/icons/velk.svg"));
-  return velk::runProgram(application);
+  return velk::runProgram(line, QApplication::arguments());
 }

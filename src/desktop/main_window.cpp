@@ -15,6 +15,7 @@
 
 #include "desktop/keys.h"
 #include "desktop/menus.h"
+#include "desktop/picture_file.h"
 
 namespace velk {
 namespace {
@@ -106,9 +107,9 @@ void TVelkWindow::showEvent(QShowEvent* event) {
   editor_.loadArrangements();
 }
 
-bool TVelkWindow::savePicture(const QString& file) {
+bool TVelkWindow::savePicture(const std::string& file) {
   QApplication::processEvents();
-  return grab().save(file);
+  return SavePng(grab().toImage(), file);
 }
 
 void TVelkWindow::closeEvent(QCloseEvent* event) {

@@ -26,8 +26,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   // Starts the editor and builds what shows it.
   void start();
   void openFiles(const std::vector<std::string>& files);
-  // Writes a picture of the whole frame; false when it cannot be written.
-  bool savePicture(const QString& file);
+  // Writes a picture of the whole frame as PNG; false when it cannot be written.
+  bool savePicture(const std::string& file);
 
   Editor& editor() { return editor_; }
 
@@ -56,7 +56,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   QLabel* message_;
   HelpWindow* help_ = nullptr;        // made when first asked for
   ReplaceDialog* replace_ = nullptr;  // as well
-  MapTabs* tabs_ = nullptr;  // none when tabs are switched off
+  MapTabs* tabs_ = nullptr;           // none when tabs are switched off
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;

@@ -8,6 +8,7 @@
 #include "app/script.h"
 #include "desktop/camera_window.h"
 #include "desktop/kit.h"
+#include "desktop/picture_file.h"
 #include "desktop/plan_view_window.h"
 
 namespace velk {
@@ -23,7 +24,7 @@ class Pictures : public ScriptPictures {
     const QImage picture = view == ScriptView::Camera ? PictureOfCamera(editor_, 1)
                                                       : PictureOfPlanView(editor_, static_cast<int>(view), 1,
                                                                           QGuiApplication::palette());
-    return picture.save(QString::fromLocal8Bit(file.c_str()), "PNG");
+    return SavePng(picture, file);
   }
 
  private:

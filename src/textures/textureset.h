@@ -68,8 +68,8 @@ class TextureSet {
 };
 
 // Builds the map's set and settles its favourites: the ones it names that are in the set, or, when it
-// has no slots yet, the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are dropped. No memory is fatal "Couldn't allocate
-// favorites...".
+// has no slots yet, the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are
+// dropped. No memory is fatal "Couldn't allocate favorites...".
 void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
 
 // Favourites are kept in the map, by name. The place in the set of the one in a slot, -1 for a free slot.

@@ -29,6 +29,9 @@ TEST(Script, FailuresNameLineAndReason) {
       {"press XY LEFT 1 2 HYPER", 1, "no such modifier: HYPER"},
       {"size XY 0 100", 1, "a view is 1 to 16384 pixels wide and high"},
       {"size XY ten 100", 1, "not a whole number: ten"},
+      {"size XY 5-3 100", 1, "not a whole number: 5-3"},
+      {"size XY 100 99999999999", 1, "not a whole number: 99999999999"},
+      {"CM_FILENEW\nprint pick 1 x", 2, "not a whole number: x"},
       {"print counts", 1, "no map is open"},
       {"print nonsense", 1, "nothing to print by that name: nonsense"},
       {"print setting nonsense", 1, "no such setting: nonsense"},
@@ -67,13 +70,14 @@ TEST(Script, ExitEndsIt) {
   EXPECT_TRUE(session.observer.exiting);
 }
 
-TEST(Script, MissingFile) {
+TEST(Script, FilesThatCannotBeRead) {
   test::Session session;
   std::ostringstream out;
-  const ScriptResult result =
-      ScriptRunner(session.editor, session.prompts, nullptr, out).runFile("/nowhere/script");
-  EXPECT_FALSE(result.ok);
-  EXPECT_EQ(result.message, "couldn't read the script /nowhere/script");
+  for (const std::string file : {"/nowhere/script", "/", "/dev/zero"}) {
+    const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).runFile(file);
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "couldn't read the script " + file);
+  }
 }
 
 struct RecordedPictures : ScriptPictures {
