@@ -79,15 +79,15 @@ TEST(Handlers, PlanViewsGoToTheCameraOfTheMapThatIsShown) {
   Editor& editor = session.editor;
   const std::string start = "{\n\"classname\" \"info_player_start\"\n\"origin\" \"32 48 96\"\n}\n";
   editor.openFile(session.home.write("start.map", test::SmallMapText() + start));
-  EXPECT_EQ(editor.planViews().planCenter, vec3(32, 48, 96));
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
   session.open();
-  EXPECT_EQ(editor.planViews().planCenter, vec3(0, 0, 0));
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
   editor.settings().lock_cameras = true;
   editor.setCurrentIndex(0);
-  EXPECT_EQ(editor.planViews().planCenter, vec3(0, 0, 0));
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
   editor.settings().lock_cameras = false;
   editor.closeDocument(1);
-  EXPECT_EQ(editor.planViews().planCenter, vec3(32, 48, 96));
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
 }
 
 TEST(Handlers, WindowQualityHasTheDevicesPixels) {
