@@ -12,7 +12,7 @@ namespace {
 const Command kRows[] = {
     {.id = 11845, .menu = "&Edit", .label = "Save for Undo...", .hint = "Temp. cmd to Save...",
      .run = saveForUndo},
-    {.id = 11844, .menu = "&Edit", .label = "&Undo", .keyText = "Ctrl-Z", .keys = "Ctrl+Z",
+    {.id = 11844, .name = "CM_UNDO", .menu = "&Edit", .label = "&Undo", .keyText = "Ctrl-Z", .keys = "Ctrl+Z",
      .hint = "Undo last change...", .when = When::UndoKept,
      .run = undoChange},
     {.id = 1100, .name = "CM_REDO", .menu = "&Edit", .label = "&Redo", .keyText = "Ctrl-Y", .keys = "Ctrl+Y",

@@ -107,6 +107,13 @@ void ChildWindows::arrangeIcons() {
   }
 }
 
+// Also before the frame is shown.
+bool ChildWindows::barVisible(int bar) const {
+  return bar < barCount() && !bars_[static_cast<size_t>(bar)]->isHidden();
+}
+
+void ChildWindows::showBar(int bar, bool visible) { bars_[static_cast<size_t>(bar)]->setVisible(visible); }
+
 bool ChildWindows::eventFilter(QObject* watched, QEvent* event) {
   // The type first: while the area is destroyed, other events come that find no viewport to ask for.
   if (event->type() == QEvent::Resize && watched == area_.viewport()) {

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "app/windows.h"
+#include "desktop/bars.h"
 
 namespace velk {
 
@@ -18,6 +19,8 @@ class ChildWindows : public QObject, public WindowHost {
 
   // Gives a window its contents, which it owns.
   void add(ToolWindow window, QWidget* content);
+  // The bars that commands show and hide; owned by the frame.
+  void setBars(std::vector<TVelkControlBar*> bars) { bars_ = std::move(bars); }
   // Puts all windows into their first layout.
   void layOut();
 
@@ -29,6 +32,9 @@ class ChildWindows : public QObject, public WindowHost {
   void cascade() override;
   void tile() override;
   void arrangeIcons() override;
+  int barCount() const override { return static_cast<int>(bars_.size()); }
+  bool barVisible(int bar) const override;
+  void showBar(int bar, bool visible) override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,6 +45,7 @@ class ChildWindows : public QObject, public WindowHost {
 
   QMdiArea& area_;
   std::array<QMdiSubWindow*, kToolWindows> children_{};
+  std::vector<TVelkControlBar*> bars_;
 };
 
 }  // namespace velk

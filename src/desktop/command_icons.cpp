@@ -75,9 +75,10 @@ QString piece(QString text, int depth) {
       break;
     }
   }
-  if (!colour.isEmpty()) style += QStringLiteral(" stroke='%1'").arg(colour);
   if (filled) {
     style += QStringLiteral(" stroke='none' fill='%1'").arg(colour.isEmpty() ? "%ink%" : colour);
+  } else if (!colour.isEmpty()) {
+    style += QStringLiteral(" stroke='%1'").arg(colour);
   }
   return QStringLiteral("<g%1>%2</g>").arg(style, shape(text, depth));
 }
@@ -126,8 +127,7 @@ class CommandIconEngine : public QIconEngine {
   static IconColours coloursFor(QIcon::Mode mode) {
     const bool disabled = mode == QIcon::Disabled;
     const QPalette palette = QGuiApplication::palette();
-    const QColor ink =
-        palette.color(disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
+    const QColor ink = palette.color(disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
     return {ink, disabled ? ink : QColor(kAccent)};
   }
 

@@ -53,6 +53,7 @@ TVelkWindow::~TVelkWindow() { qApp->removeEventFilter(this); }
 void TVelkWindow::start() {
   editor_.start();
   BuildMenus(*menuBar(), editor_);
+  bars_ = BuildBars(*this, editor_);
   buildCentre();
   buildWindows();
   setWindowTitle(shown(editor_.title()));
@@ -95,6 +96,7 @@ void TVelkWindow::buildWindows() {
   camera_ = new TCameraWindow(editor_);
   children_->add(ToolWindow::Camera, camera_);
   children_->add(ToolWindow::Groups, placeholder("Groups", "The groups of the map come here."));
+  children_->setBars(bars_);
   editor_.setWindows(*children_);
 }
 
@@ -166,6 +168,15 @@ void TVelkWindow::mapsChanged() {
   setWindowTitle(shown(editor_.title()));
   if (tabs_) tabs_->refresh();
   if (camera_) camera_->showTitle();
+  commandsChanged();
+}
+
+void TVelkWindow::texturesChanged() {
+  for (TVelkControlBar* bar : bars_) bar->texturesChanged();
+}
+
+void TVelkWindow::commandsChanged() {
+  for (TVelkControlBar* bar : bars_) bar->commandsChanged();
 }
 
 void TVelkWindow::helpRequested() {

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "app/editor.h"
+#include "desktop/bars.h"
 #include "desktop/camera_window.h"
 #include "desktop/child_windows.h"
 #include "desktop/help_window.h"
@@ -43,6 +44,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   void redrawCamera() override;
   void redrawPlanViews() override;
   void mapsChanged() override;
+  void texturesChanged() override;
+  void commandsChanged() override;
   void helpRequested() override;
   bool showReplaceTexture() override;
   void exitRequested() override;
@@ -60,6 +63,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;
+  std::vector<TVelkControlBar*> bars_;
   QTimer ticks_;
   bool arranged_ = false;
   bool leaving_ = false;
