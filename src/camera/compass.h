@@ -10,6 +10,7 @@ inline constexpr int kCompassInset = 25;   // of its centre from the right and t
 inline constexpr int kCompassRadius = 20;  // of the ring
 
 // yaw in radians. The needle points right on the screen at yaw 0 (looking along -y) and turns clockwise.
-void DrawCompass(Canvas& canvas, int canvasWidth, double yaw, Colour ring, Colour needle);
+// All strokes are edged, so that they stand out from any picture.
+void DrawCompass(Canvas& canvas, int canvasWidth, double yaw, Colour ring, Colour needle, Colour edge);
 
 }  // namespace velk

@@ -48,7 +48,8 @@ void drawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
 
 void drawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
   const ViewColours& colours = editor.settings().colours;
-  DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera);
+  DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera,
+              colours.bgcolor);
 }
 
 }  // namespace

@@ -100,7 +100,7 @@ TEST(Compass, TheNeedlePointsWhereAClickTurnsTo) {
   } cases[] = {{0, {90, 25}}, {test::kQuarterTurn, {75, 40}}, {2 * test::kQuarterTurn, {60, 25}}};
   for (const auto& c : cases) {
     RecordingCanvas canvas;
-    DrawCompass(canvas, 100, c.yaw, {}, {});
+    DrawCompass(canvas, 100, c.yaw, {}, {}, {});
     EXPECT_EQ(canvas.polygons.back().points[0], c.tip);
   }
 }
