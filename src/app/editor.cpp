@@ -33,7 +33,11 @@ void Editor::start() {
 }
 
 void Editor::startTextures() {
-  textureManager_.loadDefaultWads(wadProgress());
+  textureManager_.loadDefaultWads([this](const WadProgress& progress) {
+    const bool over = progress.step == WadProgress::Step::Done;
+    if (over) textureBrowser_.wadLoaded();
+    observer_.loadProgress(over ? "" : progress.text, progress.lump, progress.lumps);
+  });
   TextureSet loaded(textureManager_.badtex());
   std::vector<Wad*> wads;
   for (const auto& wad : textureManager_.wads()) wads.insert(wads.begin(), wad.get());

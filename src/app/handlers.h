@@ -166,6 +166,9 @@ void renderQuality(Editor& editor) {
 // The check mark of rows whose state does not exist yet.
 inline bool never(const Editor&) { return false; }
 
+// Makes a face of the current brush the current one, as its list in the selected-brush window asks.
+void chooseFace(Editor& editor, int index);
+
 // The settings dialogs.
 void preferences(Editor& editor);
 void colours(Editor& editor);

@@ -71,4 +71,10 @@ void selectByTexture(Editor& editor) {
   editor.postStatus(Format("Selected brushes having texture %s...", name.c_str()));
 }
 
+void chooseFace(Editor& editor, int index) {
+  if (!editor.currentMap() || !ChooseCurrentFace(*editor.currentMap(), index)) return;
+  editor.flagAllViews();
+  editor.postStatus("Face changed...");
+}
+
 }  // namespace velk::commands

@@ -17,6 +17,8 @@ class Observer {
   virtual void redrawSelectedBrush() {}
   // The list of open maps, the current one, a path or a modified flag changed: titles, tabs.
   virtual void mapsChanged() {}
+  // Start-up loads `total` lumps of a wad and has done so many of them; no text: it is over.
+  virtual void loadProgress(const std::string& /*text*/, int /*done*/, int /*total*/) {}
   // Contents of a tool window changed.
   virtual void entityChanged() {}
   virtual void groupsChanged() {}

@@ -106,6 +106,8 @@ FormField fieldOf(const Labelled& from, const Settings& settings, const char* ch
   return field;
 }
 
+int shownScale(const Settings& settings) { return Truncate(RoundHalfAway(settings.scale * 100.0)); }
+
 // Limits that only the dialog has.
 std::string limited(const FormField& field) {
   if (field.name != "face_drag_percent") return field.value;
@@ -124,7 +126,7 @@ Form PreferencesForm(const Settings& settings) {
             "* = Must Save to Velk.ini and Restart Velk for Changes to Take Effect",
             "Save to VELK.INI"};
   Settings now = settings;
-  now.start_set_scale = static_cast<int>(RoundHalfAway(settings.scale * 100.0));
+  now.start_set_scale = shownScale(settings);
   for (const Labelled& preference : kPreferences) form.fields.push_back(fieldOf(preference, now));
   return form;
 }
@@ -157,9 +159,11 @@ void ApplyForm(const Form& form, Settings& settings) {
   for (const FormField& field : form.fields) {
     SetSettingText(settings, field.name, isReversed(field.name) ? reversed(field.value) : limited(field));
   }
-  const bool hasScale = std::any_of(form.fields.begin(), form.fields.end(),
-                                    [](const FormField& field) { return field.name == "start_set->scale"; });
-  if (hasScale) settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
+  // The form shows whole percents; a scale that it did not change keeps its fraction.
+  const auto scale = std::find_if(form.fields.begin(), form.fields.end(),
+                                  [](const FormField& field) { return field.name == "start_set->scale"; });
+  const bool changed = scale != form.fields.end() && TextToInt(scale->value) != shownScale(settings);
+  if (changed) settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
 }
 
 }  // namespace velk

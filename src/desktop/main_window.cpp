@@ -7,10 +7,12 @@
 #include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTextEdit>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <chrono>
 
 #include "desktop/keys.h"
@@ -21,6 +23,8 @@ namespace velk {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
+constexpr QSize kProgressSize{250, 20};
+constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
 constexpr std::chrono::seconds kTick{10};
 
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
@@ -85,8 +89,9 @@ void TVelkWindow::buildCentre() {
 
 void TVelkWindow::buildWindows() {
   children_ = new ChildWindows(*area_);
+  brush_ = new TSelectedBrushWindow(editor_);
   children_->add(ToolWindow::Textures, placeholder("Textures", "Thumbnails of the textures come here."));
-  children_->add(ToolWindow::SelectedBrush, placeholder("Selected Brush", "The current brush comes here."));
+  children_->add(ToolWindow::SelectedBrush, brush_);
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
     planViews_[static_cast<size_t>(view)] = window;
@@ -162,6 +167,30 @@ void TVelkWindow::redrawPlanViews() {
 
 void TVelkWindow::redrawCamera() {
   if (camera_) camera_->markStale();
+}
+
+void TVelkWindow::redrawSelectedBrush() {
+  if (brush_) brush_->refresh();
+}
+
+// A bar below the middle of the screen, gone when there is nothing more to load.
+void TVelkWindow::loadProgress(const std::string& text, int done, int total) {
+  if (text.empty()) {
+    progress_.reset();
+    return;
+  }
+  if (!progress_) {
+    progress_ = std::make_unique<QProgressBar>();
+    progress_->setWindowFlag(Qt::SplashScreen);
+    const QPoint middle = screen()->geometry().center();
+    progress_->setGeometry(middle.x() - kProgressSize.width() / 2, middle.y() + kProgressDrop,
+                           kProgressSize.width(), kProgressSize.height());
+    progress_->show();
+  }
+  progress_->setRange(0, std::max(total, 1));
+  progress_->setValue(done);
+  progress_->setFormat(shown(text));
+  progress_->repaint();
 }
 
 void TVelkWindow::mapsChanged() {

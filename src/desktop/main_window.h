@@ -3,11 +3,14 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QProgressBar>
 #include <QTimer>
 #include <array>
+#include <memory>
 
 #include "app/editor.h"
 #include "desktop/bars.h"
+#include "desktop/brush_window.h"
 #include "desktop/camera_window.h"
 #include "desktop/child_windows.h"
 #include "desktop/help_window.h"
@@ -43,6 +46,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   void statusChanged(const std::string& text) override;
   void redrawCamera() override;
   void redrawPlanViews() override;
+  void redrawSelectedBrush() override;
+  void loadProgress(const std::string& text, int done, int total) override;
   void mapsChanged() override;
   void texturesChanged() override;
   void commandsChanged() override;
@@ -57,9 +62,11 @@ class TVelkWindow : public QMainWindow, private Observer {
   Editor editor_;
   QMdiArea* area_;
   QLabel* message_;
-  HelpWindow* help_ = nullptr;        // made when first asked for
-  ReplaceDialog* replace_ = nullptr;  // as well
-  MapTabs* tabs_ = nullptr;           // none when tabs are switched off
+  HelpWindow* help_ = nullptr;              // made when first asked for
+  ReplaceDialog* replace_ = nullptr;        // as well
+  MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
+  std::unique_ptr<QProgressBar> progress_;  // while start-up loads
+  TSelectedBrushWindow* brush_ = nullptr;
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;
