@@ -7,8 +7,9 @@ namespace {
 
 using StoreSettings = void (*)(const Settings&, IniFile&);
 
-// Takes a form's values over and, when asked, writes them to velk.ini.
-void apply(Editor& editor, const Form& form, FormAnswer answer, StoreSettings store, const char* failure) {
+// Has the form filled in, takes its values over and, when asked, writes them to velk.ini.
+void fillIn(Editor& editor, Form form, StoreSettings store, const char* failure) {
+  const FormAnswer answer = editor.prompts().fill(form);
   if (answer == FormAnswer::Cancel) return;
   const Settings before = editor.settings();
   ApplyForm(form, editor.settings());
@@ -20,31 +21,27 @@ void apply(Editor& editor, const Form& form, FormAnswer answer, StoreSettings st
   if (!ini.save(file).ok) Error("%s", failure);
 }
 
+void redrawAll(Editor& editor, const char* status) {
+  editor.flagAllViews();
+  editor.postStatus(status);
+}
+
 }  // namespace
 
 void preferences(Editor& editor) {
-  Form form = PreferencesForm(editor.settings());
-  const FormAnswer answer = editor.prompts().fill(form);
-  apply(editor, form, answer, StorePreferences, "Couldn't open velk.ini");
-  editor.flagAllViews();
-  editor.postStatus("Preferences set...");
+  fillIn(editor, PreferencesForm(editor.settings()), StorePreferences, "Couldn't open velk.ini");
+  redrawAll(editor, "Preferences set...");
 }
 
 void colours(Editor& editor) {
-  Form form = ColoursForm(editor.settings());
-  const FormAnswer answer = editor.prompts().fill(form);
-  apply(editor, form, answer, StoreColours, "Couldn't open [VelkColors] of velk.ini");
+  fillIn(editor, ColoursForm(editor.settings()), StoreColours, "Couldn't open [VelkColors] of velk.ini");
   editor.textureManager().remapOutlineColours();
-  editor.flagAllViews();
-  editor.postStatus("Colors set...");
+  redrawAll(editor, "Colors set...");
 }
 
 void directories(Editor& editor) {
-  Form form = DirectoriesForm(editor.settings());
-  const FormAnswer answer = editor.prompts().fill(form);
-  apply(editor, form, answer, StoreDirectories, "Couldn't open velk.ini");
-  editor.flagAllViews();
-  editor.postStatus("Directories set...");
+  fillIn(editor, DirectoriesForm(editor.settings()), StoreDirectories, "Couldn't open velk.ini");
+  redrawAll(editor, "Directories set...");
 }
 
 // No bindings are read yet: both lists are empty.
