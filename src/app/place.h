@@ -11,6 +11,10 @@ namespace velk {
 struct EditorPlace {
   std::filesystem::path home;  // the folder of velk.ini
   std::filesystem::path data;  // holds one folder per drive letter
+
+  // What the editor remembers by itself between runs, in the form of an initialisation file: a section for
+  // each owner. Losing it loses nothing but comfort, so failures to write it are passed over.
+  std::filesystem::path stateFile() const { return home / "velkstate.ini"; }
 };
 
 // What decides the place: the working directory and the environment ("" for an unset variable).
