@@ -89,6 +89,9 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"wheel", 4, 4, "wheel VIEW STEPS X Y", &ScriptRunner::wheel},
       {"print", 1, 3, "print WHAT", &ScriptRunner::print},
       {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
+      {"offer", 0, 0, "offer", &ScriptRunner::offer},
+      {"tick", 0, 0, "tick", &ScriptRunner::tick},
+      {"rescue", 0, 0, "rescue", &ScriptRunner::rescue},
   };
   return all;
 }
@@ -232,5 +235,11 @@ void ScriptRunner::image(const Words& words) {
     throw ScriptFailure("couldn't write the picture " + words[1].text);
   }
 }
+
+void ScriptRunner::offer(const Words&) { editor_.offerRescueCopies(); }
+
+void ScriptRunner::tick(const Words&) { editor_.tick(); }
+
+void ScriptRunner::rescue(const Words&) { out_ << editor_.writeRescueCopies() << std::endl; }
 
 }  // namespace velk

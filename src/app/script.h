@@ -64,6 +64,9 @@ class ScriptRunner {
   void wheel(const Words& words);
   void print(const Words& words);
   void image(const Words& words);
+  void offer(const Words& words);
+  void tick(const Words& words);
+  void rescue(const Words& words);
 
   Editor& editor_;
   ScriptPrompts& prompts_;
