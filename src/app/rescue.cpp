@@ -84,6 +84,7 @@ void RescueFolder::adopt(int from, std::vector<RescueCopy>& found) const {
     if (from != number_) {
       int free = 0;
       while (free < kMaxCopies && present(copyFile(free))) ++free;
+      if (free == kMaxCopies) return;  // another start has room for the rest
       std::error_code failed;
       fs::rename(file, copyFile(free), failed);
       if (failed) continue;
@@ -93,10 +94,11 @@ void RescueFolder::adopt(int from, std::vector<RescueCopy>& found) const {
   }
 }
 
+// With the editor's number, so that two editors that do it at once do not take one name.
 fs::path RescueFolder::putAside(const RescueCopy& copy) const {
   for (int number = 1;; ++number) {
-    const fs::path aside =
-        folder_ / Format("rescued-%lld-%i.map", static_cast<long long>(std::time(nullptr)), number);
+    const fs::path aside = folder_ / Format("rescued-%lld-%i-%i.map",
+                                            static_cast<long long>(std::time(nullptr)), number_, number);
     if (present(aside)) continue;
     std::error_code failed;
     fs::rename(copy.file, aside, failed);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Kills the editor at work, without a warning and at random moments, and looks at what is left:
-#   kills.sh VELK [KILLS]      200 kills take about two minutes
+#   kills.sh VELK [KILLS]      200 kills take a bit over a minute
 # After every kill maps, backups and rescue copies must be whole, the newest state that was put away must be
 # there, and the next start must find every rescue copy. Exits with 1 when anything is lost or torn.
 set -uo pipefail
@@ -106,12 +106,15 @@ kill_after() {
 
 between() { echo $(($1 + RANDOM % ($2 - $1 + 1))); }
 
-whole() { cmp -s "$1" left.map || cmp -s "$1" right.map; }
+# By a copy: an editor at work may replace the file meanwhile.
+whole() { cp "$1" seen && { cmp -s seen left.map || cmp -s seen right.map; }; }
 
 # Copies the rescue copy of a map, less its first line, to `copy`; false when there is none.
 take_copy() {
   local file
-  file=$(grep -lF "//VELKRESCUE $1" "$safe"/rescue[0-9]* 2>/dev/null) && tail -n +2 "$file" >copy
+  # Copies of another editor may come and go meanwhile, which grep would report by its status.
+  file=$(grep -lF "//VELKRESCUE $1" "$safe"/rescue[0-9]* 2>/dev/null)
+  [[ -n $file ]] && tail -n +2 "$file" >copy
 }
 
 # check NAME: what the editor that worked on maps/NAME.map has left.
