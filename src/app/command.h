@@ -27,6 +27,7 @@ struct Command {
   int id = 0;
   const char* name = "";     // as button bars and scripts write it; "" when it has none
   const char* menu = "";     // path of menu labels parted by '|': "&Edit|&Copy"; "" for keys and bars only
+  bool startsGroup = false;  // a line parts it, or the submenu that begins with it, from what is above
   const char* label = "";    // with its mnemonic marker
   const char* keyText = "";  // as the menu shows it
   const char* keys = "";     // strokes parted by blanks: "Ctrl+Shift+Space Ctrl+Space", "Num-"

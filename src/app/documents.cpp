@@ -13,13 +13,13 @@ std::string Editor::title() const {
   return Format("[Velk - %s]", currentMap() ? currentMap()->name.c_str() : "Velk");
 }
 
-bool Editor::refuseEleventh(const char* caption) {
-  if (mapCount() < MAX_MAPS) return false;
+bool Editor::hasRoom(const char* caption) {
+  if (mapCount() < MAX_MAPS) return true;
   prompts_.ask({.caption = caption,
                 .text = "No more maps available...",
                 .buttons = MessageBox::Buttons::Ok,
                 .icon = MessageBox::Icon::Warning});
-  return true;
+  return false;
 }
 
 std::unique_ptr<MapDocument> Editor::makeDocument() {
@@ -71,7 +71,7 @@ void Editor::offerFirstTexture(const MapDocument& from) {
 }
 
 void Editor::newMap() {
-  if (refuseEleventh("Velk - Cannot Open New Map")) return;
+  if (!hasRoom("Velk - Cannot Open New Map")) return;
   auto made = makeDocument();
   made->model.initNew(settings_.default_wad);
   made->model.name = settings_.newmap;
@@ -91,7 +91,7 @@ MapReadOptions Editor::readOptions() {
 }
 
 void Editor::openFile(const std::string& path) {
-  if (refuseEleventh("Velk - Cannot Open")) return;
+  if (!hasRoom(kCannotOpen)) return;
   auto made = makeDocument();
   const MapReadResult read = ReadMapFile(made->model, path, readOptions());
   made->model.name = path;

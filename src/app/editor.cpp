@@ -97,7 +97,7 @@ bool Editor::isEnabled(const Command& command) const {
 }
 
 bool Editor::run(const Command& command) {
-  if (!isEnabled(command)) return false;
+  if (!canRun(command)) return false;
   beginChange();
   command.run(*this);
   endChange(PlainLabel(command));

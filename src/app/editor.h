@@ -30,6 +30,8 @@
 namespace velk {
 
 inline constexpr int MAX_MAPS = 10;
+// Caption of the box that refuses to open an eleventh.
+inline constexpr const char* kCannotOpen = "Velk - Cannot Open";
 
 // An open map: the model and what belongs to its file.
 struct MapDocument {
@@ -80,8 +82,10 @@ class Editor {
   // Shows another open map; an index outside the range is ignored.
   void setCurrentIndex(int index);
 
-  // Commands. Running a disabled or unbuilt one does nothing and returns false.
+  // Commands. Running one that cannot be run does nothing and returns false.
   bool isEnabled(const Command& command) const;
+  // Enabled, or one that says itself why it refuses: New and Open with ten maps.
+  bool canRun(const Command& command) const { return isEnabled(command) || command.when == When::RoomForMap; }
   bool isChecked(const Command& command) const { return command.checked && command.checked(*this); }
   bool run(const Command& command);
   // The command's label in the menu as things stand: undo and redo name what they would take back.
@@ -99,6 +103,10 @@ class Editor {
   void reloadClasses();
   // "[Velk - <path>]"
   std::string title() const;
+  // As the window's title bar shows it.
+  std::string titleOf(ToolWindow window) const;
+  // False with a message box when no further map can be opened; `caption` is the box's.
+  bool hasRoom(const char* caption);
 
   // After the settings were changed by a dialog: what depends on them follows. A texture alignment other
   // than `before` gives every face new texture coordinates.
@@ -190,10 +198,10 @@ class Editor {
   int writeRescueCopies();
 
  private:
+  std::filesystem::path backupFolder() const;
   std::filesystem::path freeCopyFile() const;
   void openRescueCopy(const RescueCopy& copy);
   void dropRescueCopy(MapDocument& document);
-  bool refuseEleventh(const char* caption);
   bool refuseSave(const std::string& text, MessageBox::Icon icon);
   std::unique_ptr<MapDocument> makeDocument();
   MapReadOptions readOptions();

@@ -12,6 +12,27 @@ std::string arrangementFile(const Settings& settings) { return settings.entity_q
 
 }  // namespace
 
+std::string Editor::titleOf(ToolWindow window) const {
+  switch (window) {
+    case ToolWindow::Textures:
+      return "Textures";
+    case ToolWindow::SelectedBrush:
+      return "Selected Brush";
+    case ToolWindow::Entities:
+      return "Entities";
+    case ToolWindow::Groups:
+      return "Groups";
+    case ToolWindow::Camera:
+      return currentMap() ? Format("[3D - %s]", currentMap()->name.c_str()) : "[?.map]";
+    case ToolWindow::Plan1:
+    case ToolWindow::Plan2:
+    case ToolWindow::Plan3:
+      break;
+  }
+  const int view = static_cast<int>(window) - static_cast<int>(ToolWindow::Plan1);
+  return captionText(planViews_.views[static_cast<size_t>(view)], settings_);
+}
+
 void Editor::loadArrangements() {
   const std::string file = arrangementFile(settings_);
   if (!paths_.exists(file)) return;

@@ -163,9 +163,6 @@ void renderQuality(Editor& editor) {
   setRenderQuality(editor, index);
 }
 
-// The check mark of rows whose state does not exist yet.
-inline bool never(const Editor&) { return false; }
-
 // Makes a face of the current brush the current one, as its list in the selected-brush window asks.
 void chooseFace(Editor& editor, int index);
 

@@ -50,6 +50,7 @@ void switchMap(Editor& editor, int step) {
 void newMap(Editor& editor) { editor.newMap(); }
 
 void openMaps(Editor& editor) {
+  if (!editor.hasRoom(kCannotOpen)) return;
   const auto paths = editor.prompts().chooseFiles({.title = "Select MAP File",
                                                    .filter = kMapFilter,
                                                    .directory = editor.settings().map_directory,
@@ -92,7 +93,7 @@ void about(Editor& editor) {
   editor.prompts().ask({.caption = "About Velk...",
                         .text = "Velk " VELK_VERSION "\nA level editor for Quake maps.",
                         .buttons = MessageBox::Buttons::Ok,
-                        .icon = MessageBox::Icon::Information});
+                        .icon = MessageBox::Icon::Program});
 }
 
 void help(Editor& editor) { editor.observer().helpRequested(); }

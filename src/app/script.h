@@ -57,6 +57,8 @@ class ScriptRunner {
   void answer(const Words& words);
   void set(const Words& words);
   void key(const Words& words);
+  void showMap(const Words& words);
+  void tick(const Words& words);
   void size(const Words& words);
   void press(const Words& words);
   void move(const Words& words);

@@ -87,9 +87,88 @@ std::string settingText(const Editor& editor, const std::string& key) {
 }
 
 std::string viewText(const Editor& editor, ScriptView view) {
-  const map* m = editor.currentMap();
-  if (view == ScriptView::Camera) return Format("[3D - %s]", m ? m->name.c_str() : "?.map");
-  return captionText(editor.planViews().views[static_cast<size_t>(view)], editor.settings());
+  if (view == ScriptView::Camera) return editor.titleOf(ToolWindow::Camera);
+  return editor.titleOf(
+      static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + static_cast<int>(view)));
+}
+
+const char* orDash(bool is, const char* word) { return is ? word : "-"; }
+
+std::string menuLine(const Editor& editor, const Command& command) {
+  const char* check = !command.checked ? "-" : editor.isChecked(command) ? "checked" : "unchecked";
+  const std::string path = (*command.menu ? command.menu + std::string("|") : "") + editor.labelOf(command);
+  return Format("%d %s %s %s %s %s %s", command.id, orDash(*command.name, command.name),
+                editor.isEnabled(command) ? "enabled" : "disabled", check, ScriptQuoted(path).c_str(),
+                ScriptQuoted(command.keyText).c_str(), ScriptQuoted(command.keys).c_str());
+}
+
+// Rows without a menu item stand last in the table.
+Lines menuLines(Editor& editor) {
+  Lines lines;
+  for (const Command& command : Commands()) lines.push_back(menuLine(editor, command));
+  return lines;
+}
+
+const char* stateText(ShowState state) {
+  if (state == ShowState::Minimised) return "minimised";
+  return state == ShowState::Maximised ? "maximised" : "normal";
+}
+
+Lines windowLines(Editor& editor) {
+  Lines lines;
+  for (int i = 0; i < kToolWindows; ++i) {
+    const auto window = static_cast<ToolWindow>(i);
+    const WindowPlacement placement = editor.windows().placement(window);
+    const auto& [left, top, right, bottom] = placement.normal;
+    lines.push_back(Format("%s %s (%d %d %d %d) %s", ScriptQuoted(editor.titleOf(window)).c_str(),
+                           stateText(placement.state), left, top, right, bottom,
+                           orDash(editor.windows().hasFocus(window), "focus")));
+  }
+  return lines;
+}
+
+Lines undoLines(Editor& editor) {
+  openMap(editor);
+  const UndoHistory& history = editor.current()->history;
+  Lines lines;
+  for (const std::string& name : history.undoNames()) lines.push_back("undo " + ScriptQuoted(name));
+  for (const std::string& name : history.redoNames()) lines.push_back("redo " + ScriptQuoted(name));
+  return lines;
+}
+
+Lines groupLines(const map& m) {
+  struct Count {
+    int brushes = 0;
+    int selected = 0;
+  };
+  std::vector<Count> counts(static_cast<size_t>(m.groups.count()));
+  for (const entity& e : m.entities()) {
+    for (const brush& b : e.brushes()) {
+      if (b.group < 0 || b.group >= m.groups.count()) continue;
+      Count& count = counts[static_cast<size_t>(b.group)];
+      ++count.brushes;
+      count.selected += b.selected ? 1 : 0;
+    }
+  }
+  Lines lines;
+  for (int i = 0; i < m.groups.count(); ++i) {
+    const group& g = m.groups.at(i);
+    const Count& count = counts[static_cast<size_t>(i)];
+    lines.push_back(Format("%d %s %s (%d %d %d) brushes %d selected %d", i, ScriptQuoted(g.name).c_str(),
+                           g.visible ? "visible" : "invisible", g.colour.red, g.colour.green, g.colour.blue,
+                           count.brushes, count.selected));
+  }
+  return lines;
+}
+
+Lines openMapLines(Editor& editor) {
+  Lines lines;
+  for (int i = 0; i < editor.mapCount(); ++i) {
+    const map& m = editor.document(i)->model;
+    lines.push_back(Format("%d %s %s %s", i, ScriptQuoted(m.name).c_str(), orDash(m.modified, "modified"),
+                           orDash(i == editor.currentIndex(), "current")));
+  }
+  return lines;
 }
 
 // The map as it would be saved, with plain line ends.
@@ -103,7 +182,7 @@ Lines mapLines(map& m) {
 }
 
 using Printer = Lines (*)(Editor&);
-constexpr std::array<std::pair<std::string_view, Printer>, 9> kPrinters{{
+constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
     {"status", [](Editor& e) { return Lines{e.status()}; }},
     {"title", [](Editor& e) { return Lines{e.title()}; }},
     {"counts", [](Editor& e) { return Lines{countsText(openMap(e))}; }},
@@ -112,6 +191,11 @@ constexpr std::array<std::pair<std::string_view, Printer>, 9> kPrinters{{
     {"camera", [](Editor& e) { return Lines{eyeText(openMap(e))}; }},
     {"textures", [](Editor& e) { return openMap(e), Lines{Format("%d", e.current()->textures.count())}; }},
     {"face", [](Editor& e) { return Lines{faceText(currentBrush(e))}; }},
+    {"groups", [](Editor& e) { return groupLines(openMap(e)); }},
+    {"undo", undoLines},
+    {"maps", openMapLines},
+    {"menu", menuLines},
+    {"windows", windowLines},
     {"map", [](Editor& e) { return mapLines(openMap(e)); }},
 }};
 

@@ -15,7 +15,7 @@ enum class Answer { Yes, No, Ok, Cancel };
 
 struct MessageBox {
   enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
-  enum class Icon { None, Information, Warning, Question, Error };
+  enum class Icon { None, Information, Warning, Question, Error, Program };  // Program: Velk's own
   std::string caption;
   std::string text;
   Buttons buttons = Buttons::Ok;
@@ -34,14 +34,14 @@ struct FileChooser {
 struct TextInput {
   std::string title;
   std::string prompt;
-  std::string text;       // preset
+  std::string text;  // preset
   int maxLength = 127;
 };
 
 struct ColourChooser {
   std::string title;
-  Colour colour;                // the one to start from
-  std::vector<Colour> custom;   // up to 16 custom colours
+  Colour colour;               // the one to start from
+  std::vector<Colour> custom;  // up to 16 custom colours
 };
 
 class Prompts {

@@ -28,7 +28,7 @@ std::string readoutOf(const map* m, const brush* shown, int selected) {
 
 TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor), readout_(new QLabel), faces_(new QTreeWidget) {
-  setWindowTitle("Selected Brush");
+  setWindowTitle(QString::fromStdString(editor.titleOf(ToolWindow::SelectedBrush)));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);

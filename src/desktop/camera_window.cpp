@@ -87,9 +87,7 @@ void TCameraWindow::markStale() {
 }
 
 void TCameraWindow::showTitle() {
-  const map* shown = editor_.currentMap();
-  const QString name = shown ? QString::fromLocal8Bit(shown->name.c_str()) : QString();
-  setWindowTitle(shown ? "[3D - " + name + "]" : QStringLiteral("[?.map]"));
+  setWindowTitle(QString::fromLocal8Bit(editor_.titleOf(ToolWindow::Camera).c_str()));
 }
 
 void TCameraWindow::paintEvent(QPaintEvent*) {

@@ -42,15 +42,19 @@ constexpr std::array<std::pair<int, char>, 11> kPadDigits{{
     {Qt::Key_Delete, '.'},
 }};
 
+// A key of the number pad by the sign printed on it; '\0' for other keys.
+char padDigit(int key) {
+  for (const auto& [code, digit] : kPadDigits) {
+    if (code == key) return digit;
+  }
+  return '\0';
+}
+
 void setKey(KeyStroke& stroke, int key) {
-  if (stroke.numPad) {
-    for (const auto& [code, digit] : kPadDigits) {
-      if (code == key) {
-        stroke.key = Key::Character;
-        stroke.character = digit;
-        return;
-      }
-    }
+  if (const char digit = stroke.numPad ? padDigit(key) : '\0') {
+    stroke.key = Key::Character;
+    stroke.character = digit;
+    return;
   }
   for (const auto& [code, named] : kNamedKeys) {
     if (code == key && named != Key::Character) {
@@ -66,12 +70,9 @@ void setKey(KeyStroke& stroke, int key) {
   }
 }
 
-}  // namespace
-
-const Command* CommandForKey(const QKeyEvent& event) {
+const Command* commandOn(const QKeyEvent& event, bool numPad) {
   KeyStroke stroke;
-  // The number pad's Enter does what the main one does.
-  stroke.numPad = event.modifiers().testFlag(Qt::KeypadModifier) && event.key() != Qt::Key_Enter;
+  stroke.numPad = numPad;
   stroke.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   stroke.alt = event.modifiers().testFlag(Qt::AltModifier);
   stroke.shift = event.modifiers().testFlag(Qt::ShiftModifier);
@@ -83,6 +84,16 @@ const Command* CommandForKey(const QKeyEvent& event) {
   if (!sign || !stroke.shift) return nullptr;
   stroke.shift = false;
   return CommandOnKey(stroke);
+}
+
+}  // namespace
+
+const Command* CommandForKey(const QKeyEvent& event) {
+  // The number pad's Enter does what the main one does.
+  const bool numPad = event.modifiers().testFlag(Qt::KeypadModifier) && event.key() != Qt::Key_Enter;
+  const Command* command = commandOn(event, numPad);
+  const bool withoutNumLock = numPad && padDigit(event.key());
+  return command || !withoutNumLock ? command : commandOn(event, false);
 }
 
 }  // namespace velk

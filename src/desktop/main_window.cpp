@@ -30,9 +30,9 @@ constexpr std::chrono::seconds kTick{10};
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
 // Holds a window's place until its contents are built.
-QLabel* placeholder(const char* title, const char* line) {
+QLabel* placeholder(const std::string& title, const char* line) {
   auto* label = new QLabel(QString::fromLatin1(line));
-  label->setWindowTitle(QString::fromLatin1(title));
+  label->setWindowTitle(shown(title));
   label->setAlignment(Qt::AlignCenter);
   label->setWordWrap(true);
   label->setEnabled(false);
@@ -90,17 +90,20 @@ void TVelkWindow::buildCentre() {
 void TVelkWindow::buildWindows() {
   children_ = new ChildWindows(*area_);
   brush_ = new TSelectedBrushWindow(editor_);
-  children_->add(ToolWindow::Textures, placeholder("Textures", "Thumbnails of the textures come here."));
+  const auto await = [this](ToolWindow window, const char* line) {
+    children_->add(window, placeholder(editor_.titleOf(window), line));
+  };
+  await(ToolWindow::Textures, "Thumbnails of the textures come here.");
   children_->add(ToolWindow::SelectedBrush, brush_);
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
     planViews_[static_cast<size_t>(view)] = window;
     children_->add(static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + view), window);
   }
-  children_->add(ToolWindow::Entities, placeholder("Entities", "Keys and values of entities come here."));
+  await(ToolWindow::Entities, "Keys and values of entities come here.");
   camera_ = new TCameraWindow(editor_);
   children_->add(ToolWindow::Camera, camera_);
-  children_->add(ToolWindow::Groups, placeholder("Groups", "The groups of the map come here."));
+  await(ToolWindow::Groups, "The groups of the map come here.");
   children_->setBars(bars_);
   editor_.setWindows(*children_);
 }
@@ -151,7 +154,8 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   if (!override && event->type() != QEvent::KeyPress) return false;
   if (!watched->isWidgetType() || !takesKeys()) return false;
   const Command* command = CommandForKey(*static_cast<QKeyEvent*>(event));
-  if (!command) return false;
+  // What cannot be run leaves its key to the menus: Alt+F opens one while there is no face to texture.
+  if (!command || !editor_.canRun(*command)) return false;
   event->accept();
   if (!override) editor_.run(*command);
   return true;

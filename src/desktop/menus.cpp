@@ -2,16 +2,20 @@
 
 #include <QAction>
 #include <QMenu>
+#include <utility>
 
 #include "base/text.h"
 
 namespace velk {
 namespace {
 
-// The menu at a path of labels parted by '|', made on the way where it does not exist.
-QMenu* menuAt(QMenuBar& bar, const std::string& path) {
+// The menu of a row: a path of labels parted by '|', made on the way where it does not exist. The line
+// before the row's group stands before the first thing that is new. Menus leave out lines that would stand
+// first, last or twice.
+QMenu* menuOf(QMenuBar& bar, const Command& command) {
   QWidget* parent = &bar;
-  for (const std::string& label : Split(path, '|')) {
+  bool line = command.startsGroup;
+  for (const std::string& label : Split(command.menu, '|')) {
     const QString title = QString::fromLatin1(label.c_str());
     QMenu* found = nullptr;
     for (QAction* action : parent->actions()) {
@@ -19,12 +23,15 @@ QMenu* menuAt(QMenuBar& bar, const std::string& path) {
     }
     if (!found) {
       auto* above = qobject_cast<QMenu*>(parent);
+      if (above && std::exchange(line, false)) above->addSeparator();
       found = above ? above->addMenu(title) : bar.addMenu(title);
       found->setToolTipsVisible(false);
     }
     parent = found;
   }
-  return qobject_cast<QMenu*>(parent);
+  auto* menu = qobject_cast<QMenu*>(parent);
+  if (line) menu->addSeparator();
+  return menu;
 }
 
 // The key text stands behind a tab: shown by the menu, but no shortcut of Qt's. Keys are the key table's.
@@ -47,7 +54,7 @@ void refresh(QAction& action, const Editor& editor) {
 void BuildMenus(QMenuBar& bar, Editor& editor) {
   for (const Command& command : Commands()) {
     if (!*command.menu) continue;
-    QMenu* menu = menuAt(bar, command.menu);
+    QMenu* menu = menuOf(bar, command);
     QAction* action = menu->addAction(itemText(command, editor));
     action->setData(command.id);
     action->setStatusTip(QString::fromLatin1(command.hint));

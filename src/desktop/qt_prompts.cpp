@@ -1,5 +1,6 @@
 #include "desktop/qt_prompts.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -11,6 +12,8 @@
 
 namespace velk {
 namespace {
+
+constexpr QSize kProgramIcon{64, 64};
 
 QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
 std::string text(const QString& from) { return from.toLocal8Bit().toStdString(); }
@@ -32,6 +35,7 @@ QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
 QMessageBox::Icon iconOf(MessageBox::Icon icon) {
   switch (icon) {
     case MessageBox::Icon::None:
+    case MessageBox::Icon::Program:
       return QMessageBox::NoIcon;
     case MessageBox::Icon::Information:
       return QMessageBox::Information;
@@ -61,6 +65,16 @@ QString suffixOf(const std::string& filter) {
   return text(pieces[1].substr(2));
 }
 
+// The first line of the text is the program's name.
+void presentProgram(QMessageBox& dialog) {
+  const QString text = dialog.text();
+  dialog.setTextFormat(Qt::RichText);
+  dialog.setText("<h2>" + text.section('\n', 0, 0).toHtmlEscaped() + "</h2>" +
+                 text.section('\n', 1).toHtmlEscaped());
+  dialog.setInformativeText(QStringLiteral("Built with Qt %1, in C++20.").arg(qVersion()));
+  dialog.setIconPixmap(QApplication::windowIcon().pixmap(kProgramIcon));
+}
+
 QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 }  // namespace
@@ -68,6 +82,7 @@ QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blu
 Answer QtPrompts::ask(const MessageBox& box) {
   QMessageBox dialog(iconOf(box.icon), text(box.caption), text(box.text), buttonsOf(box.buttons), owner_);
   dialog.setTextFormat(Qt::PlainText);
+  if (box.icon == MessageBox::Icon::Program) presentProgram(dialog);
   switch (dialog.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;

@@ -37,6 +37,9 @@ class UndoHistory {
   // Of the change that would be taken back or done again; "" for none.
   std::string undoName() const { return records_.empty() ? "" : records_.back().name; }
   std::string redoName() const { return redo_.empty() ? "" : redo_.back().name; }
+  // Of all that is kept, the next one first.
+  std::vector<std::string> undoNames() const { return namesFromBack(records_); }
+  std::vector<std::string> redoNames() const { return namesFromBack(redo_); }
 
   // Take the last change back, or do it again; false when there is none.
   bool undo(map& m, int levels);
@@ -54,6 +57,12 @@ class UndoHistory {
     std::unique_ptr<OneBrush> one;
     std::unique_ptr<GroupList> groups;
   };
+  template <class Records>
+  static std::vector<std::string> namesFromBack(const Records& records) {
+    std::vector<std::string> names;
+    for (auto record = records.rbegin(); record != records.rend(); ++record) names.push_back(record->name);
+    return names;
+  }
   static std::unique_ptr<OneBrush> keepOne(brush& b);
   static void restoreOne(map& m, const OneBrush& kept);
   void push(Record record, int levels);
