@@ -13,6 +13,7 @@
 
 #include "base/error.h"
 #include "desktop/crash_guard.h"
+#include "desktop/first_paint.h"
 #include "desktop/kit.h"
 #include "desktop/main_window.h"
 #include "desktop/picture_prompts.h"
@@ -30,6 +31,7 @@ struct CommandLine {
   const QCommandLineOption script{"script", "Run the editor unattended on a script.", "file"};
   const QCommandLineOption picture{"picture", "Write a PNG picture of the main window and end.", "file"};
   const QCommandLineOption kit{"kit", "Open the map of the starter kit."};
+  QCommandLineOption timeStart{"time-start", "Print the CPU time in ms until the window was painted."};
 
   CommandLine() {
     parser.setApplicationDescription("Level editor for Quake maps.");
@@ -38,6 +40,8 @@ struct CommandLine {
     parser.addOption(kit);
     parser.addOption(script);
     parser.addOption(picture);
+    timeStart.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(timeStart);
     parser.addPositionalArgument("map", "Maps to open.", "[map...]");
   }
 
@@ -80,6 +84,7 @@ std::vector<std::string> textsOf(const QStringList& list) {
 struct Request {
   std::vector<std::string> maps;
   bool kit = false;
+  bool timeStart = false;
 
   void open(TVelkWindow& window) const {
     window.openFiles(maps);
@@ -102,6 +107,7 @@ int runWindow(const Request& request) {
   prompts.setPaths(&window.editor().paths());
   window.start();
   const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
+  if (request.timeStart) ReportFirstPaint(window);
   showFitting(window);
   window.editor().offerRescueCopies();
   request.open(window);
@@ -139,7 +145,8 @@ int runProgram(CommandLine& line, const QStringList& arguments) {
   const auto value = [&parser](const auto& option) {
     return parser.value(option).toLocal8Bit().toStdString();
   };
-  const Request request{textsOf(parser.positionalArguments()), parser.isSet(line.kit)};
+  const Request request{textsOf(parser.positionalArguments()), parser.isSet(line.kit),
+                        parser.isSet(line.timeStart)};
   SetErrorHandler(line.isUnattended() ? failOnStandardError : failInBox);
   if (parser.isSet(line.script)) return RunScriptFile(value(line.script), request.maps);
   if (parser.isSet(line.picture)) return runPicture(request, value(line.picture));

@@ -1,0 +1,166 @@
+// Undo as the editor takes it: of a generated map of 2,000 brushes, and of the map file that the environment
+// variable VELK_BENCH_MAP names, with the entity classes of the file that VELK_BENCH_CLASSES names. The
+// argument is undo_levels.
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include "app/editor.h"
+#include "mapfile/mapreader.h"
+
+namespace velk {
+namespace {
+
+constexpr int kGeneratedBrushes = 2000;
+
+// A user who cancels whatever is asked.
+class NoAnswers : public Prompts {
+ public:
+  Answer ask(const MessageBox&) override { return Answer::Cancel; }
+  std::vector<std::string> chooseFiles(const FileChooser&) override { return {}; }
+  std::optional<std::string> input(const TextInput&) override { return {}; }
+  std::optional<Colour> chooseColour(const ColourChooser&) override { return {}; }
+  FormAnswer fill(Form&) override { return {}; }
+};
+
+// An editor with one map open.
+struct Desk {
+  explicit Desk(int levels, int brushes = 0) : editor({}, prompts, observer) {
+    editor.settings().undo_levels = levels;
+    editor.settings().default_wad.clear();
+    editor.newMap();
+    if (const char* classes = std::getenv("VELK_BENCH_CLASSES")) {
+      const std::filesystem::path path(classes);
+      editor.settings().entity_qc_directory = (path.parent_path() / "").string();
+      editor.settings().entities = path.filename().string();
+      editor.reloadClasses();
+    }
+    const char* file = std::getenv("VELK_BENCH_MAP");
+    if (file && brushes == 0) {
+      ReadMapFile(m(), file, {});
+    } else {
+      generate(brushes > 0 ? brushes : kGeneratedBrushes);
+    }
+  }
+
+  map& m() { return *editor.currentMap(); }
+
+  void generate(int brushes) {
+    texturedef texture;
+    texture.name = "wall";
+    for (int i = 0; i < brushes; ++i) {
+      const vec3 at{float(i % 32 * 128 - 2048), float(i / 32 % 32 * 128 - 2048), float(i / 1024 * 128)};
+      auto made = std::make_unique<brush>();
+      made->setBox(at, {at.x + 64, at.y + 64, at.z + 64}, texture);
+      m().world()->addobject(std::move(made));
+    }
+  }
+
+  void moveOne(int index) {
+    brush& b = *m().world()->at(index % m().world()->numbrushes());
+    b.translate({8, 0, 0});
+    b.buildWindings();
+  }
+
+  void moveAll() {
+    for (entity& e : m().entities()) {
+      for (brush& b : e.brushes()) b.translate({8, 0, 0});
+    }
+  }
+
+  NoAnswers prompts;
+  Observer observer;
+  Editor editor;
+};
+
+void Count(benchmark::State& state, Desk& desk) { state.counters["brushes"] = desk.m().brushCount(); }
+
+enum Changed { kNothing, kOneBrush, kAllBrushes };
+
+void Change(Desk& desk, Changed changed, int round) {
+  if (changed == kOneBrush) desk.moveOne(round);
+  if (changed == kAllBrushes) desk.moveAll();
+}
+
+// The copy alone, of a map that was changed since the last one.
+void TakeCopy(benchmark::State& state, Changed changed) {
+  Desk desk(static_cast<int>(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    Change(desk, changed, round++);
+    state.ResumeTiming();
+    desk.editor.saveUndo("copy", UndoMode::All);
+  }
+  Count(state, desk);
+}
+BENCHMARK_CAPTURE(TakeCopy, unchanged, kNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TakeCopy, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TakeCopy, all_brushes_moved, kAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+
+// What a command pays for being undoable, before and after its change.
+void RunCommand(benchmark::State& state, Changed changed) {
+  Desk desk(static_cast<int>(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    desk.editor.beginChange();
+    state.PauseTiming();
+    Change(desk, changed, round++);
+    state.ResumeTiming();
+    desk.editor.endChange("command");
+  }
+  Count(state, desk);
+}
+BENCHMARK_CAPTURE(RunCommand, nothing_changed, kNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RunCommand, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RunCommand, all_brushes_moved, kAllBrushes)->Arg(100)->Unit(benchmark::kMillisecond);
+
+void Undo(benchmark::State& state, Changed changed) {
+  Desk desk(static_cast<int>(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    desk.editor.saveUndo("copy", UndoMode::All);
+    Change(desk, changed, round++);
+    state.ResumeTiming();
+    desk.editor.undo();
+  }
+  Count(state, desk);
+}
+BENCHMARK_CAPTURE(Undo, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Undo, all_brushes_moved, kAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+
+double HeapBytes() {
+  const struct mallinfo2 heap = mallinfo2();
+  return static_cast<double>(heap.uordblks + heap.hblkhd);
+}
+
+// The bytes that a hundred levels take, with one brush moved for each.
+void HundredLevels(benchmark::State& state) {
+  double bytes = 0;
+  double mapBytes = 0;
+  for (auto _ : state) {
+    const double empty = HeapBytes();
+    Desk desk(100, static_cast<int>(state.range(0)));
+    const double full = HeapBytes();
+    for (int level = 0; level < 100; ++level) {
+      desk.editor.beginChange();
+      desk.moveOne(level);
+      desk.editor.endChange("move");
+    }
+    if (desk.editor.current()->history.undoCount() != 100) state.SkipWithError("levels were lost");
+    mapBytes = full - empty;
+    bytes = HeapBytes() - full;
+  }
+  state.counters["map_MB"] = mapBytes / 1e6;
+  state.counters["levels_MB"] = bytes / 1e6;
+}
+BENCHMARK(HundredLevels)->Arg(2000)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace velk
+
+BENCHMARK_MAIN();
