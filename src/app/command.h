@@ -93,5 +93,9 @@ KeyStroke ParseKeyStroke(std::string_view text);
 std::vector<KeyStroke> StrokesOf(const Command& command);
 // The command on that key; none when it is free.
 const Command* CommandOnKey(const KeyStroke& stroke);
+// The command that a pressed key gives. The number pad's keys are its digits whether Num Lock is on or off;
+// a pad key without a command of its own does without Num Lock what the main key of that name does (0 is
+// Ins, 1 End, 3 PgDn, '.' Del). A sign that the keyboard has on Shift also fits a stroke without Shift.
+const Command* CommandForStroke(const KeyStroke& pressed);
 
 }  // namespace velk

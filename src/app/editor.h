@@ -198,7 +198,7 @@ class Editor {
   int writeRescueCopies();
 
  private:
-  std::filesystem::path backupFolder() const;
+  void takeRescuePlace();
   std::filesystem::path freeCopyFile() const;
   void openRescueCopy(const RescueCopy& copy);
   void dropRescueCopy(MapDocument& document);

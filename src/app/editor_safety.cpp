@@ -27,14 +27,15 @@ std::string listOf(const std::vector<RescueCopy>& copies) {
 
 }  // namespace
 
-std::filesystem::path Editor::backupFolder() const { return paths_.native("c:\\"); }
+void Editor::takeRescuePlace() {
+  if (!rescue_) rescue_ = std::make_unique<RescueFolder>(paths_.native("c:\\"));
+}
 
 // Not through WriteMapFile, which would count the map as saved.
 void Editor::tick() {
   if (mapCount() == 0 || ++autosaveTicks_ <= kFirstBackupTick) return;
   map& m = *currentMap();
-  // A script, to which no copies are offered, takes its place with its first backup.
-  if (!rescue_) rescue_ = std::make_unique<RescueFolder>(backupFolder());
+  takeRescuePlace();
   if (!rescue_->held() || m.world()->numbrushes() == 0) return;
   const WriteResult written = ReplaceFile(rescue_->backupFile(), MapFileText(m, {}));
   postStatus(written.ok ? "Autosaving" : Format("Autosaving failed: %s", written.reason.c_str()));
@@ -68,7 +69,7 @@ void Editor::dropRescueCopy(MapDocument& document) {
 }
 
 void Editor::offerRescueCopies() {
-  rescue_ = std::make_unique<RescueFolder>(backupFolder());
+  takeRescuePlace();
   const std::vector<RescueCopy> copies = rescue_->claim();
   if (copies.empty()) return;
   const Answer answer = prompts_.ask({.caption = "Velk - Rescued Maps",

@@ -27,6 +27,18 @@ constexpr std::array<std::pair<std::string_view, Key>, 16> kNamedKeys{{{"Up", Ke
                                                                        {"Return", Key::Enter},
                                                                        {"Space", Key::Space}}};
 
+// The number pad's keys without Num Lock, and the sign printed on them.
+constexpr std::array<std::pair<Key, char>, 10> kPadSigns{{{Key::Insert, '0'},
+                                                          {Key::End, '1'},
+                                                          {Key::Down, '2'},
+                                                          {Key::PageDown, '3'},
+                                                          {Key::Left, '4'},
+                                                          {Key::Right, '6'},
+                                                          {Key::Home, '7'},
+                                                          {Key::Up, '8'},
+                                                          {Key::PageUp, '9'},
+                                                          {Key::Delete, '.'}}};
+
 // Takes the prefix off the front, if more follows it.
 bool takePrefix(std::string_view& text, std::string_view prefix) {
   if (text.size() <= prefix.size() || !StartsWithNoCase(text, prefix)) return false;
@@ -84,6 +96,26 @@ const Command* CommandOnKey(const KeyStroke& stroke) {
     }
   }
   return nullptr;
+}
+
+const Command* CommandForStroke(const KeyStroke& pressed) {
+  KeyStroke stroke = pressed;
+  if (stroke.numPad && stroke.key != Key::Character) {
+    for (const auto& [key, sign] : kPadSigns) {
+      if (key != pressed.key) continue;
+      stroke.key = Key::Character;
+      stroke.character = sign;
+    }
+    if (const Command* command = CommandOnKey(stroke)) return command;
+    stroke = pressed;
+    stroke.numPad = false;
+  }
+  if (const Command* command = CommandOnKey(stroke)) return command;
+  const bool sign =
+      stroke.key == Key::Character && !std::isalnum(static_cast<unsigned char>(stroke.character));
+  if (!sign || !stroke.shift) return nullptr;
+  stroke.shift = false;
+  return CommandOnKey(stroke);
 }
 
 }  // namespace velk

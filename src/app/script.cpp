@@ -83,7 +83,6 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"set", 2, 99, "set FIELD VALUE", &ScriptRunner::set},
       {"key", 1, 1, "key TEXT", &ScriptRunner::key},
       {"map", 1, 1, "map N", &ScriptRunner::showMap},
-      {"tick", 0, 0, "tick", &ScriptRunner::tick},
       {"size", 3, 3, "size VIEW W H", &ScriptRunner::size},
       {"press", 4, 7, "press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::press},
       {"move", 3, 3, "move VIEW X Y", &ScriptRunner::move},
@@ -160,7 +159,7 @@ void ScriptRunner::set(const Words& words) {
 }
 
 void ScriptRunner::key(const Words& words) {
-  const Command* command = CommandOnKey(ParseKeyStroke(words[0].text));
+  const Command* command = CommandForStroke(ParseKeyStroke(words[0].text));
   if (!command) throw ScriptFailure("no command on the key " + words[0].text);
   runEnabled(editor_, *command, words[0].text);
 }
@@ -170,8 +169,6 @@ void ScriptRunner::showMap(const Words& words) {
   if (!editor_.document(number)) throw ScriptFailure("no open map has the number " + words[0].text);
   editor_.setCurrentIndex(number);
 }
-
-void ScriptRunner::tick(const Words&) { editor_.tick(); }
 
 void ScriptRunner::size(const Words& words) {
   constexpr int kLargest = 16384;

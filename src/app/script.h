@@ -58,7 +58,6 @@ class ScriptRunner {
   void set(const Words& words);
   void key(const Words& words);
   void showMap(const Words& words);
-  void tick(const Words& words);
   void size(const Words& words);
   void press(const Words& words);
   void move(const Words& words);

@@ -33,6 +33,8 @@ TEST(Script, FailuresNameLineAndReason) {
       {"size XY 100 99999999999", 1, "not a whole number: 99999999999"},
       {"CM_FILENEW\nprint pick 1 x", 2, "not a whole number: x"},
       {"print counts", 1, "no map is open"},
+      {"map 0", 1, "no open map has the number 0"},
+      {"tick 3", 1, "to be written as: tick"},
       {"print nonsense", 1, "nothing to print by that name: nonsense"},
       {"print setting nonsense", 1, "no such setting: nonsense"},
       {"CM_FILENEW\nprint face", 2, "no brush is selected"},

@@ -62,16 +62,5 @@ TEST(Windows, SavesASlotAndGoesRoundTheSlots) {
   EXPECT_EQ(session.editor.arrangements().current, 0);
 }
 
-TEST(Windows, ToolCommandsShowHideAndRaise) {
-  Session session;
-  session.run("CM_FILENEW");
-  const char* expected[] = {"Group Window Brought to Front...", "Group Window Hidden...",
-                            "Group Window Shown..."};
-  for (const char* status : expected) {
-    session.run("CM_GROUP");
-    EXPECT_EQ(session.editor.status(), status);
-  }
-}
-
 }  // namespace
 }  // namespace velk
