@@ -1,0 +1,45 @@
+# cmake -DBUILD=<build tree> -DPREFIX=<folder> -DHOME=<folder> -P check.cmake: both folders are made anew.
+function(run)
+  execute_process(COMMAND ${ARGV} WORKING_DIRECTORY / COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE said)
+  set(said "${said}" PARENT_SCOPE)
+endfunction()
+
+function(require)
+  foreach(file IN LISTS ARGN)
+    if(NOT EXISTS ${file})
+      message(FATAL_ERROR "${file} is missing")
+    endif()
+  endforeach()
+endfunction()
+
+file(REMOVE_RECURSE ${PREFIX} ${HOME})
+file(MAKE_DIRECTORY ${HOME})
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX})
+require(${PREFIX}/share/mime/packages/velk.xml ${PREFIX}/share/icons/hicolor/scalable/apps/velk.svg
+  ${PREFIX}/share/man/man1/velk.1.gz ${PREFIX}/share/doc/velk/copyright)
+
+set(velk ${CMAKE_COMMAND} -E env --unset=VELK_HOME --unset=XDG_CONFIG_HOME HOME=${HOME} ${PREFIX}/bin/velk)
+run(${velk} --version)
+run(gzip -dc ${PREFIX}/share/man/man1/velk.1.gz)
+set(page "${said}")
+run(${velk} --help)
+string(REGEX MATCHALL "--[a-z-]+" options "${said}")
+foreach(option IN LISTS options)
+  string(REPLACE "-" "\\-" option "${option}")
+  string(FIND "${page}" "${option}" found)
+  if(found LESS 0)
+    message(FATAL_ERROR "velk.1 says nothing of ${option}")
+  endif()
+endforeach()
+
+# The kit is found beside the program and copied into the empty home.
+run(${velk} --kit --picture ${HOME}/frame.png)
+require(${HOME}/frame.png ${HOME}/.config/velk/start.map ${HOME}/.config/velk/velk.wad)
+if(EXISTS ${HOME}/.config/velk/velkstate.ini)
+  message(FATAL_ERROR "A picture was remembered as the user's frame")
+endif()
+
+find_program(validate desktop-file-validate)
+if(validate)
+  run(${validate} ${PREFIX}/share/applications/velk.desktop)
+endif()
