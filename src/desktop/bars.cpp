@@ -1,6 +1,7 @@
 #include "desktop/bars.h"
 
 #include <QAbstractItemView>
+#include <QProxyStyle>
 #include <QScreen>
 #include <algorithm>
 
@@ -13,6 +14,15 @@ namespace {
 // Of the screen's height, the opened list's share.
 constexpr double kListShare = 0.5 * 1.75;
 
+// Opens a list with a scroll bar, in all styles. A style sheet would not follow changes of the palette.
+class ListStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+};
+
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
 }  // namespace
@@ -23,8 +33,9 @@ TextureList::TextureList(Editor& editor) : editor_(editor) {
   setFocusPolicy(Qt::NoFocus);
   setToolTip(tr("Current texture"));
   setStatusTip(toolTip());
-  // A list with a scroll bar, in all styles.
-  setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+  auto* style = new ListStyle;
+  style->setParent(this);
+  setStyle(style);
   view()->setTextElideMode(Qt::ElideNone);
   connect(this, &QComboBox::activated, this,
           [this](int index) { ChooseTexture(editor_, names_[static_cast<size_t>(index)]); });
@@ -54,6 +65,9 @@ TVelkControlBar::TVelkControlBar(int number, const ButtonBar& gadgets, Editor& e
   setWindowTitle(QStringLiteral("Velk Bar %1").arg(number));
   setObjectName(QStringLiteral("velkBar%1").arg(number));
   setAllowedAreas(Qt::AllToolBarAreas);
+  QFont font(shown(editor.settings().velk_font));
+  font.setPixelSize(editor.settings().velk_font_size);
+  setFont(font);
   setMovable(true);
   setFloatable(true);
   for (const BarGadget& gadget : gadgets) {

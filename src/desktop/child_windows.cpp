@@ -1,10 +1,41 @@
 #include "desktop/child_windows.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QResizeEvent>
+#include <QStyleOption>
 
 namespace velk {
 namespace {
+
+constexpr int kHalfLight = 128;
+constexpr QColor kDarkTitle(0x96, 0x9a, 0xa2);
+
+// Qt's own style draws the buttons of windows that are not active in black in any palette, and the windows
+// do not take every change of the palette into their titles.
+class TitleStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control != CC_TitleBar || !bar || !widget || baseStyle()->name() != QLatin1String("fusion")) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      return;
+    }
+    QStyleOptionTitleBar shown(*bar);
+    shown.palette = widget->palette();
+    const bool active = (bar->titleBarState & State_Active) != 0;
+    if (shown.palette.color(QPalette::Window).lightness() < kHalfLight) {
+      shown.palette.setColor(QPalette::Text, Qt::black);  // of an active title the shadow only
+      if (!active) shown.palette.setColor(QPalette::Window, kDarkTitle);
+    }
+    QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+  }
+};
 
 class ChildWindow : public QMdiSubWindow {
  public:
@@ -30,13 +61,15 @@ int share(int position, int from, int to) { return from > 0 ? (position * to + f
 
 }  // namespace
 
-ChildWindows::ChildWindows(QMdiArea& area) : QObject(&area), area_(area) {
+ChildWindows::ChildWindows(QMdiArea& area) : QObject(&area), area_(area), titles_(new TitleStyle) {
+  titles_->setParent(this);
   area_.viewport()->installEventFilter(this);
 }
 
 void ChildWindows::add(ToolWindow window, QWidget* content) {
   QMdiSubWindow*& child = children_[static_cast<size_t>(window)];
   child = area_.addSubWindow(new ChildWindow(content));
+  child->setStyle(titles_);
   child->show();
 }
 

@@ -44,6 +44,7 @@ class ChildWindows : public QObject, public WindowHost {
   void keepShares(const QSize& from, const QSize& to);
 
   QMdiArea& area_;
+  QStyle* titles_;
   std::array<QMdiSubWindow*, kToolWindows> children_{};
   std::vector<TVelkControlBar*> bars_;
 };

@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kAccent = "#e8902a";
 constexpr double kFaint = 0.5;
+constexpr double kDisabled = 0.4;  // of the drawing's opacity
 constexpr int kMotifDepth = 4;
 
 using Drawings = QHash<QString, QString>;
@@ -101,15 +102,17 @@ class CommandIconEngine : public QIconEngine {
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * kDisabled);
     renderer.render(painter, rect);
     painter->restore();
   }
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
     const IconColours colours = coloursFor(mode);
-    const QString key = QStringLiteral("velk:%1:%2x%3:%4%5")
+    const QString key = QStringLiteral("velk:%1:%2x%3:%4%5:%6")
                             .arg(name_, QString::number(size.width()), QString::number(size.height()),
-                                 colours.ink.name(QColor::HexArgb), colours.accent.name(QColor::HexArgb));
+                                 colours.ink.name(QColor::HexArgb), colours.accent.name(QColor::HexArgb),
+                                 QString::number(mode == QIcon::Disabled));
     QPixmap drawn;
     if (QPixmapCache::find(key, &drawn)) return drawn;
     drawn = QPixmap(size);
@@ -124,11 +127,10 @@ class CommandIconEngine : public QIconEngine {
   QIconEngine* clone() const override { return new CommandIconEngine(name_); }
 
  private:
+  // Disabled drawings are the same, without the accent; styles' own disabled text is too faint for lines.
   static IconColours coloursFor(QIcon::Mode mode) {
-    const bool disabled = mode == QIcon::Disabled;
-    const QPalette palette = QGuiApplication::palette();
-    const QColor ink = palette.color(disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
-    return {ink, disabled ? ink : QColor(kAccent)};
+    const QColor ink = QGuiApplication::palette().color(QPalette::Active, QPalette::ButtonText);
+    return {ink, mode == QIcon::Disabled ? ink : QColor(kAccent)};
   }
 
   QString name_;

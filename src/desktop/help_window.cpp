@@ -1,5 +1,6 @@
 #include "desktop/help_window.h"
 
+#include <QEvent>
 #include <string>
 
 #include "app/command.h"
@@ -54,6 +55,12 @@ void HelpWindow::showContents() {
   show();
   raise();
   activateWindow();
+}
+
+// Links take their colour when a page is read.
+void HelpWindow::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) reload();
 }
 
 QVariant HelpWindow::loadResource(int type, const QUrl& name) {

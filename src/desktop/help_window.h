@@ -14,6 +14,7 @@ class HelpWindow : public QTextBrowser {
   void showContents();
 
  protected:
+  void changeEvent(QEvent* event) override;
   QVariant loadResource(int type, const QUrl& name) override;
 };
 

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "base/error.h"
+#include "desktop/colour_scheme.h"
 #include "desktop/crash_guard.h"
 #include "desktop/first_paint.h"
 #include "desktop/kit.h"
@@ -97,10 +98,11 @@ void showFitting(QWidget& window) {
   const QSize room = window.screen()->availableSize();
   const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
   const bool fits = window.width() <= room.width() && window.height() + title <= room.height();
-  fits ? window.show() : window.showMaximized();
+  fits || window.isMaximized() ? window.show() : window.showMaximized();
 }
 
 int runWindow(const Request& request) {
+  ColourScheme scheme;
   QtPrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setOwner(&window);
@@ -108,6 +110,8 @@ int runWindow(const Request& request) {
   window.start();
   const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
   if (request.timeStart) ReportFirstPaint(window);
+  scheme.takeAnswer();
+  window.keepState();
   showFitting(window);
   window.editor().offerRescueCopies();
   request.open(window);

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "desktop/frame_state.h"
 #include "desktop/keys.h"
 #include "desktop/menus.h"
 #include "desktop/picture_file.h"
@@ -117,6 +118,22 @@ void TVelkWindow::showEvent(QShowEvent* event) {
   editor_.loadArrangements();
 }
 
+void TVelkWindow::keepState() {
+  keepsState_ = true;
+  RestoreFrame(*this, editor_.place().stateFile());
+  // The session may end the program without closing the frame.
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
+}
+
+void TVelkWindow::rememberState() const {
+  if (keepsState_) RememberFrame(*this, editor_.place().stateFile());
+}
+
+void TVelkWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) area_->setBackground(palette().dark());
+}
+
 bool TVelkWindow::savePicture(const std::string& file) {
   QApplication::processEvents();
   return SavePng(grab().toImage(), file);
@@ -125,6 +142,7 @@ bool TVelkWindow::savePicture(const std::string& file) {
 void TVelkWindow::closeEvent(QCloseEvent* event) {
   if (!leaving_) editor_.run(*FindCommand("CM_FILEEXIT"));
   event->setAccepted(leaving_);
+  if (leaving_) rememberState();
 }
 
 void TVelkWindow::dragEnterEvent(QDragEnterEvent* event) {

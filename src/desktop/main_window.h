@@ -30,6 +30,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   // Starts the editor and builds what shows it.
   void start();
   void openFiles(const std::vector<std::string>& files);
+  // From now on the frame has the size, place and bars of the last run, and remembers them for the next.
+  void keepState();
   // Writes a picture of the whole frame as PNG; false when it cannot be written.
   bool savePicture(const std::string& file);
 
@@ -38,6 +40,7 @@ class TVelkWindow : public QMainWindow, private Observer {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,6 +60,7 @@ class TVelkWindow : public QMainWindow, private Observer {
 
   void buildCentre();
   void buildWindows();
+  void rememberState() const;
   bool takesKeys() const;
 
   Editor editor_;
@@ -73,6 +77,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   std::vector<TVelkControlBar*> bars_;
   QTimer ticks_;
   bool arranged_ = false;
+  bool keepsState_ = false;
   bool leaving_ = false;
 };
 

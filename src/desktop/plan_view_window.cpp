@@ -64,6 +64,12 @@ void TXYViewWindow::resizeEvent(QResizeEvent*) {
 
 void TXYViewWindow::focusInEvent(QFocusEvent*) { editor_.planViews().current = view_; }
 
+// The strip has the palette's colours.
+void TXYViewWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) markStale();
+}
+
 void TXYViewWindow::follow(const PointerOutcome& outcome) {
   if (outcome.redrawStrip) markStale();
 }

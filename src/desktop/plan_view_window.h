@@ -25,6 +25,7 @@ class TXYViewWindow : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void follow(const PointerOutcome& outcome);
