@@ -89,10 +89,11 @@ void BrushCuller::findOutline(const vec3& centre, const vec3& half, BrushDraw& d
   const Projection& projection = view_.projection;
   const Eye& eye = view_.eye;
   const float z = Along(eye.forward, centre);
-  draw.depth = z - Reach(eye.forward, half);
+  const float nearestDepth = z - Reach(eye.forward, half);
+  draw.depth = z;
   fillPicture(draw);
-  if (draw.depth < kNearDepth) return;
-  draw.nearest = projection.halfWidth / draw.depth * 1.0001f;
+  if (nearestDepth < kNearDepth) return;
+  draw.nearest = projection.halfWidth / nearestDepth * 1.0001f;
 
   constexpr Four kFirstSigns{1, -1, 1, -1};
   constexpr Four kSecondSigns{1, 1, -1, -1};

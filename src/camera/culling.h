@@ -25,7 +25,7 @@ struct BrushDraw {
   int top = 0;
   int right = 0;
   int bottom = 0;
-  float depth = 0;              // smallest view depth
+  float depth = 0;              // view depth of its middle
   float nearest = 0;            // largest w
   std::uint32_t firstFace = 0;  // numbers in the table of faces, once it is set up
   std::uint32_t faceCount = 0;

@@ -152,17 +152,15 @@ void PaintTexture(const Paint& paint, const Span& span, const Columns& c, int fr
   const uint8_t* pixels = paint.pixels;
   const uint8_t* shades = paint.shades;
   alignas(64) int texels[L::kCount];
+  uint8_t behind[L::kCount];  // whole vectors are painted, and what stands behind the run is put back
+  memcpy(behind, out + to, L::kCount);
   for (int x = from; x < to; x += L::kCount) {
     const typename L::Floats steps = L::countFrom(x - c.start);
     const typename L::Floats depth = L::all(1.0f) / (w + steps * stepW);
     L::store(texels, Texels<L, kind>(paint, (sw + steps * stepSW) * depth, (tw + steps * stepTW) * depth));
-    const int count = to - x < L::kCount ? to - x : L::kCount;
-    if (count == L::kCount) {
-      for (int lane = 0; lane < L::kCount; ++lane) out[x + lane] = shades[pixels[texels[lane]]];
-    } else {
-      for (int lane = 0; lane < count; ++lane) out[x + lane] = shades[pixels[texels[lane]]];
-    }
+    for (int lane = 0; lane < L::kCount; ++lane) out[x + lane] = shades[pixels[texels[lane]]];
   }
+  memcpy(out + to, behind, L::kCount);
 }
 
 template <class L>

@@ -51,11 +51,12 @@ Pixel Crossing(const Pixel& a, const Pixel& b, int Pixel::*axis, int limit) {
 // Turns the polygons of a map into those of the wire picture.
 class WirePlotter {
  public:
-  WirePlotter(RenderSize size, const map& m, const Settings& settings, const WireLens& lens)
-      : size_(size),
+  // With a scale, points are in pixels that many times finer than those of `size`.
+  WirePlotter(RenderSize size, const map& m, const Settings& settings, const WireLens& lens, double scale = 1)
+      : size_{Truncate(size.width * scale), Truncate(size.height * scale)},
         eye_(MakeEye(m.activeCamera())),
         farLimit_(settings.far_clip_distance),
-        focal_(lens.focalLength()) {}
+        focal_(lens.focalLength() * scale) {}
 
   // Fewer than 3 points when nothing of it is on the picture. Valid until the next call.
   const std::vector<Pixel>& plot(const winding& w) {
@@ -124,7 +125,7 @@ void DrawBrush(Canvas& canvas, WirePlotter& plotter, const brush& b, Colour colo
   for (const face& f : b.faces) {
     if (!f.polygon) continue;
     const std::vector<Pixel>& outline = plotter.plot(*f.polygon);
-    if (outline.size() >= 3) canvas.polygon({colour, 1}, outline);
+    if (outline.size() >= 3) canvas.devicePolygon({colour, 1}, outline);
   }
 }
 
@@ -155,7 +156,7 @@ double DistanceFromEye(const map& m, const brush& b) {
 void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
               const WireLens& lens) {
   canvas.fill({0, 0, canvasSize.width, canvasSize.height}, settings.colours.bgcolor);
-  WirePlotter plotter(canvasSize, m, settings, lens);
+  WirePlotter plotter(canvasSize, m, settings, lens, canvas.deviceScale());
   for (const bool selected : {false, true}) {  // the selection is not to be painted over
     const Colour colour = selected ? settings.colours.color_selection : settings.colours.fgcolor;
     for (const entity& e : m.entities()) {
@@ -168,7 +169,7 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Setting
 
 void renderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
                      const WireLens& lens, const brush& b, bool selected) {
-  WirePlotter plotter(canvasSize, m, settings, lens);
+  WirePlotter plotter(canvasSize, m, settings, lens, canvas.deviceScale());
   DrawBrush(canvas, plotter, b, selected ? settings.colours.color_selection : settings.colours.fgcolor);
 }
 
