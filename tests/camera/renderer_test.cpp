@@ -76,6 +76,13 @@ TEST_F(RendererTest, CutsAtEveryEdgeOfThePicture) {
   }
 }
 
+// Corners less than a tenth of a unit beyond the picture are not cut off; close to the eye that is many
+// rows.
+TEST_F(RendererTest, LeavesOutFacesThatReachBeyondTheRows) {
+  box({0.25f, -8, -8}, {4, 8, 0.2f}, "1");
+  EXPECT_EQ(draw(), Picture(6, "........"));
+}
+
 TEST_F(RendererTest, NearerWinsAndTiesGoToTheOneDrawnLater) {
   box({4, -1, -1}, {8, 1, 1}, "2");  // drawn last: the traversal runs backwards
   box({4, -2, -1}, {8, 0, 1}, "1");
