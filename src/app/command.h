@@ -19,6 +19,8 @@ enum class When {
   SelectionInEntity,  // the current entity has a selected brush
   UndoKept,
   RedoKept,
+  RecentMap,   // its place in the list of recent maps is taken
+  RecentKept,  // there are recent maps
   LeaksShown,
   Never,  // no operation stands behind it
 };
@@ -40,6 +42,7 @@ struct Command {
 
 // Every command, in menu order; those without a menu item last.
 std::span<const Command> Commands();
+inline constexpr int kFirstRecentMap = 1010;  // number of the command that opens it
 const Command* FindCommand(int id);
 // Without regard to case; also accepts the number as text. None when there is no such command.
 const Command* FindCommand(std::string_view nameOrNumber);

@@ -1,5 +1,6 @@
 // The open maps: making, reading, writing and closing them.
 #include "app/editor.h"
+#include "base/error.h"
 #include "base/text.h"
 #include "mapfile/mapwriter.h"
 
@@ -90,16 +91,64 @@ MapReadOptions Editor::readOptions() {
   return options;
 }
 
-void Editor::openFile(const std::string& path) {
-  if (!hasRoom(kCannotOpen)) return;
+// The stamp is taken first: a change while the file is read is noticed later.
+std::unique_ptr<MapDocument> Editor::readDocument(const std::string& path) {
   auto made = makeDocument();
+  made->onDisk = made->seenOnDisk = StampOf(paths_.native(path));
   const MapReadResult read = ReadMapFile(made->model, path, readOptions());
   made->model.name = path;
   made->model.favourites = read.favourites;
   textureManager_.openMapWads(made->model, made->textures, wadProgress());
   offerFirstTexture(*made);
-  addDocument(std::move(made));
+  return made;
+}
+
+void Editor::openFile(const std::string& path) {
+  if (!hasRoom(kCannotOpen)) return;
+  addDocument(readDocument(path));
+  recentMaps_.add(paths_.absolute(path));
   postStatus(Format("File [%s] processed...", path.c_str()));
+}
+
+bool Editor::showFile(const std::string& path) {
+  if (const int index = indexOfFile(path); index >= 0) {
+    setCurrentIndex(index);
+    return true;
+  }
+  try {
+    const ErrorTrap trap;
+    const int before = mapCount();
+    openFile(path);
+    return mapCount() > before;
+  } catch (const TrappedError& error) {
+    prompts_.ask({.caption = kCannotOpen,
+                  .text = error.what(),
+                  .buttons = MessageBox::Buttons::Ok,
+                  .icon = MessageBox::Icon::Error});
+    return false;
+  }
+}
+
+int Editor::indexOfFile(const std::string& path) const {
+  const FileStamp wanted = StampOf(paths_.native(path));
+  for (int i = 0; i < mapCount(); ++i) {
+    if (StampOf(paths_.native(document(i)->model.name)).sameFile(wanted)) return i;
+  }
+  return -1;
+}
+
+void Editor::openRecent(int index) {
+  const std::string path = recentMaps_.at(index);
+  if (path.empty()) return;
+  if (paths_.exists(path)) {
+    if (showFile(path)) recentMaps_.add(path);
+    return;
+  }
+  recentMaps_.remove(path);
+  prompts_.ask({.caption = kCannotOpen,
+                .text = Format("The file %s is not there any more.", path.c_str()),
+                .buttons = MessageBox::Buttons::Ok,
+                .icon = MessageBox::Icon::Warning});
 }
 
 bool Editor::refuseSave(const std::string& text, MessageBox::Icon icon) {
@@ -107,12 +156,13 @@ bool Editor::refuseSave(const std::string& text, MessageBox::Icon icon) {
   return false;
 }
 
-bool Editor::saveDocument(MapDocument& document, const std::string& path) {
+bool Editor::saveDocument(MapDocument& document, const std::string& path, bool replacing) {
   map& m = document.model;
   if (!m.world() || m.world()->numbrushes() == 0) {
     return refuseSave("Nothing to save...\nMap must have at least one world brush!",
                       MessageBox::Icon::Warning);
   }
+  if (!mayLeaveOut(document) || !(replacing || mayReplace(document, path))) return false;
   // Not through WriteMapFile, for which a file that cannot be made is fatal: other work would be lost.
   const WriteResult written = ReplaceFile(paths_.native(path), MapFileText(m, {}));
   if (!written.ok) {
@@ -122,7 +172,10 @@ bool Editor::saveDocument(MapDocument& document, const std::string& path) {
   m.name = path;
   m.modified = false;
   ++m.saves;
+  document.onDisk = document.seenOnDisk = written.stamp;
+  document.fileLost = false;
   dropRescueCopy(document);
+  recentMaps_.add(paths_.absolute(path));
   observer_.mapsChanged();
   postStatus(Format("File [%s] saved...", path.c_str()));
   return true;

@@ -89,6 +89,10 @@ bool Editor::isEnabled(const Command& command) const {
       return current() && current()->history.canUndo();
     case When::RedoKept:
       return current() && current()->history.canRedo();
+    case When::RecentMap:
+      return command.id - kFirstRecentMap < recentMaps_.count();
+    case When::RecentKept:
+      return recentMaps_.count() > 0;
     case When::LeaksShown:
     case When::Never:
       return false;
@@ -127,7 +131,7 @@ std::string Editor::statusLine(const std::string& text) const {
 }
 
 void Editor::postStatus(const std::string& text, bool redraw) {
-  status_ = statusLine(text).substr(0, kMaxStatus);
+  status_ = CutText(statusLine(text), kMaxStatus);
   observer_.statusChanged(status_);
   if (redraw && currentMap()) carryOutRedraws();
 }

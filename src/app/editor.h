@@ -10,8 +10,10 @@
 #include "app/command.h"
 #include "app/observer.h"
 #include "app/place.h"
+#include "app/recent.h"
 #include "app/rescue.h"
 #include "app/windows.h"
+#include "base/files.h"
 #include "base/paths.h"
 #include "base/prompts.h"
 #include "camera/movement.h"
@@ -41,6 +43,13 @@ struct MapDocument {
   TextureSet textures;
   map model;  // model.name is the path, as given
   UndoHistory history;
+  FileStamp onDisk;             // of the file when it was read or written; none for a map without a file
+  FileStamp seenOnDisk;         // the last state of the file that the user knows of
+  bool fileLost = false;        // the file was there and is gone
+  int invalidAccepted = 0;      // so many brushes may be left out of the file without a question
+
+  // Whether closing it would lose something.
+  bool isUnsaved() const { return model.modified || fileLost; }
   std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 };
 
@@ -95,9 +104,17 @@ class Editor {
   // the list of open maps as it was. New and open refuse an eleventh map with a message box.
   void newMap();
   void openFile(const std::string& path);
-  // Writes a map to its path, or to the one given, which becomes its own. False, with a message box, when
-  // it could not be written: the map then stays modified and keeps its name.
-  bool saveDocument(MapDocument& document, const std::string& path);
+  // The same for files that nobody chose in a dialog just now: a map that is open already is shown, and
+  // what would be a fatal error is told in a message box. False when the file could not be opened.
+  bool showFile(const std::string& path);
+  // Writes a map to its path, or to the one given, which becomes its own. Asks before it leaves out brushes
+  // or, unless `mayReplace` says that it was asked already, replaces a file that is not the one read. False
+  // when it was not written, with a message box if it could not be: the map then stays modified and keeps
+  // its name.
+  bool saveDocument(MapDocument& document, const std::string& path, bool mayReplace = false);
+  // Looks whether the files of open maps changed and offers to read them again. To be called when something
+  // hints at it, while no dialog is open.
+  void checkDisk();
   void closeDocument(int index);
   // Reads the entity classes again.
   void reloadClasses();
@@ -170,6 +187,11 @@ class Editor {
   void undo();
   void redo();
 
+  RecentMaps& recentMaps() { return recentMaps_; }
+  const RecentMaps& recentMaps() const { return recentMaps_; }
+  // Opens a map of the list; one that is gone leaves it.
+  void openRecent(int index);
+
   // The clipboard of all open maps; none before the first copy.
   map* clipboard() const { return clipboard_.get(); }
   void copySelection();
@@ -203,7 +225,13 @@ class Editor {
   void openRescueCopy(const RescueCopy& copy);
   void dropRescueCopy(MapDocument& document);
   bool refuseSave(const std::string& text, MessageBox::Icon icon);
+  bool mayLeaveOut(MapDocument& document);
+  bool mayReplace(const MapDocument& document, const std::string& path);
+  void checkDisk(size_t index);
+  void reload(size_t index);
+  int indexOfFile(const std::string& path) const;
   std::unique_ptr<MapDocument> makeDocument();
+  std::unique_ptr<MapDocument> readDocument(const std::string& path);
   MapReadOptions readOptions();
   void offerFirstTexture(const MapDocument& from);
   void addDocument(std::unique_ptr<MapDocument> added);
@@ -245,6 +273,7 @@ class Editor {
   bool redraw2D_ = true;
   bool redraw3D_ = true;
   int autosaveTicks_ = 0;
+  RecentMaps recentMaps_;
   bool exiting_ = false;
 };
 

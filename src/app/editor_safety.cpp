@@ -1,5 +1,6 @@
 // Nothing is lost: the backup of the current map, and rescue copies of all that is not saved.
 #include "app/editor.h"
+#include "base/error.h"
 #include "base/files.h"
 #include "base/text.h"
 #include "mapfile/mapwriter.h"
@@ -14,9 +15,7 @@ bool hasContents(const map& m) { return m.world() && (m.world()->numbrushes() > 
 
 // Where the map lies, whatever folder the next editor starts in. A new map has no place yet.
 std::string placeOf(const std::string& name, const Settings& settings, const Paths& paths) {
-  const bool fixed = name == settings.newmap || name.starts_with('/') || name.starts_with('\\') ||
-                     (name.size() > 1 && name[1] == ':');
-  return fixed ? name : std::filesystem::absolute(paths.native(name)).string();
+  return name == settings.newmap ? name : paths.absolute(name);
 }
 
 std::string listOf(const std::vector<RescueCopy>& copies) {
@@ -46,7 +45,7 @@ int Editor::writeRescueCopies() {
   int kept = 0;
   for (int i = 0; i < mapCount(); ++i) {
     MapDocument& from = *document(i);
-    if (!from.model.modified || !hasContents(from.model)) continue;
+    if (!from.isUnsaved() || !hasContents(from.model)) continue;
     if (from.rescueFile.empty()) from.rescueFile = freeCopyFile();
     const std::string text =
         RescueFolder::header(placeOf(from.model.name, settings_, paths_)) + MapFileText(from.model, {});
@@ -86,12 +85,28 @@ void Editor::offerRescueCopies() {
   }
 }
 
+// A copy that cannot be read is put aside, or every start would stumble over it.
 void Editor::openRescueCopy(const RescueCopy& copy) {
-  openFile(copy.file.string());
-  current()->rescueFile = copy.file;
-  current()->model.name = copy.original;
-  current()->model.modified = true;
-  observer_.mapsChanged();
+  std::unique_ptr<MapDocument> rescued;
+  try {
+    const ErrorTrap trap;
+    rescued = readDocument(copy.file.string());
+  } catch (const TrappedError& error) {
+    const std::string kept = rescue_->putAside(copy).string();
+    prompts_.ask({.caption = kCannotOpen,
+                  .text = Format("%s\nThe copy is kept as %s", error.what(), kept.c_str()),
+                  .buttons = MessageBox::Buttons::Ok,
+                  .icon = MessageBox::Icon::Error});
+    return;
+  }
+  // A file written after the copy is to be asked about before it is replaced.
+  const FileStamp original = StampOf(paths_.native(copy.original));
+  rescued->seenOnDisk = original;
+  rescued->onDisk = original.seconds > rescued->onDisk.seconds ? FileStamp{} : original;
+  rescued->rescueFile = copy.file;
+  rescued->model.name = copy.original;
+  rescued->model.modified = true;
+  addDocument(std::move(rescued));
   postStatus(Format("Map [%s] rescued...", copy.original.c_str()));
 }
 

@@ -19,6 +19,10 @@ std::string Editor::labelOf(const Command& command) const {
   const UndoHistory* history = current() ? &current()->history : nullptr;
   if (command.id == kUndo) return named("Undo", history ? history->undoName() : "");
   if (command.id == kRedo) return named("Redo", history ? history->redoName() : "");
+  if (command.when == When::RecentMap && isEnabled(command)) {
+    const int index = command.id - kFirstRecentMap;
+    return RecentMapLabel(index, recentMaps_.at(index));
+  }
   return command.label;
 }
 

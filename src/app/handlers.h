@@ -9,6 +9,12 @@ namespace velk::commands {
 // Documents.
 void newMap(Editor& editor);
 void openMaps(Editor& editor);
+void openRecentMap(Editor& editor, int index);
+template <int index>
+void openRecentMap(Editor& editor) {
+  openRecentMap(editor, index);
+}
+void clearRecentMaps(Editor& editor);
 void closeMap(Editor& editor);
 void saveMap(Editor& editor);
 void saveMapAs(Editor& editor);

@@ -19,7 +19,8 @@ bool saveAs(Editor& editor, MapDocument& document) {
                                                  .directory = folderOf(editor, document.model.name),
                                                  .fileName = FileNamePart(document.model.name),
                                                  .kind = FileChooser::Kind::Save});
-  return path && editor.saveDocument(document, *path);
+  // The chooser asked already whether the file is to be replaced.
+  return path && editor.saveDocument(document, *path, true);
 }
 
 bool save(Editor& editor, MapDocument& document) {
@@ -30,7 +31,7 @@ bool save(Editor& editor, MapDocument& document) {
 
 // Asks what becomes of unsaved changes; false when the map has to stay open.
 bool mayClose(Editor& editor, MapDocument& document) {
-  if (!document.model.modified) return true;
+  if (!document.isUnsaved()) return true;
   const Answer answer =
       editor.prompts().ask({.caption = "Velk - Save Changes?",
                             .text = Format("Save changes to map %s?", document.model.name.c_str()),
@@ -62,6 +63,10 @@ void openMaps(Editor& editor) {
     if (full) return;
   }
 }
+
+void openRecentMap(Editor& editor, int index) { editor.openRecent(index); }
+
+void clearRecentMaps(Editor& editor) { editor.recentMaps().clear(); }
 
 void closeMap(Editor& editor) {
   MapDocument* document = editor.current();

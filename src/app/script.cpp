@@ -89,6 +89,7 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"release", 3, 3, "release VIEW X Y", &ScriptRunner::release},
       {"wheel", 4, 4, "wheel VIEW STEPS X Y", &ScriptRunner::wheel},
       {"print", 1, 3, "print WHAT", &ScriptRunner::print},
+      {"checkdisk", 0, 0, "checkdisk", &ScriptRunner::checkDisk},
       {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
       {"offer", 0, 0, "offer", &ScriptRunner::offer},
       {"tick", 0, 0, "tick", &ScriptRunner::tick},
@@ -234,6 +235,8 @@ void ScriptRunner::print(const Words& words) {
   for (const std::string& line : ScriptPrint(editor_, prompts_, words)) out_ << line << '\n';
   out_.flush();
 }
+
+void ScriptRunner::checkDisk(const Words&) { editor_.checkDisk(); }
 
 void ScriptRunner::image(const Words& words) {
   const ScriptView view = ScriptViewNamed(words[0].text);

@@ -64,6 +64,7 @@ class ScriptRunner {
   void release(const Words& words);
   void wheel(const Words& words);
   void print(const Words& words);
+  void checkDisk(const Words& words);
   void image(const Words& words);
   void offer(const Words& words);
   void tick(const Words& words);

@@ -13,9 +13,10 @@ namespace {
 struct ErrorState {
   ErrorHandler handler;
   bool reporting = false;
+  const ErrorPlace* place = nullptr;  // the innermost
 };
 
-// The one piece of program-wide state: how fatal errors reach the user.
+// The one piece of program-wide state: how fatal errors reach the user, and where they come from.
 ErrorState& state() {
   static ErrorState instance;
   return instance;
@@ -39,6 +40,19 @@ struct Report {
 ErrorHandler SetErrorHandler(ErrorHandler handler) {
   return std::exchange(state().handler, std::move(handler));
 }
+
+ErrorPlace::ErrorPlace(std::function<std::string()> describe)
+    : outer_(std::exchange(state().place, this)), describe_(std::move(describe)) {}
+
+ErrorPlace::~ErrorPlace() { state().place = outer_; }
+
+std::string WhereErrorsHappen() { return state().place ? state().place->describe_() : ""; }
+
+ErrorTrap::ErrorTrap()
+    : before_(SetErrorHandler([](const std::string& message) {
+        const std::string where = WhereErrorsHappen();
+        throw TrappedError(where.empty() ? message : message + "\n(" + where + ")");
+      })) {}
 
 void Error(const char* format, ...) {
   if (state().reporting) endProgram(0);

@@ -8,6 +8,7 @@
 
 #include "base/descriptor.h"
 #include "base/error.h"
+#include "base/filestamp.h"
 
 namespace velk {
 namespace {
@@ -37,6 +38,11 @@ size_t fill(int file, std::string& contents) {
 }
 
 }  // namespace
+
+FileStamp StampOf(const std::filesystem::path& file) {
+  struct stat info {};
+  return ::stat(file.c_str(), &info) == 0 ? StampOf(info) : FileStamp{};
+}
 
 ReadResult ReadFile(const std::filesystem::path& file) {
   // Without blocking, so that a named pipe nobody writes to does not hang the editor.

@@ -65,6 +65,13 @@ bool Paths::exists(std::string_view path) const {
   return !path.empty() && fs::exists(native(path), ignored);
 }
 
+std::string Paths::absolute(const std::string& path) const {
+  const bool fixed = path.empty() || isSeparator(path[0]) || hasDrive(path);
+  std::error_code failed;
+  const fs::path native = fixed ? fs::path() : fs::absolute(this->native(path), failed);
+  return native.empty() ? path : native.lexically_normal().string();
+}
+
 std::string FileNamePart(std::string_view path) {
   size_t at = path.size();
   while (at > 0 && !isSeparator(path[at - 1])) --at;

@@ -24,6 +24,10 @@ class Paths {
 
   bool exists(std::string_view path) const;
 
+  // The path made independent of the working directory: one that begins with a separator or a drive letter
+  // stays as given, another becomes the native path.
+  std::string absolute(const std::string& path) const;
+
  private:
   std::filesystem::path dataFolder_;
 };

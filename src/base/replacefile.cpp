@@ -1,12 +1,15 @@
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include "base/descriptor.h"
 #include "base/files.h"
+#include "base/filestamp.h"
 #include "base/text.h"
 
 namespace velk {
@@ -16,6 +19,7 @@ namespace fs = std::filesystem;
 
 constexpr int kMaxLinks = 40;
 constexpr int kMaxAttempts = 1000;
+constexpr std::time_t kLongestSave = 60;  // seconds
 
 // What is known of the file to be replaced.
 struct Target {
@@ -56,6 +60,39 @@ Target examine(const fs::path& file) {
   return target;
 }
 
+// The process that made a new file, by the file's name; 0 when it is none of ours.
+pid_t makerOf(const std::string& name) {
+  int process = 0;
+  int attempt = 0;
+  int end = 0;
+  const bool ours = std::sscanf(name.c_str(), ".velk-%d-%d.tmp%n", &process, &attempt, &end) == 2 &&
+                    end == static_cast<int>(name.size());
+  return ours && process > 0 ? process : 0;
+}
+
+// A kill leaves the new file behind. Processes of other machines and containers cannot be seen from here,
+// so that a young file may still be at work.
+bool isLeftBehind(const fs::directory_entry& entry) {
+  const pid_t maker = makerOf(entry.path().filename().string());
+  struct stat info {};
+  return maker > 0 && ::kill(maker, 0) != 0 && errno == ESRCH && ::lstat(entry.path().c_str(), &info) == 0 &&
+         S_ISREG(info.st_mode) && info.st_uid == ::geteuid() &&
+         std::time(nullptr) - info.st_mtim.tv_sec > kLongestSave;
+}
+
+void removeLeftBehind(const fs::path& folder) {
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    if (isLeftBehind(*entry)) ::unlink(entry->path().c_str());
+  }
+}
+
+fs::path folderOf(const Target& target) {
+  const fs::path folder = target.path.parent_path();
+  return folder.empty() ? "." : folder;
+}
+
 // Makes the new file in the target's folder under a name that no other editor uses. It starts out
 // private when it is to take over another mode.
 int createBeside(const Target& target, fs::path& beside) {
@@ -86,16 +123,19 @@ bool writeAll(int file, std::string_view contents) {
   return true;
 }
 
-bool writeAndFlush(Descriptor& file, const Target& target, std::string_view contents) {
+bool writeAndFlush(Descriptor& file, const Target& target, std::string_view contents, FileStamp& stamp) {
   if (!writeAll(file.get(), contents)) return false;
   if (target.exists) takeOver(file.get(), target.info);
-  return ::fsync(file.get()) == 0 && file.close();
+  struct stat written {};
+  if (::fsync(file.get()) != 0 || ::fstat(file.get(), &written) != 0) return false;
+  stamp = StampOf(written);
+  return file.close();
 }
 
 // Makes the renaming last. The new file is in place already, so a folder that cannot be flushed (some
 // network file systems) does not make the save fail.
 void flushFolder(const fs::path& folder) {
-  const Descriptor open(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (open.ok()) ::fsync(open.get());
 }
 
@@ -104,16 +144,19 @@ void flushFolder(const fs::path& folder) {
 WriteResult ReplaceFile(const fs::path& file, std::string_view contents) {
   const Target target = examine(file);
   if (!target.refusal.empty()) return {false, false, target.refusal};
+  removeLeftBehind(folderOf(target));
   fs::path beside;
   Descriptor fresh(createBeside(target, beside));
   if (!fresh.ok()) return {false, false, std::strerror(errno)};
-  if (!writeAndFlush(fresh, target, contents) || std::rename(beside.c_str(), target.path.c_str()) != 0) {
+  WriteResult result;
+  if (!writeAndFlush(fresh, target, contents, result.stamp) ||
+      std::rename(beside.c_str(), target.path.c_str()) != 0) {
     std::string reason = std::strerror(errno);
     ::unlink(beside.c_str());
     return {false, true, std::move(reason)};
   }
-  flushFolder(target.path.parent_path());
-  return {};
+  flushFolder(folderOf(target));
+  return result;
 }
 
 }  // namespace velk

@@ -53,6 +53,14 @@ std::string Format(const char* format, ...) {
   return result;
 }
 
+std::string CutText(std::string_view text, size_t bytes) {
+  if (text.size() > bytes) {
+    while (bytes > 0 && (static_cast<unsigned char>(text[bytes]) & 0xC0) == 0x80) --bytes;
+    text = text.substr(0, bytes);
+  }
+  return std::string(text);
+}
+
 std::optional<int> LeadingInt(std::string_view text) {
   skipBlanks(text);
   const bool negative = takeSign(text);

@@ -30,6 +30,9 @@ inline double TextToDouble(std::string_view text) { return TakeNumber(text).valu
 // Without the blanks and control characters at both ends.
 std::string_view Trimmed(std::string_view text);
 
+// The text's first bytes, at most so many, without a part of a UTF-8 character at their end.
+std::string CutText(std::string_view text, size_t bytes);
+
 // ASCII letters only; other bytes stay as they are.
 std::string LowerCase(std::string_view text);
 std::string UpperCase(std::string_view text);

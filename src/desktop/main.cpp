@@ -17,6 +17,7 @@
 #include "desktop/first_paint.h"
 #include "desktop/kit.h"
 #include "desktop/main_window.h"
+#include "desktop/path_text.h"
 #include "desktop/picture_prompts.h"
 #include "desktop/qt_prompts.h"
 #include "desktop/script_host.h"
@@ -60,25 +61,38 @@ bool hasDisplay() {
   _exit(status);
 }
 
-void failOnStandardError(const std::string& message) {
+void print(const std::string& message) {
   std::fprintf(stderr, "%s\n", message.c_str());
+  const std::string where = WhereErrorsHappen();
+  if (!where.empty()) std::fprintf(stderr, "(%s)\n", where.c_str());
+}
+
+void failOnStandardError(const std::string& message) {
+  print(message);
   leave(kFatalError);
 }
 
 void failInBox(const std::string& message) {
   CrashGuard::RunNow();
-  std::fprintf(stderr, "%s\n", message.c_str());
+  print(message);
   QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()),
                   QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(QString::fromLocal8Bit(WhereErrorsHappen().c_str()));
   box.exec();
   leave(0);
 }
 
 std::vector<std::string> textsOf(const QStringList& list) {
   std::vector<std::string> texts;
-  for (const QString& text : list) texts.push_back(text.toLocal8Bit().toStdString());
+  for (const QString& text : list) texts.push_back(PathBytes(text));
   return texts;
+}
+
+QStringList argumentsOf(int count, char** values) {
+  QStringList arguments;
+  for (int i = 0; i < count; ++i) arguments << PathText(values[i]);
+  return arguments;
 }
 
 // What the command line says.
@@ -87,9 +101,10 @@ struct Request {
   bool kit = false;
   bool timeStart = false;
 
-  void open(TVelkWindow& window) const {
-    window.openFiles(maps);
-    if (kit) window.openFiles({KitMap(window.editor().place())});
+  std::vector<std::string> files(const EditorPlace& place) const {
+    std::vector<std::string> all = maps;
+    if (kit) all.push_back(KitMap(place));
+    return all;
   }
 };
 
@@ -114,7 +129,7 @@ int runWindow(const Request& request) {
   window.keepState();
   showFitting(window);
   window.editor().offerRescueCopies();
-  request.open(window);
+  window.openFiles(request.files(window.editor().place()));
   return QApplication::exec();
 }
 
@@ -123,7 +138,7 @@ int runPicture(const Request& request, const std::string& picture) {
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setSettings(&window.editor().settings());
   window.start();
-  request.open(window);
+  for (const std::string& file : request.files(window.editor().place())) window.editor().openFile(file);
   window.show();
   if (window.savePicture(picture)) return 0;
   std::fprintf(stderr, "velk: couldn't write %s\n", picture.c_str());
@@ -146,9 +161,7 @@ int runProgram(CommandLine& line, const QStringList& arguments) {
   if (!parser.parse(arguments)) return refuse(parser.errorText());
   if (parser.isSet("help")) parser.showHelp(0);
   if (parser.isSet("version")) parser.showVersion();
-  const auto value = [&parser](const auto& option) {
-    return parser.value(option).toLocal8Bit().toStdString();
-  };
+  const auto value = [&parser](const auto& option) { return PathBytes(parser.value(option)); };
   const Request request{textsOf(parser.positionalArguments()), parser.isSet(line.kit),
                         parser.isSet(line.timeStart)};
   SetErrorHandler(line.isUnattended() ? failOnStandardError : failInBox);
@@ -161,10 +174,8 @@ int runProgram(CommandLine& line, const QStringList& arguments) {
 }  // namespace velk
 
 int main(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
   velk::CommandLine line;
-  const bool understood = line.parser.parse(arguments);
+  const bool understood = line.parser.parse(velk::argumentsOf(argc, argv));
   if (!line.needsDisplay()) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
   } else if (!velk::hasDisplay()) {
@@ -180,5 +191,6 @@ int main(int argc, char** argv) {
   QApplication::setApplicationVersion(VELK_VERSION);
   QApplication::setDesktopFileName("velk");
   QApplication::setWindowIcon(QIcon(":/icons/velk.svg"));
-  return velk::runProgram(line, QApplication::arguments());
+  // Without the arguments that Qt took for itself.
+  return velk::runProgram(line, velk::argumentsOf(argc, argv));
 }

@@ -68,7 +68,7 @@ void TVelkWindow::start() {
 }
 
 void TVelkWindow::openFiles(const std::vector<std::string>& files) {
-  for (const std::string& file : files) editor_.openFile(file);
+  for (const std::string& file : files) editor_.showFile(file);
 }
 
 // The windows' area, with the tabs above or below it.
@@ -121,6 +121,8 @@ void TVelkWindow::showEvent(QShowEvent* event) {
 void TVelkWindow::keepState() {
   keepsState_ = true;
   RestoreFrame(*this, editor_.place().stateFile());
+  editor_.recentMaps().keepIn(editor_.place().stateFile());
+  watch_ = new FileWatch(editor_, *this);
   // The session may end the program without closing the frame.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
 }
@@ -152,7 +154,8 @@ void TVelkWindow::dragEnterEvent(QDragEnterEvent* event) {
 void TVelkWindow::dropEvent(QDropEvent* event) {
   std::vector<std::string> files;
   for (const QUrl& url : event->mimeData()->urls()) {
-    if (url.isLocalFile()) files.push_back(url.toLocalFile().toLocal8Bit().toStdString());
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    if (url.isLocalFile()) files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
   }
   event->acceptProposedAction();
   openFiles(files);
@@ -219,6 +222,7 @@ void TVelkWindow::mapsChanged() {
   setWindowTitle(shown(editor_.title()));
   if (tabs_) tabs_->refresh();
   if (camera_) camera_->showTitle();
+  if (watch_) watch_->follow();
   commandsChanged();
 }
 

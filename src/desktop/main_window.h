@@ -13,6 +13,7 @@
 #include "desktop/brush_window.h"
 #include "desktop/camera_window.h"
 #include "desktop/child_windows.h"
+#include "desktop/file_watch.h"
 #include "desktop/help_window.h"
 #include "desktop/map_tabs.h"
 #include "desktop/plan_view_window.h"
@@ -30,7 +31,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   // Starts the editor and builds what shows it.
   void start();
   void openFiles(const std::vector<std::string>& files);
-  // From now on the frame has the size, place and bars of the last run, and remembers them for the next.
+  // For a window with a user: the frame has the size, place and bars of the last run and remembers them for
+  // the next, maps are listed as recent, and changes of their files are noticed.
   void keepState();
   // Writes a picture of the whole frame as PNG; false when it cannot be written.
   bool savePicture(const std::string& file);
@@ -68,6 +70,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   QLabel* message_;
   HelpWindow* help_ = nullptr;              // made when first asked for
   ReplaceDialog* replace_ = nullptr;        // as well
+  FileWatch* watch_ = nullptr;              // none without a user
   MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
   TSelectedBrushWindow* brush_ = nullptr;

@@ -46,6 +46,7 @@ void refresh(QAction& action, const Editor& editor) {
   if (!command) return;
   action.setText(itemText(*command, editor));
   action.setEnabled(editor.isEnabled(*command));
+  if (command->when == When::RecentMap) action.setVisible(action.isEnabled());
   if (action.isCheckable()) action.setChecked(editor.isChecked(*command));
 }
 

@@ -102,6 +102,14 @@ std::string_view WithoutMark(std::string_view text) {
   return text.starts_with(mark) ? text.substr(mark.size()) : text;
 }
 
+// Some tools end lines with CR alone, which would make a single comment of a file that starts with one.
+std::string_view WithLineFeeds(std::string_view text, std::string& changed) {
+  if (text.find('\n') != std::string_view::npos || text.find('\r') == std::string_view::npos) return text;
+  changed = text;
+  std::ranges::replace(changed, '\r', '\n');
+  return changed;
+}
+
 void Warn(const MapReadResult& result, const std::string& name) {
   if (result.cutPoints > 0) {
     std::printf("WARNING: [%s] plane points whose fractions were cut off: %i\n", name.c_str(),
@@ -119,6 +127,11 @@ entity& WorldOf(map& m) {
   world->isModel = true;
   world->setKey("classname", "worldspawn");
   return m.addobject(std::move(world));
+}
+
+// Most messages about a map's text do not say which map it is, some not even the line.
+std::string PlaceIn(const MapText& text, const std::string& name) {
+  return Format("reading [%s], line %i", name.c_str(), text.tokens.line());
 }
 
 void TakeGroups(map& m, const MapHeader& header, const MapReadOptions& options) {
@@ -263,7 +276,8 @@ MapReadResult ReadMapFile(map& m, const std::string& name, const MapReadOptions&
 
 MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name,
                           const MapReadOptions& options) {
-  text = WithoutMark(text);
+  std::string changed;
+  text = WithLineFeeds(WithoutMark(text), changed);
   RefuseBinary(text, name);
   MapHeader header = ReadMapHeader(text);
   m.clearEntities();
@@ -271,6 +285,7 @@ MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name
   std::copy(header.cameras.begin(), header.cameras.end(), m.cameras.begin());
 
   MapText reading(text, options);
+  const ErrorPlace place([&] { return PlaceIn(reading, name); });
   ReadEntities(m, reading, name);
   m.setCurrentEntity(&WorldOf(m));
   if (!header.camerasComplete) CamerasToPlayerStart(m);
@@ -293,9 +308,11 @@ MapReadResult MergeMapFile(map& m, const std::string& name, const MapReadOptions
 
 MapReadResult MergeMapText(map& m, std::string_view text, const std::string& name,
                            const MapReadOptions& options) {
-  text = WithoutMark(text);
+  std::string changed;
+  text = WithLineFeeds(WithoutMark(text), changed);
   RefuseBinary(text, name);
   MapText reading(text, options);
+  const ErrorPlace place([&] { return PlaceIn(reading, name); });
   entity& world = WorldOf(m);
   if (const auto fileWorld = MergeEntities(m, reading, name)) MoveBrushes(*fileWorld, world);
   m.setCurrentEntity(&world);

@@ -85,6 +85,7 @@ void loadWad(Wad& wad, const std::string& name, const WadServices& services, Ran
   Wad loaded;
   loaded.path = FindWad(name, services);
   if (!IsFile(services.paths, loaded.path)) Error("Texture:  Couldn't open wad file...");
+  const ErrorPlace place([&] { return "reading [" + name + "]"; });
   const std::string contents = LoadFileOr(services.paths, loaded.path, "Texture:  Couldn't open wad file...");
   loaded.palette = loadPalette(contents, loaded.path, services);
   BrightenPalette(loaded.palette, services.settings.gammashift);
