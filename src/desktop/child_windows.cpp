@@ -6,6 +6,7 @@
 #include <QProxyStyle>
 #include <QResizeEvent>
 #include <QStyleOption>
+#include <algorithm>
 
 namespace velk {
 namespace {
@@ -64,6 +65,14 @@ int share(int position, int from, int to) { return from > 0 ? (position * to + f
 ChildWindows::ChildWindows(QMdiArea& area) : QObject(&area), area_(area), titles_(new TitleStyle) {
   titles_->setParent(this);
   area_.viewport()->installEventFilter(this);
+  connect(&area_, &QMdiArea::subWindowActivated, this, [this] { raiseIcons(); });
+}
+
+// Windows shrunk to icons are not lost behind the others.
+void ChildWindows::raiseIcons() {
+  for (QMdiSubWindow* window : children_) {
+    if (window && window->isMinimized()) window->raise();
+  }
 }
 
 void ChildWindows::add(ToolWindow window, QWidget* content) {
@@ -121,9 +130,37 @@ void ChildWindows::minimise(ToolWindow window) {
   target.showMinimized();
 }
 
-void ChildWindows::cascade() { area_.cascadeSubWindows(); }
+// One below the title bar of the other, the front one last; the area's own cascade goes by what the
+// contents would like and makes some windows tiny.
+void ChildWindows::cascade() {
+  const QSize room = area_.viewport()->size() - QSize(0, iconHeight());
+  const QSize size = room * 2 / 3;
+  const QSize step = (room - size) / (kToolWindows - 1);
+  QPoint at(0, 0);
+  for (QMdiSubWindow* window : area_.subWindowList(QMdiArea::StackingOrder)) {
+    if (window->isMinimized()) continue;
+    window->showNormal();
+    window->setGeometry(QRect(at, size));
+    at += QPoint(step.width(), step.height());
+  }
+  arrangeIcons();
+}
 
-void ChildWindows::tile() { area_.tileSubWindows(); }
+void ChildWindows::tile() {
+  const QSize area = area_.viewport()->size();
+  area_.tileSubWindows();
+  keepShares(area, area - QSize(0, iconHeight()));
+  arrangeIcons();
+}
+
+// Of the row of icons; 0 when there are none.
+int ChildWindows::iconHeight() const {
+  int height = 0;
+  for (const QMdiSubWindow* window : children_) {
+    if (window->isMinimized()) height = std::max(height, window->height());
+  }
+  return height;
+}
 
 // Icons in a row along the bottom, as many as fit, then the next row above.
 void ChildWindows::arrangeIcons() {

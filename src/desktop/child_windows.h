@@ -41,6 +41,8 @@ class ChildWindows : public QObject, public WindowHost {
 
  private:
   QMdiSubWindow& child(ToolWindow window) const { return *children_[static_cast<size_t>(window)]; }
+  void raiseIcons();
+  int iconHeight() const;
   void keepShares(const QSize& from, const QSize& to);
 
   QMdiArea& area_;
