@@ -170,13 +170,20 @@ bool TVelkWindow::takesKeys() const {
          !qobject_cast<const QComboBox*>(focus) && !qobject_cast<const QAbstractSpinBox*>(focus);
 }
 
+// What cannot be run leaves its key to the menus' mnemonics. No command on Alt does anything without a map,
+// whether it is enabled or not.
+bool TVelkWindow::leftToMenus(const QKeyEvent& key, const Command& command) const {
+  const bool idle = editor_.mapCount() == 0 && key.modifiers().testFlag(Qt::AltModifier);
+  return idle || !editor_.canRun(command);
+}
+
 bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool override = event->type() == QEvent::ShortcutOverride;
   if (!override && event->type() != QEvent::KeyPress) return false;
   if (!watched->isWidgetType() || !takesKeys()) return false;
-  const Command* command = CommandForKey(*static_cast<QKeyEvent*>(event));
-  // What cannot be run leaves its key to the menus: Alt+F opens one while there is no face to texture.
-  if (!command || !editor_.canRun(*command)) return false;
+  const auto& key = *static_cast<QKeyEvent*>(event);
+  const Command* command = CommandForKey(key);
+  if (!command || leftToMenus(key, *command)) return false;
   event->accept();
   if (!override) editor_.run(*command);
   return true;

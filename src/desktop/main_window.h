@@ -64,6 +64,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void buildWindows();
   void rememberState() const;
   bool takesKeys() const;
+  bool leftToMenus(const QKeyEvent& key, const Command& command) const;
 
   Editor editor_;
   QMdiArea* area_;

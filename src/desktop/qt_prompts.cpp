@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -14,6 +15,7 @@ namespace velk {
 namespace {
 
 constexpr QSize kProgramIcon{64, 64};
+constexpr int kTitleButtons = 120;  // pixels a title bar needs besides its text
 
 QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
 std::string text(const QString& from) { return from.toLocal8Bit().toStdString(); }
@@ -65,6 +67,14 @@ QString suffixOf(const std::string& filter) {
   return text(pieces[1].substr(2));
 }
 
+// Boxes are as wide as their text, which may be shorter than the title.
+void makeRoomForTitle(QMessageBox& dialog) {
+  auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+  if (!grid) return;
+  const int width = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + kTitleButtons;
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // The first line of the text is the program's name.
 void presentProgram(QMessageBox& dialog) {
   const QString text = dialog.text();
@@ -83,6 +93,7 @@ Answer QtPrompts::ask(const MessageBox& box) {
   QMessageBox dialog(iconOf(box.icon), text(box.caption), text(box.text), buttonsOf(box.buttons), owner_);
   dialog.setTextFormat(Qt::PlainText);
   if (box.icon == MessageBox::Icon::Program) presentProgram(dialog);
+  makeRoomForTitle(dialog);
   switch (dialog.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;
