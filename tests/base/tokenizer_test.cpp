@@ -62,19 +62,15 @@ TEST(TokenizerTest, LongestToken) {
 }
 
 TEST(TokenizerTest, TokensMissingOnTheSameLine) {
-  const struct {
-    const char* afterTheFirst;
-    const char* message;
-  } cases[] = {
-      {"", "Line 1 is incomplete"},           {"  \t", "Line 1 is incomplete"},
-      {"\n2", "Line 1 is incomplete"},        {" // text\n2", "Line 1 is incomplete\n"},
-      {" // text", "Line 1 is incomplete\n"}, {" 2", ""},
+  const std::pair<std::string, std::string> cases[] = {
+      {"1", "Line 1 is incomplete"},           {"1  \t", "Line 1 is incomplete"},
+      {"1\n2", "Line 1 is incomplete"},        {"1 // text\n2", "Line 1 is incomplete\n"},
+      {"1 // text", "Line 1 is incomplete\n"}, {"1 2", ""},
   };
-  for (const auto& c : cases) {
-    const std::string text = std::string("1") + c.afterTheFirst;
+  for (const auto& [text, message] : cases) {
     Tokenizer tokenizer(text);
     tokenizer.GetScriptToken(true);
-    EXPECT_FATAL(tokenizer.GetScriptToken(false), c.message) << text;
+    EXPECT_FATAL(tokenizer.GetScriptToken(false), message) << text;
   }
 }
 
@@ -91,35 +87,21 @@ TEST(TokenizerTest, LineNumbers) {
 }
 
 TEST(TokenizerTest, GroupNumbersInComments) {
-  const struct {
-    const char* comment;
-    int group;
-  } cases[] = {
+  const std::pair<std::string, int> cases[] = {
       {"//\"0007\"", 7},   {"//\"12ab\" kept", 12}, {"//\"abcd\"", 0}, {"//plain words", 0},
       {"//\"12\"", 0},     {"//\"12\"345", 0},      {"//\"000", 0},    {"// \"0007\"", 0},
       {"//\"00\n7\"x", 0}, {"//\"0004\"\n//", 0},
   };
-  for (const auto& c : cases) {
-    const std::string text = std::string("//\"0009\"\n") + c.comment + "\n{";
+  for (const auto& [comment, group] : cases) {
+    const std::string text = "//\"0009\"\n" + comment + "\n{ //\"0008\"\n}";
     Tokenizer tokenizer(text);
     tokenizer.setCapture(true);
     EXPECT_TRUE(tokenizer.GetScriptToken(true));
-    EXPECT_EQ(tokenizer.capturedGroup(), c.group) << c.comment;
+    EXPECT_EQ(tokenizer.capturedGroup(), group) << comment;
+    tokenizer.setCapture(false);
+    EXPECT_TRUE(tokenizer.GetScriptToken(true));
+    EXPECT_EQ(tokenizer.capturedGroup(), group) << comment;
   }
-  Tokenizer tokenizer("//\"0007\"\n{ //\"0008\"\n}");
-  tokenizer.setCapture(true);
-  tokenizer.GetScriptToken(true);
-  tokenizer.setCapture(false);
-  tokenizer.GetScriptToken(true);
-  EXPECT_EQ(tokenizer.capturedGroup(), 7);
-}
-
-TEST(TokenizerTest, GoesOnWhereAFasterReaderStopped) {
-  Tokenizer tokenizer("( 1 2 3 ) name");
-  tokenizer.GetScriptToken(true);
-  tokenizer.setPosition(tokenizer.position() + 8);
-  ASSERT_TRUE(tokenizer.GetScriptToken(false));
-  EXPECT_EQ(tokenizer.token(), "name");
 }
 
 }  // namespace

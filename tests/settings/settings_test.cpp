@@ -12,64 +12,62 @@
 namespace velk {
 namespace {
 
-std::vector<std::string> KeysOf(const IniFile& ini) {
-  std::vector<std::string> keys;
+// The keys and sections of a file in their order, each with a blank after it.
+std::string KeysOf(const IniFile& ini) {
+  std::string keys;
   for (const std::string& line : Split(ini.text(), '\n')) {
-    if (!line.empty()) keys.push_back(line.substr(0, line.find('=')));
+    if (!line.empty()) keys += line.substr(0, line.find('=')) + ' ';
   }
   return keys;
 }
 
+struct DialogFiles {
+  explicit DialogFiles(const Settings& settings) {
+    StorePreferences(settings, preferences);
+    StoreColours(settings, colours);
+    StoreDirectories(settings, directories);
+  }
+  IniFile preferences, colours, directories;
+};
+
 TEST(SettingsTest, ValueForms) {
   const struct {
-    const char *key, *text, *held;
+    const char* key;
+    std::vector<std::pair<std::string, std::string>> held;  // as written, as held
   } cases[] = {
-      {"gridsize", "16 units", "16"},
-      {"gridsize", "x", "8"},
-      {"gridsize", "", "8"},
-      {"gridsize", "0", "1"},
-      {"far_clip_distance", "-100", "-100"},
-      {"far_clip_distance", "5", "-2"},
-      {"stepsize", "32.9", "32"},
-      {"stepsize", "0", "1"},
-      {"show_grid", "7", "1"},
-      {"show_coordinates", "0", "0"},
-      {"show_coordinates", "off", "1"},
-      {"newmap", "", "NEWMAP.MAP"},
-      {"wad_directory", "c:\\wads", "c:\\wads\\"},
-      {"wad_directory", "/wads/", "/wads/"},
-      {"wad_directory", "", "c:\\qbsp\\"},
-      {"texture_list_width", "-5", "80"},
-      {"texture_list_width", "500", "320"},
-      {"texture_list_width", "0", "0"},
-      {"flatlevel", "70", "63"},
-      {"lightintensity", "-3", "0"},
-      {"ambientintensity", "64", "63"},
-      {"min_epsilon", "0", "1e-06"},
-      {"min_epsilon", "-1", "1e-06"},
-      {"max_epsilon", ".25", "0.25"},
-      {"distance_epsilon", "x", "1"},
-      {"face_drag_percent", "29", "29"},
-      {"face_drag_percent", "90", "49"},
-      {"steps_per_turn", "0", "4"},
-      {"gammashift", "999999999999", "128"},
-      {"granularity", "40", "1"},
-      {"drag_brushes", "2", "2"},
-      {"undo_levels", "5000", "1000"},
-      {"brush_outline", "1 2 3", "1 2 3"},
-      {"brush_outline", "10 20", "10 20 255"},
-      {"brush_outline", "0x10,2", "16 255 255"},
-      {"brush_outline", "-5 999 x", "0 255 255"},
-      {"brush_outline", "", "255 255 255"},
-      {"START_SET->SCALE", "50", "50"},
+      {"gridsize", {{"16 units", "16"}, {"x", "8"}, {"", "8"}, {"0", "1"}}},
+      {"far_clip_distance", {{"-100", "-100"}, {"5", "-2"}}},
+      {"stepsize", {{"32.9", "32"}, {"x", "64"}, {"0", "1"}}},
+      {"show_grid", {{"7", "1"}}},
+      {"show_coordinates", {{"0", "0"}, {"off", "1"}}},
+      {"newmap", {{"", "NEWMAP.MAP"}}},
+      {"wad_directory", {{"c:\\wads", "c:\\wads\\"}, {"/wads/", "/wads/"}, {"", "c:\\qbsp\\"}}},
+      {"texture_list_width", {{"-5", "80"}, {"500", "320"}, {"0", "0"}}},
+      {"flatlevel", {{"70", "63"}}},
+      {"lightintensity", {{"-3", "0"}}},
+      {"ambientintensity", {{"64", "63"}}},
+      {"min_epsilon", {{"0", "1e-06"}}},
+      {"max_epsilon", {{".25", "0.25"}}},
+      {"distance_epsilon", {{"x", "1"}}},
+      {"face_drag_percent", {{"29", "29"}, {"90", "49"}}},
+      {"steps_per_turn", {{"0", "4"}}},
+      {"gammashift", {{"999999999999", "128"}}},
+      {"granularity", {{"40", "1"}}},
+      {"drag_brushes", {{"2", "2"}}},
+      {"undo_levels", {{"5000", "1000"}}},
+      {"brush_outline", {{"10 20", "10 20 255"}, {"0x10,2", "16 255 255"}, {"-5 999 x", "0 255 255"}}},
+      {"START_SET->SCALE", {{"50", "50"}}},
   };
-  for (const auto& c : cases) {
-    IniFile ini;
-    ini.set("velk", c.key, c.text);
-    EXPECT_EQ(SettingText(LoadSettings(ini), c.key), c.held) << c.key << "=" << c.text;
-    Settings settings;
-    EXPECT_TRUE(SetSettingText(settings, c.key, c.text));
-    EXPECT_EQ(SettingText(settings, c.key), c.held) << c.key << "=" << c.text;
+  for (const auto& [key, texts] : cases) {
+    for (const auto& [text, held] : texts) {
+      SCOPED_TRACE(key + ("=" + text));
+      IniFile ini;
+      ini.set("velk", key, text);
+      EXPECT_EQ(SettingText(LoadSettings(ini), key), held);
+      Settings settings;
+      EXPECT_TRUE(SetSettingText(settings, key, text));
+      EXPECT_EQ(SettingText(settings, key), held);
+    }
   }
   Settings settings;
   EXPECT_EQ(SettingText(settings, "no_such_key"), std::nullopt);
@@ -119,41 +117,20 @@ TEST(SettingsTest, EveryKeyIsItsOwn) {
 }
 
 TEST(SettingsTest, DialogsSaveTheirKeysInOrder) {
-  const Settings settings;
-  IniFile preferences, colours, directories;
-  StorePreferences(settings, preferences);
-  StoreColours(settings, colours);
-  StoreDirectories(settings, directories);
-  const std::vector<std::string> preferenceKeys = KeysOf(preferences);
-  ASSERT_EQ(preferenceKeys.size(), 39u);
-  EXPECT_EQ(preferenceKeys[1], "drag_vertex");
-  EXPECT_EQ(preferenceKeys[18], "start_set->scale");
-  EXPECT_EQ(preferenceKeys[35], "lock_cameras");
-  EXPECT_EQ(KeysOf(colours), std::vector<std::string>({"[VelkColors]",
-                                                       "fgcolor",
-                                                       "bgcolor",
-                                                       "majorgrid",
-                                                       "minorgrid",
-                                                       "color_gridlabel",
-                                                       "color_currentclipface",
-                                                       "color_otherclipface",
-                                                       "color_clipborder",
-                                                       "color_connection",
-                                                       "color_selection",
-                                                       "color_otherbrush",
-                                                       "color_hitcolor",
-                                                       "color_curfacecolor",
-                                                       "color_textureselection",
-                                                       "color_activecamera",
-                                                       "color_othercamera",
-                                                       "color_eyemarker",
-                                                       "[Velk]",
-                                                       "brush_outline",
-                                                       "select_outline",
-                                                       "face_outline"}));
-  EXPECT_EQ(KeysOf(directories),
-            std::vector<std::string>({"[Velk]", "map_directory", "entity_qc_directory", "wad_directory",
-                                      "bat_directory", "badtex", "newmap", "default_wad", "entities"}));
+  const DialogFiles files{Settings()};
+  const std::vector<std::string> preferences = Split(KeysOf(files.preferences), ' ');
+  ASSERT_EQ(preferences.size(), 40u) << "39 and nothing after the last blank";
+  EXPECT_EQ(preferences[1], "drag_vertex");
+  EXPECT_EQ(preferences[18], "start_set->scale");
+  EXPECT_EQ(preferences[35], "lock_cameras");
+  EXPECT_EQ(KeysOf(files.colours),
+            "[VelkColors] fgcolor bgcolor majorgrid minorgrid color_gridlabel color_currentclipface "
+            "color_otherclipface color_clipborder color_connection color_selection color_otherbrush "
+            "color_hitcolor color_curfacecolor color_textureselection color_activecamera color_othercamera "
+            "color_eyemarker [Velk] brush_outline select_outline face_outline ");
+  EXPECT_EQ(KeysOf(files.directories),
+            "[Velk] map_directory entity_qc_directory wad_directory bat_directory badtex newmap default_wad "
+            "entities ");
 }
 
 TEST(SettingsTest, PlacesOfADialogAreOneToN) {
@@ -167,29 +144,25 @@ TEST(SettingsTest, PlacesOfADialogAreOneToN) {
 
 TEST(SettingsTest, SavedValuesComeBack) {
   Settings settings;
-  settings.lock_cameras = true;
-  settings.texture_alignment = 0;
+  for (const SettingKey& key : SettingKeys()) {
+    const bool on = key.form == KeyForm::Flag && SettingText(settings, key.name) == "1";
+    if (key.savedBy != SavedBy::Nobody) SetSettingText(settings, key.name, on ? "0" : " 2 2 2 ");
+  }
   settings.face_drag_percent = 0.29;
   settings.stepsize = 12.75f;
   settings.scale = 0.125f;
-  settings.velk_font = " Sans ";
-  settings.entities = "a.qc;b.qc";
-  settings.colours.majorgrid = {1, 2, 3};
-  settings.face_outline = {4, 5, 6};
-  IniFile ini;
-  StorePreferences(settings, ini);
-  StoreColours(settings, ini);
-  StoreDirectories(settings, ini);
-  const Settings loaded = LoadSettings(IniFile::Parse(ini.text()));
-  EXPECT_TRUE(loaded.lock_cameras);
-  EXPECT_EQ(loaded.texture_alignment, 0);
+  SetSettingText(settings, "start_set->scale", "13");
+  const DialogFiles files(settings);
+  Settings loaded = LoadSettings(
+      IniFile::Parse(files.preferences.text() + files.colours.text() + files.directories.text()));
   EXPECT_DOUBLE_EQ(loaded.face_drag_percent, 0.29);
   EXPECT_EQ(loaded.stepsize, 12);
   EXPECT_FLOAT_EQ(loaded.scale, 0.13f);
-  EXPECT_EQ(loaded.velk_font, " Sans ");
-  EXPECT_EQ(loaded.entities, "a.qc;b.qc");
-  EXPECT_EQ(loaded.colours.majorgrid, (Colour{1, 2, 3}));
-  EXPECT_EQ(loaded.face_outline, (Colour{4, 5, 6}));
+  loaded.stepsize = settings.stepsize;
+  for (const SettingKey& key : SettingKeys()) {
+    if (key.savedBy == SavedBy::Nobody) continue;
+    EXPECT_EQ(SettingText(loaded, key.name), SettingText(settings, key.name)) << key.name;
+  }
 }
 
 }  // namespace
