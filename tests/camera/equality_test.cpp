@@ -24,7 +24,7 @@ class RandomScene : public TestScene {
     countingTexture("b", 32, 8, 100);
     countingTexture("c", 12, 20, 7);
     countingTexture("d", 5, 1, 50);
-    assets.palette = palette_.data();
+    if (below(8) != 0) assets.palette = palette_.data();
     if (below(8) != 0) assets.colormap = colormap_.data();
     assets.brushOutline = 251;
     assets.selectionOutline = 252;
@@ -49,7 +49,8 @@ class RandomScene : public TestScene {
   void chooseSettings() {
     settings.drawmode = 1 + below(2);
     settings.outline = below(3) == 0;
-    settings.shadetextures = settings.shadeflats = below(4) != 0;
+    settings.shadetextures = below(4) != 0;
+    settings.shadeflats = below(4) != 0;
     settings.groupmode = below(2) == 0;
     settings.filter.omitWater = below(4) == 0;
   }
@@ -60,7 +61,7 @@ class RandomScene : public TestScene {
   vec3 place() { return {float(below(33) - 16) * 8, float(below(33) - 16) * 8, float(below(17) - 8) * 8}; }
 
   void addSolid() {
-    const std::string texture(1, char('a' + below(4)));
+    const std::string texture(1, char('a' + below(5)));  // there is no "e"
     const vec3 low = place();
     const vec3 high = add(low, {float(1 + below(12)) * 8, float(1 + below(12)) * 8, float(1 + below(6)) * 8});
     brush* made = nullptr;

@@ -14,76 +14,65 @@ using test::TestMap;
 
 constexpr float kPi = float(std::numbers::pi);
 
-struct MoveCase {
-  CameraOutcome (*move)(map&, const Settings&);
-  const char* status;
-  vec3 moved;  // from (0, 0, 0) with step 64
-};
-
-// Yaw pi/2 looks along +x.
-const MoveCase kMoves[] = {
-    {MoveForward, "Forward...", {64, 0, 0}},
-    {MoveBackward, "Backward...", {-64, 0, 0}},
-    {StrafeLeft, "Strafe Left...", {0, 64, 0}},
-    {StrafeRight, "Strafe Right...", {0, -64, 0}},
-    {MoveUp, "Moving up...", {0, 0, 64}},
-    {MoveDown, "Moving down", {0, 0, -64}},
-    {MoveWest, "Left", {-64, 0, 0}},
-    {MoveEast, "Right", {64, 0, 0}},
-    {MoveNorth, "Up", {0, 64, 0}},
-    {MoveSouth, "Down", {0, -64, 0}},
-};
-
 TEST(Movement, MovesAlongTheHeadingOrTheAxes) {
-  for (const MoveCase& c : kMoves) {
-    SCOPED_TRACE(c.status);
+  const struct {
+    CameraOutcome (*move)(map&, const Settings&);
+    const char* status;
+    vec3 moved;  // from (0, 0, 0) with step 64, looking along +x
+  } cases[] = {
+      {MoveForward, "Forward...", {64, 0, 0}},
+      {MoveBackward, "Backward...", {-64, 0, 0}},
+      {StrafeLeft, "Strafe Left...", {0, 64, 0}},
+      {StrafeRight, "Strafe Right...", {0, -64, 0}},
+      {MoveUp, "Moving up...", {0, 0, 64}},
+      {MoveDown, "Moving down", {0, 0, -64}},
+      {MoveWest, "Left", {-64, 0, 0}},
+      {MoveEast, "Right", {64, 0, 0}},
+      {MoveNorth, "Up", {0, 64, 0}},
+      {MoveSouth, "Down", {0, -64, 0}},
+  };
+  for (const auto& c : cases) {
     TestMap t;
     t.m.activeCamera().yaw = kPi / 2;
     const CameraOutcome outcome = c.move(t.m, t.settings);
-    const vec3& at = t.m.activeCamera().origin;
-    EXPECT_NEAR(at.x, c.moved.x, 1e-4);
-    EXPECT_NEAR(at.y, c.moved.y, 1e-4);
-    EXPECT_NEAR(at.z, c.moved.z, 1e-4);
+    for (int axis = 0; axis < 3; ++axis) {
+      EXPECT_NEAR(t.m.activeCamera().origin[axis], c.moved[axis], 1e-4) << c.status;
+    }
     EXPECT_EQ(outcome.status, c.status);
     EXPECT_TRUE(outcome.redrawPlans && outcome.redrawCamera && outcome.follow && !outcome.recentre);
     EXPECT_FALSE(t.m.modified);
   }
 }
 
-struct TurnCase {
-  CameraOutcome (*turn)(map&, const Settings&);
-  const char* status;
-  float camera::*angle;
-  double before;
-  double after;
-  bool redrawPlans;
-};
-
 CameraOutcome TurnAroundHere(map& m, const Settings&) { return TurnAround(m); }
 
-const TurnCase kTurns[] = {
-    {TurnLeft, "Left", &camera::yaw, 0, kPi / 8, true},
-    {TurnLeft, "Left", &camera::yaw, 6.2, 6.2 - 15 * kPi / 8, true},
-    {TurnRight, "Right", &camera::yaw, 0, 15 * kPi / 8, true},
-    {TurnRight, "Right", &camera::yaw, 20, 20 - kPi / 8, true},  // one correction at most
-    {TurnAroundHere, "Turning around...", &camera::yaw, 5, 1.858407, false},
-    {TurnAroundHere, "Turning around...", &camera::yaw, 3, 6.141593, false},
-    {PitchUp, "Pitching up...", &camera::pitch, 1, 1 + kPi / 8, false},
-    {PitchDown, "Pitching down...", &camera::pitch, 0.1, 0.1 + 15 * kPi / 8, false},
-    {RollUp, "Rolling up...", &camera::roll, 6, 6 - 15 * kPi / 8, false},
-    {RollDown, "Rolling down...", &camera::roll, 1, 1 - kPi / 8, false},
-};
-
 TEST(Movement, TurnsAndWrapsOnce) {
-  for (const TurnCase& c : kTurns) {
-    SCOPED_TRACE(c.status);
+  const struct {
+    CameraOutcome (*turn)(map&, const Settings&);
+    const char* status;
+    float camera::*angle;
+    double before, after;
+    bool redrawPlans;
+  } cases[] = {
+      {TurnLeft, "Left", &camera::yaw, 0, kPi / 8, true},
+      {TurnLeft, "Left", &camera::yaw, 6.2, 6.2 - 15 * kPi / 8, true},
+      {TurnRight, "Right", &camera::yaw, 0, 15 * kPi / 8, true},
+      {TurnRight, "Right", &camera::yaw, 20, 20 - kPi / 8, true},  // one correction at most
+      {TurnAroundHere, "Turning around...", &camera::yaw, 5, 1.858407, false},
+      {TurnAroundHere, "Turning around...", &camera::yaw, 3, 6.141593, false},
+      {PitchUp, "Pitching up...", &camera::pitch, 1, 1 + kPi / 8, false},
+      {PitchDown, "Pitching down...", &camera::pitch, 0.1, 0.1 + 15 * kPi / 8, false},
+      {RollUp, "Rolling up...", &camera::roll, 6, 6 - 15 * kPi / 8, false},
+      {RollDown, "Rolling down...", &camera::roll, 1, 1 - kPi / 8, false},
+  };
+  for (const auto& c : cases) {
     TestMap t;
     t.m.activeCamera().*c.angle = float(c.before);
     const CameraOutcome outcome = c.turn(t.m, t.settings);
-    EXPECT_NEAR(t.m.activeCamera().*c.angle, c.after, 1e-5);
+    EXPECT_NEAR(t.m.activeCamera().*c.angle, c.after, 1e-5) << c.status;
     EXPECT_EQ(outcome.status, c.status);
-    EXPECT_EQ(outcome.redrawPlans, c.redrawPlans);
-    EXPECT_TRUE(outcome.redrawCamera && !outcome.follow);
+    EXPECT_EQ(outcome.redrawPlans, c.redrawPlans) << c.status;
+    EXPECT_TRUE(outcome.redrawCamera && !outcome.follow) << c.status;
   }
 }
 
@@ -98,16 +87,13 @@ TEST(Movement, ResetMakesTheCameraLevel) {
   EXPECT_EQ(c.yaw, 0);
 }
 
-struct FloorCase {
-  CameraOutcome (*go)(map&);
-  float eye;
-  float after;
-  const char* status;
-};
-
 // Tops at 0, 64 and 128 under the camera and one beside it.
 TEST(Movement, GoesToTheNextFloor) {
-  const FloorCase cases[] = {
+  const struct {
+    CameraOutcome (*go)(map&);
+    float eye, after;
+    const char* status;
+  } cases[] = {
       {FloorUp, 48, 112, "Moved up a floor"},  // feet exactly on the lowest floor
       {FloorUp, 176, 176, "Already at top level"},    {FloorDown, 100, 48, "Moved down a floor"},
       {FloorDown, 48, 48, "Already at bottom level"}, {FloorDown, 500, 176, "Moved down a floor"},
@@ -116,7 +102,7 @@ TEST(Movement, GoesToTheNextFloor) {
   for (const float top : {128.0f, 0.0f, 64.0f}) t.box({-64, -64, top - 8}, {64, 64, top});
   t.box({100, 100, 80}, {200, 200, 90});
   t.m.modified = false;
-  for (const FloorCase& c : cases) {
+  for (const auto& c : cases) {
     t.m.activeCamera().origin = {0, 0, c.eye};
     const CameraOutcome outcome = c.go(t.m);
     EXPECT_EQ(outcome.status, c.status);
@@ -127,15 +113,13 @@ TEST(Movement, GoesToTheNextFloor) {
   EXPECT_FALSE(t.m.modified);
 }
 
-struct ParameterCase {
-  CameraOutcome (*change)(Settings&);
-  float Settings::*value;
-  float before;
-  const char* status;
-};
-
 TEST(Movement, ParametersKeepTheirLimits) {
-  const ParameterCase cases[] = {
+  const struct {
+    CameraOutcome (*change)(Settings&);
+    float Settings::*value;
+    float before;
+    const char* status;
+  } cases[] = {
       {SmallerStep, &Settings::stepsize, 1.5f, "step: 1.50"},
       {SmallerStep, &Settings::stepsize, 2, "step: 1.00"},
       {LargerStep, &Settings::stepsize, 1024, "step: 1024.00"},
@@ -145,12 +129,10 @@ TEST(Movement, ParametersKeepTheirLimits) {
       {FartherFarLimit, &Settings::far_clip_distance, -8192, "zmax: -8256.00"},
       {FartherFarLimit, &Settings::far_clip_distance, -16380, "zmax: -16384.00"},
   };
-  for (const ParameterCase& c : cases) {
+  for (const auto& c : cases) {
     Settings settings;
     settings.*c.value = c.before;
-    const CameraOutcome outcome = c.change(settings);
-    EXPECT_EQ(outcome.status, c.status);
-    EXPECT_FALSE(outcome.redrawCamera);
+    EXPECT_EQ(c.change(settings).status, c.status);
   }
 }
 
@@ -180,9 +162,9 @@ TEST(Movement, ChoosesCameras) {
 
 TEST(Movement, ChoosesModesAndSizes) {
   Settings settings;
-  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Flat");
-  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Texture");
-  EXPECT_EQ(CycleDrawMode(settings).status, "Mode set to Wire");
+  for (const char* mode : {"Flat", "Texture", "Wire"}) {
+    EXPECT_EQ(CycleDrawMode(settings).status, std::string("Mode set to ") + mode);
+  }
   SetWindowQuality(settings);
   EXPECT_EQ(RenderSizeFor(settings, 511, 300), (RenderSize{511, 300}));
   EXPECT_EQ(SetRenderQuality(settings, 2).status, "Render Quality set to 160 x 80");

@@ -70,8 +70,10 @@ struct TestScene : TestMap {
 
  private:
   std::unique_ptr<TextureRef> makeRef(const std::string& name) const {
+    const auto found = images.find(name);
+    if (found == images.end()) return nullptr;
+    const Image& image = found->second;
     auto ref = std::make_unique<TextureRef>();
-    const Image& image = images.at(name);
     ref->name = name;
     ref->width = image.width;
     ref->height = image.height;

@@ -5,7 +5,7 @@
 
 #include "plan_fixture.h"
 #include "planview/viewpainter.h"
-#include "recording_canvas.h"
+#include "support/recording_canvas.h"
 
 namespace velk {
 namespace {

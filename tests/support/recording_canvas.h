@@ -15,6 +15,7 @@ class RecordingCanvas : public Canvas {
   // "fill #rrggbb x y w h", "line #rrggbb width x y - x y", "polygon #rrggbb width left top right bottom"
   // (its bounds), "points #rrggbb x,y x,y...", "text 'text' #rrggbb height x y".
   std::vector<std::string> strokes;
+  std::vector<std::vector<Pixel>> outlines;  // of the polygons
 
   void fill(const PixelRect& r, Colour colour) override {
     add("fill " + hex(colour) + Format(" %i %i %i %i", r.left, r.top, r.width, r.height));
@@ -23,6 +24,7 @@ class RecordingCanvas : public Canvas {
     add("line " + hex(pen.colour) + Format(" %i %i %i - %i %i", pen.width, from.x, from.y, to.x, to.y));
   }
   void polygon(const Pen& pen, std::span<const Pixel> points) override {
+    outlines.emplace_back(points.begin(), points.end());
     const auto [left, right] = std::ranges::minmax(points, {}, &Pixel::x);
     const auto [top, bottom] = std::ranges::minmax(points, {}, &Pixel::y);
     add("polygon " + hex(pen.colour) +
