@@ -120,9 +120,10 @@ TEST_F(RendererTest, FiltersGroupsAndPreviews) {
   copy.setBox({4, -3, -1}, {8, -1, 1}, test::Texture("2"));
   preview = [&](brush&) { return &copy; };
   EXPECT_EQ(draw()[1], "..1111..");
-  b.selected = true;
-  assets.selectionOutline = assets.faceOutline = 2;
-  EXPECT_EQ(draw()[1], "....222.");
+  b.selected = copy.selected = true;
+  assets.selectionOutline = 4;
+  assets.faceOutline = 3;  // the copy's current face is the one seen
+  EXPECT_EQ(draw()[1], "....433.");
 }
 
 TEST_F(RendererTest, SizesComeAndGo) {
