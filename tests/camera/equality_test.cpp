@@ -76,7 +76,7 @@ class RandomScene : public TestScene {
     definition.rotate = float(below(4)) * 30;
     definition.scale[0] = float(below(5) - 2) / 2;
     definition.scale[1] = float(below(5) - 2) / 2;
-    definition.shift[0] = float(below(100000) - 50000) * (below(3) ? 1.0f : 20000.0f);
+    definition.shift[0] = float(below(100000) - 50000) * (below(3) ? 1.0f : 40000.0f);
     made->setAllTexturedefs(definition);
   }
 

@@ -48,7 +48,7 @@ TEST_F(Pointer, MiddleButtonDragsTheView) {
 
 TEST_F(Pointer, OperationsAreTriedInOrderBeforeTheView) {
   std::string tried;
-  for (const char letter : {'a', 'b'}) {
+  for (const char letter : {'a', 'b', 'c'}) {
     pointer.operations.push_back([&tried, letter](const PlanPointerContext&, const PointerEvent& event) {
       tried += letter;
       PressResult result;
@@ -64,7 +64,7 @@ TEST_F(Pointer, OperationsAreTriedInOrderBeforeTheView) {
   event.shift = false;
   EXPECT_TRUE(pointer.press(context(), event).capture);
   pointer.press(context(), event);  // a second press during the drag
-  EXPECT_EQ(tried, "abab");
+  EXPECT_EQ(tried, "ababc");
   pointer.release(context(), event);
   event.at.y = 3;  // the header strip
   EXPECT_FALSE(pointer.press(context(), event).handled);
