@@ -8,7 +8,7 @@
 namespace velk {
 namespace {
 
-using test::TestMap;
+typedef test::MapTest PairTest, BrushListTest, MoveToEntityTest, EntityCopyTest, TargetNameTest, ClassTest;
 
 std::string Keys(const entity& e) {
   std::string keys;
@@ -16,9 +16,8 @@ std::string Keys(const entity& e) {
   return keys;
 }
 
-TEST(PairTest, LimitsAndBlanks) {
-  TestMap t;
-  entity& e = t.addEntity("func_door");
+TEST_F(PairTest, LimitsAndBlanks) {
+  entity& e = addEntity("func_door");
   const struct {
     std::string key, value, stored, message;
   } cases[] = {
@@ -36,21 +35,19 @@ TEST(PairTest, LimitsAndBlanks) {
   EXPECT_EQ(Keys(e), std::string(63, 'k') + " speed origin classname ");
 }
 
-TEST(PairTest, NewestFirstAndAChangedPairKeepsItsPlace) {
-  TestMap t;
-  entity& e = t.addEntity("func_door");
+TEST_F(PairTest, NewestFirstAndAChangedPairKeepsItsPlace) {
+  entity& e = addEntity("func_door");
   e.setKey("angle", "90");
   e.setKey("origin", "0 0 0");
   e.setKey("angle", "180");
   EXPECT_EQ(Keys(e), "origin angle classname ");
   EXPECT_EQ(e.valueOfKey("angle"), "180");
   EXPECT_EQ(e.valueOfKey("Angle"), "") << "keys differ by case";
-  EXPECT_EQ(Keys(*e.copy(t.m, entity::Copy::PairsOnly)), Keys(e));
+  EXPECT_EQ(Keys(*e.copy(m, entity::Copy::PairsOnly)), Keys(e));
 }
 
-TEST(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
-  TestMap t;
-  entity& e = t.addEntity("func_door");
+TEST_F(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
+  entity& e = addEntity("func_door");
   testing::internal::CaptureStdout();
   e.removeKeyPair("target");
   e.removeKeyPair("classname");
@@ -58,9 +55,8 @@ TEST(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "WARNING: removeKeyPair: target not found\n");
 }
 
-TEST(PairTest, ManyPairsAreFoundChangedAndRemovedAsFewAre) {
-  TestMap t;
-  entity& e = t.world();
+TEST_F(PairTest, ManyPairsAreFoundChangedAndRemovedAsFewAre) {
+  entity& e = world();
   const auto key = [](int i) { return "key" + std::to_string(i); };
   for (int i = 0; i < 200; ++i) e.setKey(key(i), std::to_string(i));
   e.setKey(key(7), "changed");
@@ -73,9 +69,8 @@ TEST(PairTest, ManyPairsAreFoundChangedAndRemovedAsFewAre) {
   EXPECT_EQ(std::ranges::distance(e.pairs()), 202);
 }
 
-TEST(PairTest, VectorsKeepMissingComponentsAtZero) {
-  TestMap t;
-  entity& e = t.addEntity("func_door");
+TEST_F(PairTest, VectorsKeepMissingComponentsAtZero) {
+  entity& e = addEntity("func_door");
   const struct {
     const char* text;
     vec3 expected;
@@ -87,85 +82,78 @@ TEST(PairTest, VectorsKeepMissingComponentsAtZero) {
   }
 }
 
-TEST(BrushListTest, TheLastBrushTakesTheFreedSlot) {
-  TestMap t;
+TEST_F(BrushListTest, TheLastBrushTakesTheFreedSlot) {
   std::vector<brush*> added;
-  for (int i = 0; i < 6; ++i) added.push_back(&t.cube(i));
+  for (int i = 0; i < 6; ++i) added.push_back(&cube(i));
   std::unique_ptr<entity> emptied;
-  const std::unique_ptr<brush> removed = t.world().removeObject(added[1], &emptied);
+  const std::unique_ptr<brush> removed = world().removeObject(added[1], &emptied);
   EXPECT_EQ(removed.get(), added[1]);
-  EXPECT_EQ(t.world().at(1), added[5]);
-  EXPECT_EQ(t.world().at(5), nullptr);
-  EXPECT_EQ(t.world().indexOf(added[4]), 4);
-  EXPECT_EQ(t.world().removeObject(added[1], nullptr), nullptr) << "no longer there";
-  EXPECT_EQ(t.world().indexOf(added[1]), -1);
+  EXPECT_EQ(world().at(1), added[5]);
+  EXPECT_EQ(world().at(5), nullptr);
+  EXPECT_EQ(world().indexOf(added[4]), 4);
+  EXPECT_EQ(world().removeObject(added[1], nullptr), nullptr) << "no longer there";
+  EXPECT_EQ(world().indexOf(added[1]), -1);
 }
 
-TEST(BrushListTest, HoldsAtMost4096) {
-  TestMap t;
-  while (t.world().numbrushes() < MAX_ENTITY_BRUSHES) t.world().addobject(std::make_unique<brush>());
-  EXPECT_FATAL(t.world().addobject(std::make_unique<brush>(&t.counters)),
-               "entity->addobject, too many objects");
-  EXPECT_EQ(t.world().numbrushes(), MAX_ENTITY_BRUSHES);
-  EXPECT_EQ(t.counters.brushesDestroyed, 1);
+TEST_F(BrushListTest, HoldsAtMost4096) {
+  while (world().numbrushes() < MAX_ENTITY_BRUSHES) world().addobject(std::make_unique<brush>());
+  EXPECT_FATAL(world().addobject(std::make_unique<brush>(&counters)), "entity->addobject, too many objects");
+  EXPECT_EQ(world().numbrushes(), MAX_ENTITY_BRUSHES);
+  EXPECT_EQ(counters.brushesDestroyed, 1);
 
-  brush& stays = *t.addPoint("light", {0, 0, 0}).at(0);
-  t.settings.multi_select = false;
-  EXPECT_FATAL(MoveToEntity(stays, t.world()), "entity->addobject, too many objects");
-  EXPECT_EQ(t.m.at(1)->at(0), &stays) << "still there to be rescued";
+  brush& stays = *addPoint("light", {0, 0, 0}).at(0);
+  settings.multi_select = false;
+  EXPECT_FATAL(MoveToEntity(stays, world()), "entity->addobject, too many objects");
+  EXPECT_EQ(m.at(1)->at(0), &stays) << "still there to be rescued";
 }
 
-TEST(BrushListTest, AnEmptiedEntityGoesButNotTheWorld) {
-  TestMap t;
-  entity& light = t.addPoint("light", {0, 0, 0});
-  t.m.setCurrentEntity(&light);
-  brush& b = t.cube(0);
+TEST_F(BrushListTest, AnEmptiedEntityGoesButNotTheWorld) {
+  entity& light = addPoint("light", {0, 0, 0});
+  m.setCurrentEntity(&light);
+  brush& b = cube(0);
   DestroyBrush(*light.at(0));
   DestroyBrush(b);
-  EXPECT_EQ(t.m.numentities(), 1);
-  EXPECT_TRUE(t.m.worldIsCurrent());
-  EXPECT_EQ(t.world().numbrushes(), 0);
-  EXPECT_EQ(t.counters.entitiesDestroyed, 1);
-  EXPECT_EQ(t.counters.brushesDestroyed, 2);
+  EXPECT_EQ(m.numentities(), 1);
+  EXPECT_TRUE(m.worldIsCurrent());
+  EXPECT_EQ(world().numbrushes(), 0);
+  EXPECT_EQ(counters.entitiesDestroyed, 1);
+  EXPECT_EQ(counters.brushesDestroyed, 2);
 }
 
-TEST(BrushListTest, ARemovedBrushLeavesItsDepthUnlessInvalid) {
-  TestMap t;
-  entity& door = t.addEntity("func_door");
-  brush& b = t.boxIn(door, {16, 16, 16}, {32, 32, 32});
+TEST_F(BrushListTest, ARemovedBrushLeavesItsDepthUnlessInvalid) {
+  entity& door = addEntity("func_door");
+  brush& b = boxIn(door, {16, 16, 16}, {32, 32, 32});
   const std::unique_ptr<brush> removed = RemoveFromEntity(b);
   EXPECT_EQ(removed->owner, nullptr) << "the door is gone";
-  EXPECT_TRUE(VecEqual(t.m.workLow(), {16, 16, 16}));
-  brush& invalid = t.box({64, 64, 64}, {64, 64, 64});
+  EXPECT_TRUE(VecEqual(m.workLow(), {16, 16, 16}));
+  brush& invalid = box({64, 64, 64}, {64, 64, 64});
   DestroyBrush(invalid);
-  EXPECT_TRUE(VecEqual(t.m.workLow(), {16, 16, 16}));
+  EXPECT_TRUE(VecEqual(m.workLow(), {16, 16, 16}));
 }
 
-TEST(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
-  TestMap t;
-  entity& door = t.addEntity("func_door");
-  brush& b = t.cube(0);
+TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
+  entity& door = addEntity("func_door");
+  brush& b = cube(0);
   MoveToEntity(b, door);
   EXPECT_EQ(b.owner, &door);
   EXPECT_EQ(b.color.z, 0.8f);
   EXPECT_EQ(door.at(0), &b);
   MoveToEntity(b, door);
-  EXPECT_EQ(t.m.indexOf(&door), 1) << "moving its only brush to itself keeps the door";
+  EXPECT_EQ(m.indexOf(&door), 1) << "moving its only brush to itself keeps the door";
 
-  brush& box = *t.addPoint("light", {0, 0, 0}).at(0);
-  t.settings.multi_select = true;
+  brush& box = *addPoint("light", {0, 0, 0}).at(0);
+  settings.multi_select = true;
   MoveToEntity(box, door);
   EXPECT_NE(box.owner, &door);
-  t.settings.multi_select = false;
+  settings.multi_select = false;
   MoveToEntity(box, door);
   EXPECT_EQ(box.owner, &door);
-  EXPECT_EQ(t.m.numentities(), 2) << "the light is gone";
+  EXPECT_EQ(m.numentities(), 2) << "the light is gone";
 }
 
-TEST(EntityCopyTest, ThreeKinds) {
-  TestMap t;
-  entity& door = t.addEntity("func_door");
-  t.boxIn(door, {0, 0, 0}, {8, 8, 8});
+TEST_F(EntityCopyTest, ThreeKinds) {
+  entity& door = addEntity("func_door");
+  boxIn(door, {0, 0, 0}, {8, 8, 8});
   const struct {
     entity::Copy kind;
     int brushes;
@@ -175,7 +163,7 @@ TEST(EntityCopyTest, ThreeKinds) {
                {entity::Copy::ForUndo, 1, false, &door},
                {entity::Copy::PairsOnly, 0, false, &door}};
   for (const auto& c : cases) {
-    const std::unique_ptr<entity> copy = door.copy(t.m, c.kind);
+    const std::unique_ptr<entity> copy = door.copy(m, c.kind);
     EXPECT_TRUE(copy->isModel);
     EXPECT_EQ(copy->source, c.source);
     ASSERT_EQ(copy->numbrushes(), c.brushes);
@@ -186,26 +174,24 @@ TEST(EntityCopyTest, ThreeKinds) {
   }
 }
 
-TEST(TargetNameTest, CountsOnFromTheLargest) {
-  TestMap t;
-  entity& e = t.addEntity("func_door");
+TEST_F(TargetNameTest, CountsOnFromTheLargest) {
+  entity& e = addEntity("func_door");
   EXPECT_EQ(e.makeTargetName(), "t1");
   EXPECT_EQ(e.makeTargetName(), "t1") << "it has one now";
   e.removeKeyPair("targetname");
   for (const char* name : {"t3", "t12", "door1", "tx", "t-40"})
-    t.addEntity("func_door").setKey("targetname", name);
-  t.world().setKey("targetname", "t99");
+    addEntity("func_door").setKey("targetname", name);
+  world().setKey("targetname", "t99");
   EXPECT_EQ(e.makeTargetName(), "t13");
 }
 
-TEST(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
-  TestMap t;
-  entity start(t.m);
+TEST_F(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
+  entity start(m);
   start.setClass("info_player_start");
   EXPECT_EQ(start.valueOfKey("origin"), "0 0 0") << "nothing is selected";
 
-  t.box({0.75f, -0.75f, 0}, {32, 32, 32}).selected = true;
-  entity placed(t.m);
+  box({0.75f, -0.75f, 0}, {32, 32, 32}).selected = true;
+  entity placed(m);
   placed.setClass("info_player_start");
   EXPECT_FALSE(placed.isModel);
   EXPECT_EQ(placed.valueOfKey("origin"), "16 15 24");
@@ -221,9 +207,8 @@ TEST(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
   EXPECT_EQ(placed.valueOfKey("origin"), "24 15 24");
 }
 
-TEST(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
-  TestMap t;
-  entity e(t.m);
+TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
+  entity e(m);
   e.setClass("monster_of_another_game");
   EXPECT_TRUE(e.isModel);
   EXPECT_EQ(e.numbrushes(), 0);

@@ -1,9 +1,11 @@
-// Maps and brushes for tests, in two or three lines: TestMap t; brush& b = t.box({0, 0, 0}, {64, 64, 64});
+// Maps and brushes for tests, in a line or two: brush& b = box({0, 0, 0}, {64, 64, 64});
 #pragma once
 
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include <gtest/gtest.h>
 
 #include "model/map.h"
 
@@ -63,9 +65,22 @@ struct TestMap {
     return boxIn(world(), mins, maxs, texture);
   }
 
+  // Every entity with its brushes, '*' for a selected one: "worldspawn -*- light *".
+  std::string summary() const {
+    std::string text;
+    for (const entity& e : m.entities()) {
+      text += (text.empty() ? "" : " ") + e.valueOfKey("classname") + ' ';
+      for (const brush& b : e.brushes()) text += b.selected ? '*' : '-';
+    }
+    return text;
+  }
+
   // A cube of 16 units at x = 32 * index, in a row that no two of share a side.
   brush& cube(int index) { return box({32.0f * index, 0, 0}, {32.0f * index + 16, 16, 16}); }
 };
+
+// Tests of one such map.
+struct MapTest : testing::Test, TestMap {};
 
 // A face through three points, seen from outside: (p0 - p1) x (p2 - p1) points out of the brush.
 inline face Face(const vec3& p0, const vec3& p1, const vec3& p2, std::string_view texture = "wall") {
