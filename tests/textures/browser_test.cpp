@@ -6,24 +6,17 @@ namespace velk {
 namespace {
 
 TEST(BrowserSteps, ButtonsStepAndWrap) {
-  struct Case {
+  using enum TextureField;
+  const struct {
     TextureField field;
     float before;
     int direction;
     const char* after;
-  };
-  using enum TextureField;
-  for (const Case& c : {Case{ShiftS, 3, 1, "4"},
-                        {ShiftT, -0.4f, -1, "-1"},
-                        {Rotate, 0, -1, "355"},
-                        {Rotate, 355, 1, "0"},
-                        {Rotate, -700, 1, "25"},
-                        {Rotate, 1e30f, 1, nullptr},
-                        {ScaleS, 1, 1, "1.1"},
-                        {ScaleS, 0.1f, -1, "-0.1"},
-                        {ScaleT, -0.1f, 1, "0.1"},
-                        {ScaleT, 0.2f, -1, "0.1"},
-                        {ScaleT, 0, 1, "0.1"}}) {
+  } cases[] = {{ShiftS, 3, 1, "4"},       {ShiftT, -0.4f, -1, "-1"},  {Rotate, 0, -1, "355"},
+               {Rotate, 355, 1, "0"},     {Rotate, -700, 1, "25"},    {Rotate, 1e30f, 1, nullptr},
+               {ScaleS, 1, 1, "1.1"},     {ScaleS, 0.1f, -1, "-0.1"}, {ScaleT, -0.1f, 1, "0.1"},
+               {ScaleT, 0.2f, -1, "0.1"}, {ScaleT, 0, 1, "0.1"}};
+  for (const auto& c : cases) {
     TextureBrowser browser;
     texturedef start = browser.current();
     float* const values[] = {&start.shift[0], &start.shift[1], &start.rotate, &start.scale[0],
@@ -59,15 +52,12 @@ TEST_F(BrowserSelection, SelectingKeepsTheNumbers) {
   EXPECT_EQ(browser.current().name, "FLOOR");
   browser.step(TextureField::Rotate, 1);
   EXPECT_TRUE(browser.selectTexture(set, 1));
-  EXPECT_FALSE(browser.selectTexture(set, 2));
-  EXPECT_FALSE(browser.selectTexture(set, -1));
+  for (const int outside : {-1, 2}) EXPECT_FALSE(browser.selectTexture(set, outside));
   EXPECT_EQ(browser.currentIndex(), 1);
-  EXPECT_EQ(browser.current().name, "WALL");
+  EXPECT_EQ(set.currentName + browser.current().name, "WALLWALL");
   EXPECT_EQ(browser.current().rotate, 5);
-  EXPECT_EQ(set.currentName, "WALL");
   browser.wadLoaded();
-  EXPECT_EQ(browser.currentIndex(), 0);
-  EXPECT_EQ(browser.current().rotate, 0);
+  EXPECT_TRUE(browser.currentIndex() == 0 && browser.current().rotate == 0);
 }
 
 TEST_F(BrowserSelection, LiftingTakesTheDefinition) {
@@ -75,11 +65,9 @@ TEST_F(BrowserSelection, LiftingTakesTheDefinition) {
   EXPECT_EQ(browser.current().rotate, 0);
   EXPECT_TRUE(browser.liftTexture({"none", 45, {1, 2}, {3, 4}}, &set));
   EXPECT_EQ(browser.currentIndex(), 0);
-  EXPECT_EQ(browser.current().rotate, 45);
   EXPECT_TRUE(browser.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set));  // the set's is WALL
   EXPECT_EQ(browser.currentIndex(), 1);
-  EXPECT_EQ(set.currentName, "WALL");
-  EXPECT_EQ(browser.current().name, "wall");
+  EXPECT_EQ(set.currentName + browser.current().name, "WALLwall");
   EXPECT_EQ(browser.current().rotate, 90);
 }
 

@@ -8,42 +8,32 @@
 namespace velk {
 namespace {
 
-class FaceTextures : public testing::Test {
- protected:
+struct FaceTextures : test::MapTest {
   FaceTextures() {
-    for (const char* texture : {"wall1", "Wall1", "floor"})
-      test.boxIn(test.world(), {0, 0, 0}, {8, 8, 8}, texture);
+    for (const char* texture : {"wall1", "Wall1", "floor"}) box({0, 0, 0}, {8, 8, 8}, texture);
     m.modified = false;
   }
-  brush& at(int index) { return *m.world()->at(index); }
+  brush& at(int index) { return *world().at(index); }
   std::string textureOf(int index, size_t face) { return at(index).faces[face].texture.name; }
 
-  test::TestMap test;
-  map& m = test.m;
   const texturedef brick{"brick", 45, {1.9f, -2.9f}, {0.5f, 2}};
 };
 
-TEST_F(FaceTextures, TheCurrentFaceOfTheCurrentBrushIsSet) {
+TEST_F(FaceTextures, AreSetOnTheCurrentFaceOrAllSelectedBrushes) {
   EXPECT_FALSE(SetFaceTexture(m, brick));
+  EXPECT_EQ(SetBrushTexture(m, brick), 0);
   EXPECT_FALSE(m.modified);
   at(1).selected = true;
   at(1).currentFace = 4;
   EXPECT_TRUE(SetFaceTexture(m, brick));
   EXPECT_TRUE(m.modified);
-  EXPECT_EQ(textureOf(1, 4), "brick");
   EXPECT_EQ(textureOf(1, 3), "Wall1");
   EXPECT_EQ(FaceListLine(at(1), 4), "(4)\tbrick\t1/-2\t45\t0.5/2.0");
   at(1).currentFace = 6;
   EXPECT_FATAL(SetFaceTexture(m, brick), "BnSetFaceTexture:  Bad face 6");
-}
-
-TEST_F(FaceTextures, AllFacesOfSelectedBrushesAreSet) {
-  EXPECT_EQ(SetBrushTexture(m, brick), 0);
-  at(0).selected = at(2).selected = true;
+  at(0).selected = true;
   EXPECT_EQ(SetBrushTexture(m, brick), 2);
-  EXPECT_EQ(textureOf(0, 5), "brick");
-  EXPECT_EQ(textureOf(1, 5), "Wall1");
-  EXPECT_EQ(textureOf(2, 0), "brick");
+  EXPECT_EQ(textureOf(0, 5) + textureOf(1, 3) + textureOf(2, 0), "brickbrickfloor");
 }
 
 TEST_F(FaceTextures, TheCurrentFaceStepsRound) {
@@ -60,30 +50,18 @@ TEST_F(FaceTextures, TheCurrentFaceStepsRound) {
   }
 }
 
-TEST_F(FaceTextures, ReplacingIgnoresCaseAndHiddenGroups) {
+TEST_F(FaceTextures, ReplacingAndSelectingIgnoreCaseAndHiddenGroups) {
   EXPECT_EQ(ReplaceTexture(m, "none", "brick").faces, 0);
   EXPECT_FALSE(m.modified);
-  test.settings.groupmode = true;
+  settings.groupmode = true;
   at(1).group = m.groups.add("hidden");
   m.groups.setVisible(at(1).group, false);
-  const ReplacedTextures done = ReplaceTexture(m, "WALL1", "brick2");
-  EXPECT_EQ(done.brushes, 1);
-  EXPECT_EQ(done.faces, 6);
-  EXPECT_EQ(textureOf(0, 2), "BRICK2");
-  EXPECT_EQ(textureOf(1, 2), "Wall1");
-  test.settings.groupmode = false;
-  EXPECT_EQ(ReplaceTexture(m, "wall1", "x").brushes, 1);
-}
-
-TEST_F(FaceTextures, SelectingByTextureAddsToTheSelection) {
-  at(0).selected = true;
+  at(2).selected = true;
   EXPECT_EQ(SelectByTexture(m, "WALL1"), 1);
-  EXPECT_TRUE(at(0).selected);
-  EXPECT_TRUE(at(1).selected);
-  EXPECT_FALSE(at(2).selected);
-  test.settings.groupmode = true;
-  at(2).group = 7;  // no such group
-  EXPECT_EQ(SelectByTexture(m, "floor"), 0);
+  EXPECT_EQ(summary(), "worldspawn *-*");
+  const ReplacedTextures done = ReplaceTexture(m, "WALL1", "brick2");
+  EXPECT_TRUE(done.brushes == 1 && done.faces == 6);
+  EXPECT_EQ(textureOf(0, 2) + textureOf(1, 2), "BRICK2Wall1");
 }
 
 }  // namespace

@@ -13,8 +13,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class TextureSetTest : public testing::Test {
- protected:
+struct TextureSetTest : test::MapTest {
   TextureSetTest() { settings.wad_directory = folder.directory(); }
 
   // Writes a wad of textures with these names.
@@ -32,14 +31,8 @@ class TextureSetTest : public testing::Test {
     for (int i = 0; i < set.count(); ++i) all.push_back(set.at(i).texture->name);
     return all;
   }
-  void box(const std::string& texture, int count) {
-    for (int i = 0; i < count; ++i) test.boxIn(test.world(), {0, 0, 0}, {8, 8, 8}, texture);
-  }
 
   test::TempFolder folder;
-  test::TestMap test;
-  Settings& settings = test.settings;
-  map& m = test.m;
   Paths paths;
   test::ScriptedPrompts prompts;
   TextureManager manager{{settings, paths, prompts}};
@@ -126,11 +119,10 @@ TEST_F(TextureSetTest, FrequentsAreThoseUsedMost) {
   recalculateFrequents(m, set);
   EXPECT_TRUE(set.frequents.empty());
 
-  box("A", 5);
-  box("b", 5);
-  box("c", 7);
-  box("+1d", 9);  // frames do not count for their head
-  box("none", 9);
+  // Frames do not count for their head.
+  for (const auto& [texture, count] : {std::pair{"A", 5}, {"b", 5}, {"c", 7}, {"+1d", 9}, {"none", 9}}) {
+    for (int i = 0; i < count; ++i) box({0, 0, 0}, {8, 8, 8}, texture);
+  }
   recalculateFrequents(m, set);
   EXPECT_EQ(set.frequents, (std::vector{2, 1, 0}));
   EXPECT_EQ(set.at(2).useCount, 42);
