@@ -7,20 +7,18 @@
 namespace velk {
 namespace {
 
-const std::string kHeader =
-    "//VELKGROUPS0003\n//VELKGROUPINFO\"None\" \"255 255 255\" \"1\"\n"
-    "//VELKGROUPINFO\"Walls and more\" \"1 2 3\" \"0\"\n//VELKGROUPINFO\"Odd\" \"red\" \"x\"\n"
-    "//VELKFAVORITES0010\n//brick1;+0button;*water\n"
-    "//VELKCAMERAS0005\n//\"1.5 -2.0 3.0 180 270 45\"\n//\"0.0 0.0 0.0 180 270 0\"\n//\"0.0 0.0 0.0 180 270 "
-    "0\"\n"
-    "//\"0.0 0.0 0.0 180 270 0\"\n//\"-7 8 9 -1 0x10 7\"\n";
-const std::string kWritten =
-    "//VELKGROUPS0003\n//VELKGROUPINFO\"None\" \"255 255 255\" \"1\"\n"
-    "//VELKGROUPINFO\"Walls and more\" \"1 2 3\" \"0\"\n//VELKGROUPINFO\"a 'b' \" \"9 9 9\" \"1\"\n"
-    "//VELKFAVORITES0010\n//brick1;+0button;*water\n"
-    "//VELKCAMERAS0005\n//\"1.5 -2.0 3.0 180 270 45\"\n//\"0.0 0.0 0.0 180 270 0\"\n//\"0.0 0.0 0.0 180 270 "
-    "0\"\n"
-    "//\"0.0 0.0 0.0 180 270 0\"\n//\"-7.0 8.0 9.0 -1 16 7\"\n";
+// A header whose last group and last camera are given.
+std::string Header(const std::string& group, const std::string& camera) {
+  std::string cameras = "//\"1.5 -2.0 3.0 180 270 45\"\n";
+  for (int i = 0; i < 3; ++i) cameras += "//\"0.0 0.0 0.0 180 270 0\"\n";
+  return "//VELKGROUPS0003\n//VELKGROUPINFO\"None\" \"255 255 255\" \"1\"\n"
+         "//VELKGROUPINFO\"Walls and more\" \"1 2 3\" \"0\"\n//VELKGROUPINFO" +
+         group + "\n//VELKFAVORITES0010\n//brick1;+0button;*water\n//VELKCAMERAS0005\n" + cameras + "//" +
+         camera + "\n";
+}
+
+const std::string kHeader = Header("\"Odd\" \"red\" \"x\"", "\"-7 8 9 -1 0x10 7\"");
+const std::string kWritten = Header("\"a 'b' \" \"9 9 9\" \"1\"", "\"-7.0 8.0 9.0 -1 16 7\"");
 
 TEST(MapHeader, ReadsEveryLineEndAndWritesItsBytes) {
   const std::string variants[] = {

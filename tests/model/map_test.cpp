@@ -16,29 +16,24 @@ TEST_F(NewMapTest, HasAWorldWithItsWads) {
   cube(0);
   m.groups.add("Walls");
   m.initNew("a.wad;b.wad");
-  EXPECT_EQ(m.numentities(), 1);
-  EXPECT_EQ(world().valueOfKey("classname"), "worldspawn");
+  EXPECT_EQ(summary(), "worldspawn ");
   EXPECT_EQ(world().valueOfKey("wad"), "a.wad;b.wad");
-  EXPECT_TRUE(world().isModel);
-  EXPECT_TRUE(m.worldIsCurrent());
-  EXPECT_EQ(m.brushCount(), 0);
+  EXPECT_TRUE(world().isModel && m.worldIsCurrent() && !m.modified);
   EXPECT_EQ(m.groups.count(), 1);
-  EXPECT_FALSE(m.modified);
 }
 
 TEST_F(EntityListTest, TheWorldStaysAndTheLastTakesAFreedSlot) {
-  entity& a = addEntity("func_door");
-  entity& b = addEntity("func_door");
-  entity& c = addEntity("func_door");
-  m.setCurrentEntity(&a);
+  std::vector<entity*> added;
+  for (int i = 0; i < 3; ++i) added.push_back(&addEntity("func_door"));
+  m.setCurrentEntity(added[0]);
   EXPECT_EQ(m.removeEntity(m.world()), nullptr);
-  const std::unique_ptr<entity> removed = m.removeEntity(&a);
-  EXPECT_EQ(removed.get(), &a);
+  const std::unique_ptr<entity> removed = m.removeEntity(added[0]);
+  EXPECT_EQ(removed.get(), added[0]);
   EXPECT_TRUE(m.worldIsCurrent());
-  EXPECT_EQ(m.at(1), &c);
-  EXPECT_EQ(m.indexOf(&b), 2);
+  EXPECT_EQ(m.at(1), added[2]);
+  EXPECT_EQ(m.indexOf(added[1]), 2);
   EXPECT_EQ(m.at(3), nullptr);
-  EXPECT_EQ(m.indexOf(&a), -1);
+  EXPECT_EQ(m.indexOf(added[0]), -1);
 }
 
 TEST_F(EntityListTest, HoldsAtMost1024) {
@@ -52,29 +47,25 @@ TEST_F(NoticeTest, TellsOfAnotherCurrentEntity) {
   entity& door = addEntity("func_door");
   m.notice = [&](MapNotice what) { heard.push_back(what); };
   m.modified = false;
-  m.setCurrentEntity(&door);
-  m.setCurrentEntity(&door);
-  EXPECT_EQ(heard, std::vector{MapNotice::CurrentEntity});
-  EXPECT_TRUE(m.modified);
+  for (int i = 0; i < 2; ++i) m.setCurrentEntity(&door);
   m.setWorkLow({0, 0, 0});
-  EXPECT_EQ(heard.back(), MapNotice::WorkRange);
+  EXPECT_EQ(heard, (std::vector{MapNotice::CurrentEntity, MapNotice::WorkRange}));
+  EXPECT_TRUE(m.modified);
 }
 
 TEST_F(SelectionTest, TheCurrentBrushComesFromTheCurrentEntityFirst) {
   entity& a = addEntity("func_door");
-  entity& b = addEntity("func_door");
-  brush& inWorld = cube(0);
-  brush& inA = boxIn(a, {0, 0, 0}, {8, 8, 8});
-  brush& inB = boxIn(b, {0, 0, 0}, {8, 8, 8});
   EXPECT_EQ(m.firstSelected(), nullptr);
-  inWorld.selected = inA.selected = inB.selected = true;
-  EXPECT_EQ(m.firstSelected(), &inWorld);
+  brush* const brushes[] = {&cube(0), &boxIn(a, {0, 0, 0}, {8, 8, 8}),
+                            &boxIn(addEntity("func_door"), {0, 0, 0}, {8, 8, 8})};
+  for (brush* b : brushes) b->selected = true;
+  EXPECT_EQ(m.firstSelected(), brushes[0]);
   EXPECT_EQ(m.selectedCount(), 1);
   EXPECT_EQ(m.totalSelected(), 3);
-  inWorld.selected = false;
-  EXPECT_EQ(m.firstSelected(), &inB) << "from the last entity on";
+  brushes[0]->selected = false;
+  EXPECT_EQ(m.firstSelected(), brushes[2]) << "from the last entity on";
   m.setCurrentEntity(&a);
-  EXPECT_EQ(m.firstSelected(), &inA);
+  EXPECT_EQ(m.firstSelected(), brushes[1]);
 }
 
 TEST_F(SelectionTest, CentreIsThatOfTheSelectionOrOfAll) {
