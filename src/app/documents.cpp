@@ -122,7 +122,7 @@ bool Editor::showFile(const std::string& path) {
     return mapCount() > before;
   } catch (const TrappedError& error) {
     prompts_.ask({.caption = kCannotOpen,
-                  .text = error.what(),
+                  .text = Format("Couldn't open %s\n\n%s", path.c_str(), error.what()),
                   .buttons = MessageBox::Buttons::Ok,
                   .icon = MessageBox::Icon::Error});
     return false;

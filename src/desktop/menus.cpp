@@ -45,8 +45,9 @@ void refresh(QAction& action, const Editor& editor) {
   const Command* command = FindCommand(action.data().toInt());
   if (!command) return;
   action.setText(itemText(*command, editor));
-  action.setEnabled(editor.isEnabled(*command));
-  if (command->when == When::RecentMap) action.setVisible(action.isEnabled());
+  const bool enabled = editor.isEnabled(*command);
+  action.setVisible(enabled || command->when != When::RecentMap);
+  action.setEnabled(enabled);
   if (action.isCheckable()) action.setChecked(editor.isChecked(*command));
 }
 

@@ -82,8 +82,9 @@ TEST(Recent, WhatCannotBeReadIsToldAndStaysListed) {
   session.editor.recentMaps().add(bad);
   session.answer("ok");
   EXPECT_TRUE(session.editor.run(*FindCommand(kFirstRecentMap)));
-  EXPECT_EQ(session.prompts.log().back(),
-            "message \"Velk - Cannot Open\" \"parsing map file\\n(reading [" + bad + "], line 4)\" ok");
+  EXPECT_EQ(session.prompts.log().back(), "message \"Velk - Cannot Open\" \"Couldn't open " + bad +
+                                              "\\n\\nparsing map file\\n(reading [" + bad +
+                                              "], line 4)\" ok");
   EXPECT_EQ(session.editor.mapCount(), 0);
   EXPECT_EQ(session.editor.recentMaps().count(), 1);
 }
