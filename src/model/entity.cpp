@@ -1,10 +1,10 @@
 #include "model/entity.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <limits>
 
 #include "base/error.h"
 #include "base/text.h"
@@ -18,17 +18,11 @@ const std::string kNoValue;
 // From here on looking through all pairs takes longer than an index.
 constexpr size_t kManyPairs = 64;
 
-constexpr std::string_view kBlanks = " \t\n\v\f\r";
-
-// Reads the next number and takes it off `text`; false at the end or at anything else.
-bool TakeNumber(std::string_view& text, float& number) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  if (text.starts_with('+')) text.remove_prefix(1);
-  float read = 0;
-  const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), read);
-  if (error != std::errc() || !std::isfinite(read)) return false;
-  text.remove_prefix(size_t(rest - text.data()));
-  number = read;
+// Takes the next number off `text`; false where there is none, or one beyond a float's range.
+bool TakeFloat(std::string_view& text, float& number) {
+  const std::optional<double> read = TakeNumber(text);
+  if (!read || std::fabs(*read) > std::numeric_limits<float>::max()) return false;
+  number = float(*read);
   return true;
 }
 
@@ -124,7 +118,7 @@ size_t entity::placeOf(std::string_view key) const {
 vec3 entity::vectorOfKey(std::string_view key) const {
   std::string_view text = valueOfKey(key);
   vec3 v;
-  (void)(TakeNumber(text, v.x) && TakeNumber(text, v.y) && TakeNumber(text, v.z));
+  (void)(TakeFloat(text, v.x) && TakeFloat(text, v.y) && TakeFloat(text, v.z));
   return v;
 }
 
