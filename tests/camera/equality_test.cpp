@@ -78,6 +78,7 @@ class RandomScene : public TestScene {
     definition.scale[1] = float(below(5) - 2) / 2;
     definition.shift[0] = float(below(100000) - 50000) * (below(3) ? 1.0f : 40000.0f);
     made->setAllTexturedefs(definition);
+    if (below(20) == 0) made->faces[size_t(below(5))].polygon = nullptr;
   }
 
   std::mt19937 random_;

@@ -76,16 +76,6 @@ TEST(Movement, TurnsAndWrapsOnce) {
   }
 }
 
-TEST(Movement, ResetMakesTheCameraLevel) {
-  TestMap t;
-  t.m.activeCamera() = {{1, 2, 3}, 1, 1, 1};
-  ResetAngles(t.m);
-  const camera& c = t.m.activeCamera();
-  EXPECT_TRUE(c.origin.x == 1 && c.yaw == 0);
-  EXPECT_FLOAT_EQ(c.roll, kPi);
-  EXPECT_FLOAT_EQ(c.pitch, 1.5f * kPi);
-}
-
 // Tops at 0, 64 and 128 under the camera, one beside it and one in no visible group.
 TEST(Movement, GoesToTheNextFloor) {
   const struct {

@@ -51,16 +51,6 @@ TEST_F(DispatcherTest, VisitsItsClassFromTheLastToTheFirst) {
   }
 }
 
-TEST_F(DispatcherTest, RefusesUnknownMethods) {
-  for (const int number : {-1, 16}) {
-    const Method method = static_cast<Method>(number);
-    EXPECT_FATAL(m.MUSPerform(method), "MUSPerform Unknown method...");
-    EXPECT_FATAL(m.MSPerform(method), "MSPerform Unknown method...");
-    EXPECT_FATAL(m.MAPerform(method), "MAPerform Unknown method...");
-    EXPECT_FATAL(m.MGPerform(method), "MGPerform Unknown method...");
-  }
-}
-
 TEST_F(DispatcherTest, AFatalMethodLeavesTheMapWhole) {
   for (int i = 0; i < 3; ++i) cube(i);
   m.perform.cut = [](brush& b) { b.setTexturedef({}, 99); };

@@ -91,6 +91,8 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   const MapSnapshot before = TakeSnapshot(m);
   const brush* kept = world().at(0);
   world().at(3)->translate(kStep);
+  world().at(2)->group = 1;
+  world().at(1)->selected = true;
   m.at(1)->setKey("light", "200");
   const MapSnapshot after = TakeSnapshot(m, &before);
   EXPECT_FALSE(SameContents(before, after));
@@ -101,6 +103,8 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   RestoreSnapshot(m, before, false);
   EXPECT_EQ(world().at(0), kept);
   EXPECT_EQ(world().at(3)->mins.x, 96);
+  EXPECT_EQ(world().at(2)->group, 0);
+  EXPECT_EQ(summary(), "worldspawn ---- light -");
   EXPECT_EQ(m.at(1)->valueOfKey("light"), "");
   EXPECT_FALSE(m.at(1)->isModel);
   EXPECT_TRUE(SameContents(before, TakeSnapshot(m)));

@@ -80,14 +80,6 @@ TEST_F(PlanFixture, FieldsShowCameraPositionAndDepth) {
   EXPECT_EQ(depthRangeText(set.currentView(), m), "  0.0  80.0  80.0");
 }
 
-TEST_F(PlanFixture, FollowsACameraUnlessLocked) {
-  EXPECT_FALSE(setPlanCenter(set, &m, {1, 2, 3}, true));
-  EXPECT_FALSE(setPlanCenter(set, nullptr, {1, 2, 3}, false));
-  EXPECT_EQ(set.planCenter.x, 0);
-  EXPECT_TRUE(setPlanCenter(set, &m, {1, 2, 3}, false));
-  EXPECT_EQ(set.planCenter.z, 3);
-}
-
 TEST(Nudge, MovesOneGridStepAlongTheViewsAxes) {
   const struct {
     Nudge direction;

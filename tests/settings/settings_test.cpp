@@ -85,16 +85,6 @@ TEST(SettingsTest, LongTextsAreCutAndLongPathsAreNot) {
   EXPECT_EQ(settings.map_directory, text + "\\");
 }
 
-TEST(SettingsTest, AnEmptyFileGivesTheDefaults) {
-  const Settings loaded = LoadSettings(IniFile());
-  Settings defaults;
-  defaults.granularity = 1;
-  for (const SettingKey& key : SettingKeys()) {
-    EXPECT_EQ(SettingText(loaded, key.name), SettingText(defaults, key.name)) << key.name;
-  }
-  EXPECT_EQ(loaded.scale, 1.0f);
-}
-
 // Finds a key bound to another's member, a key named twice and limits that exclude the default.
 TEST(SettingsTest, EveryKeyIsItsOwn) {
   std::set<std::string> names;

@@ -12,10 +12,10 @@ TEST(BrowserSteps, ButtonsStepAndWrap) {
     float before;
     int direction;
     const char* after;
-  } cases[] = {{ShiftS, 3, 1, "4"},       {ShiftT, -0.4f, -1, "-1"},  {Rotate, 0, -1, "355"},
-               {Rotate, 355, 1, "0"},     {Rotate, -700, 1, "25"},    {Rotate, 1e30f, 1, nullptr},
-               {ScaleS, 1, 1, "1.1"},     {ScaleS, 0.1f, -1, "-0.1"}, {ScaleT, -0.1f, 1, "0.1"},
-               {ScaleT, 0.2f, -1, "0.1"}, {ScaleT, 0, 1, "0.1"}};
+  } cases[] = {{ShiftS, 3, 1, "4"},           {ShiftT, -0.4f, -1, "-1"}, {Rotate, 0, -1, "355"},
+               {Rotate, 355, 1, "0"},         {Rotate, -700, 1, "25"},   {Rotate, 1e30f, 1, nullptr},
+               {Rotate, -5.0000005f, 1, "0"}, {ScaleS, 1, 1, "1.1"},     {ScaleS, 0.1f, -1, "-0.1"},
+               {ScaleT, -0.1f, 1, "0.1"},     {ScaleT, 0.2f, -1, "0.1"}, {ScaleT, 0, 1, "0.1"}};
   for (const auto& c : cases) {
     TextureBrowser browser;
     texturedef start = browser.current();
