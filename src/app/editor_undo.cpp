@@ -29,7 +29,7 @@ std::string Editor::labelOf(const Command& command) const {
 void Editor::beginChange() {
   before_.reset();
   changing_ = settings_.undo_levels > 1 ? current() : nullptr;
-  if (changing_) before_ = TakeSnapshot(current()->model);
+  if (changing_) before_ = TakeSnapshot(current()->model, current()->history.latest());
 }
 
 // Undo, redo and the closing of the map itself take the beginning back.

@@ -6,6 +6,8 @@
 namespace velk {
 namespace {
 
+constexpr size_t kPageSize = 64;  // brushes
+
 bool same(const texturedef& a, const texturedef& b) {
   return a.rotate == b.rotate && a.shift[0] == b.shift[0] && a.shift[1] == b.shift[1] &&
          a.scale[0] == b.scale[0] && a.scale[1] == b.scale[1] && a.name == b.name;
@@ -27,16 +29,27 @@ bool same(const std::vector<KeyPair>& a, const std::vector<KeyPair>& b) {
                     [](const KeyPair& x, const KeyPair& y) { return x.key == y.key && x.value == y.value; });
 }
 
-bool same(const std::vector<KeptBrush>& a, const std::vector<KeptBrush>& b) {
+bool same(const KeptPage& a, const KeptPage& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const KeptBrush& x, const KeptBrush& y) {
     return x.shape == y.shape && x.currentFace == y.currentFace && x.selected == y.selected &&
            x.hidden == y.hidden;
   });
 }
 
-bool sameShapes(const std::vector<KeptBrush>& a, const std::vector<KeptBrush>& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](const KeptBrush& x, const KeptBrush& y) { return x.shape == y.shape; });
+// Of entities that share what did not change.
+bool same(const KeptEntity& a, const KeptEntity& b) {
+  return a.isModel == b.isModel && a.pairs == b.pairs && a.pages == b.pages;
+}
+
+bool sameShapes(const std::shared_ptr<const KeptPage>& a, const std::shared_ptr<const KeptPage>& b) {
+  return a == b || std::equal(a->begin(), a->end(), b->begin(), b->end(),
+                              [](const KeptBrush& x, const KeptBrush& y) { return x.shape == y.shape; });
+}
+
+bool sameContents(const std::shared_ptr<const KeptEntity>& a, const std::shared_ptr<const KeptEntity>& b) {
+  return a == b ||
+         (a->isModel == b->isModel && (a->pairs == b->pairs || same(*a->pairs, *b->pairs)) &&
+          std::equal(a->pages.begin(), a->pages.end(), b->pages.begin(), b->pages.end(), sameShapes));
 }
 
 bool same(const group& a, const group& b) {
@@ -50,19 +63,31 @@ std::shared_ptr<const BrushShape> shapeOf(brush& b) {
   return b.kept;
 }
 
+KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace, b.selected, b.hidden}; }
+
 // The value itself, or the earlier one when that is equal, so that both snapshots share it.
 template <typename T>
-std::shared_ptr<const T> shared(T value, const std::shared_ptr<const T>* earlier) {
-  if (earlier && *earlier && same(value, **earlier)) return *earlier;
-  return std::make_shared<const T>(std::move(value));
+std::shared_ptr<const T> shared(const T& value, const std::shared_ptr<const T>& earlier) {
+  return earlier && same(value, *earlier) ? earlier : std::make_shared<const T>(value);
 }
 
-KeptEntity keep(entity& e, const KeptEntity* earlier) {
-  std::vector<KeptBrush> brushes;
-  brushes.reserve(static_cast<size_t>(e.numbrushes()));
-  for (brush& b : e.brushes()) brushes.push_back({shapeOf(b), b.currentFace, b.selected, b.hidden});
-  return {shared(e.pairsInOrder(), earlier ? &earlier->pairs : nullptr),
-          shared(std::move(brushes), earlier ? &earlier->brushes : nullptr), e.isModel};
+template <typename T>
+std::shared_ptr<const T> at(const std::vector<std::shared_ptr<const T>>& list, size_t index) {
+  return index < list.size() ? list[index] : nullptr;
+}
+
+std::shared_ptr<const KeptEntity> keep(entity& e, const std::shared_ptr<const KeptEntity>& earlier) {
+  KeptEntity kept;
+  kept.isModel = e.isModel;
+  kept.pairs = shared(e.pairsInOrder(), earlier ? earlier->pairs : nullptr);
+  KeptPage page;
+  for (brush& b : e.brushes()) {
+    page.push_back(keep(b));
+    if (page.size() < kPageSize && &b != e.at(e.numbrushes() - 1)) continue;
+    kept.pages.push_back(shared(page, earlier ? at(earlier->pages, kept.pages.size()) : nullptr));
+    page.clear();
+  }
+  return shared(kept, earlier);
 }
 
 // The map's brushes as they are, by their shapes.
@@ -95,16 +120,18 @@ std::unique_ptr<entity> restored(map& m, const KeptEntity& kept, BrushPool& pool
   auto made = std::make_unique<entity>(m);
   made->isModel = kept.isModel;
   for (const KeyPair& pair : *kept.pairs) made->setKey(pair.key, pair.value);
-  for (const KeptBrush& from : *kept.brushes) made->addobject(fromPool(pool, from, *made));
+  for (const auto& page : kept.pages) {
+    for (const KeptBrush& from : *page) made->addobject(fromPool(pool, from, *made));
+  }
   return made;
 }
 
 }  // namespace
 
 KeptEntity KeepBrush(const entity& owner, brush& b) {
-  const std::vector<KeptBrush> one{{shapeOf(b), b.currentFace, b.selected, b.hidden}};
   return {std::make_shared<const std::vector<KeyPair>>(owner.pairsInOrder()),
-          std::make_shared<const std::vector<KeptBrush>>(one), owner.isModel};
+          {std::make_shared<const KeptPage>(KeptPage{keep(b)})},
+          owner.isModel};
 }
 
 std::unique_ptr<brush> RestoreBrush(entity& owner, const KeptBrush& kept) {
@@ -130,9 +157,8 @@ MapSnapshot TakeSnapshot(map& m, const MapSnapshot* previous) {
   MapSnapshot taken;
   taken.entities.reserve(static_cast<size_t>(m.numentities()));
   for (int i = 0; i < m.numentities(); ++i) {
-    const auto index = static_cast<size_t>(i);
-    const bool earlier = previous && index < previous->entities.size();
-    taken.entities.push_back(keep(*m.at(i), earlier ? &previous->entities[index] : nullptr));
+    const auto earlier = previous ? at(previous->entities, static_cast<size_t>(i)) : nullptr;
+    taken.entities.push_back(keep(*m.at(i), earlier));
   }
   taken.currentEntity = m.indexOf(m.currentEntity());
   taken.groups = m.groups;
@@ -150,7 +176,7 @@ void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
   m.hits.clear();
   BrushPool pool = takeUnchanged(m);
   m.clearEntities();
-  for (const KeptEntity& kept : snapshot.entities) m.addobject(restored(m, kept, pool));
+  for (const auto& kept : snapshot.entities) m.addobject(restored(m, *kept, pool));
   m.setCurrentEntity(m.at(std::max(snapshot.currentEntity, 0)));
   m.groups = snapshot.groups;
   m.clip = snapshot.clip;
@@ -164,15 +190,11 @@ void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
 }
 
 bool SameContents(const MapSnapshot& a, const MapSnapshot& b) {
-  const auto sameEntity = [](const KeptEntity& x, const KeptEntity& y) {
-    return x.isModel == y.isModel && (x.pairs == y.pairs || same(*x.pairs, *y.pairs)) &&
-           (x.brushes == y.brushes || sameShapes(*x.brushes, *y.brushes));
-  };
   if (a.groups.count() != b.groups.count()) return false;
   for (int i = 0; i < a.groups.count(); ++i) {
     if (!same(a.groups.at(i), b.groups.at(i))) return false;
   }
-  return std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), sameEntity);
+  return std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), sameContents);
 }
 
 }  // namespace velk

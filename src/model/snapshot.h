@@ -23,14 +23,17 @@ struct KeptBrush {
   bool hidden = false;
 };
 
+// Some of an entity's brushes: a change costs the page that it is on, not the whole list.
+using KeptPage = std::vector<KeptBrush>;
+
 struct KeptEntity {
-  std::shared_ptr<const std::vector<KeyPair>> pairs;  // oldest first
-  std::shared_ptr<const std::vector<KeptBrush>> brushes;
+  std::shared_ptr<const std::vector<KeyPair>> pairs;   // oldest first
+  std::vector<std::shared_ptr<const KeptPage>> pages;  // all full but the last, none empty
   bool isModel = false;
 };
 
 struct MapSnapshot {
-  std::vector<KeptEntity> entities;
+  std::vector<std::shared_ptr<const KeptEntity>> entities;
   int currentEntity = 0;
   GroupList groups;
   clipper clip;
@@ -43,7 +46,7 @@ struct MapSnapshot {
 };
 
 // Takes a snapshot. Shares the shapes of brushes that are as they were at their last snapshot, and of
-// `previous`, when one is given, whole entities.
+// `previous`, when one is given, whole pages and entities.
 MapSnapshot TakeSnapshot(map& m, const MapSnapshot* previous = nullptr);
 
 // Makes the map what it was. Brushes that did not change stay the same objects; the others are built anew.

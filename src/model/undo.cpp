@@ -47,7 +47,7 @@ void UndoHistory::restoreOne(map& m, const OneBrush& kept) {
     m.addobject(RestoreEntity(m, kept.owner));
     return;
   }
-  std::unique_ptr<brush> copy = RestoreBrush(*owner, kept.owner.brushes->front());
+  std::unique_ptr<brush> copy = RestoreBrush(*owner, kept.owner.pages.front()->front());
   const int live = findBrush(*owner, kept.liveBrush);
   if (live >= 0) {
     owner->replaceAt(live, std::move(copy));
@@ -71,7 +71,7 @@ void UndoHistory::save(map& m, const std::string& name, UndoMode mode, int level
   } else if (brush* one = brushFor(m, mode, working)) {
     record.one = keepOne(*one);
   } else {
-    record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m));
+    record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m, latest()));
   }
   push(std::move(record), levels);
 }

@@ -86,7 +86,7 @@ TEST_F(UndoTest, LevelsGoBackAndForth) {
 }
 
 TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
-  for (int i = 0; i < 4; ++i) cube(i);
+  for (int i = 0; i < 70; ++i) cube(i);
   addPoint("light", {0, 0, 64});
   const MapSnapshot before = TakeSnapshot(m);
   const brush* kept = world().at(0);
@@ -96,9 +96,12 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   m.at(1)->setKey("light", "200");
   const MapSnapshot after = TakeSnapshot(m, &before);
   EXPECT_FALSE(SameContents(before, after));
-  EXPECT_EQ((*after.entities[0].brushes)[0].shape, (*before.entities[0].brushes)[0].shape);
-  EXPECT_NE((*after.entities[0].brushes)[3].shape, (*before.entities[0].brushes)[3].shape);
-  EXPECT_EQ(after.entities[1].brushes, before.entities[1].brushes);
+  const auto page = [](const MapSnapshot& of, size_t index) { return of.entities[0]->pages[index]; };
+  EXPECT_EQ((*page(after, 0))[0].shape, (*page(before, 0))[0].shape);
+  EXPECT_NE((*page(after, 0))[3].shape, (*page(before, 0))[3].shape);
+  EXPECT_EQ(page(after, 1), page(before, 1));
+  EXPECT_EQ(after.entities[1]->pages, before.entities[1]->pages);
+  EXPECT_EQ(TakeSnapshot(m, &after).entities, after.entities);
 
   RestoreSnapshot(m, before, false);
   EXPECT_EQ(world().at(0), kept);
