@@ -35,7 +35,11 @@ void Editor::tick() {
   if (mapCount() == 0 || ++autosaveTicks_ <= kFirstBackupTick) return;
   map& m = *currentMap();
   takeRescuePlace();
-  if (!rescue_->held() || m.world()->numbrushes() == 0) return;
+  if (m.world()->numbrushes() == 0) return;
+  if (!rescue_->held()) {
+    if (m.modified) postStatus("Autosaving failed: Velk's own folder cannot be written...");
+    return;
+  }
   const WriteResult written = ReplaceFile(rescue_->backupFile(), MapFileText(m, {}));
   postStatus(written.ok ? "Autosaving" : Format("Autosaving failed: %s", written.reason.c_str()));
 }
