@@ -19,22 +19,8 @@ struct ScriptLine {
   std::vector<ScriptWord> words;
 };
 
-// What is wrong with a script's words is the script's failure, not the editor's.
-class FailingErrors {
- public:
-  FailingErrors()
-      : before_(SetErrorHandler([](const std::string& message) { throw ScriptFailure(message); })) {}
-  ~FailingErrors() { SetErrorHandler(before_); }
-  FailingErrors(const FailingErrors&) = delete;
-  FailingErrors& operator=(const FailingErrors&) = delete;
-
- private:
-  ErrorHandler before_;
-};
-
 // Adds the lines read to `lines`, also when the text turns out to be malformed.
 void readLines(Tokenizer& tokens, std::vector<ScriptLine>& lines) {
-  const FailingErrors failing;
   while (tokens.GetScriptToken(true)) {
     if (lines.empty() || lines.back().number != tokens.line()) lines.push_back({tokens.line(), {}});
     lines.back().words.push_back({std::string(tokens.token()), tokens.quoted()});
@@ -102,8 +88,10 @@ ScriptResult ScriptRunner::run(std::string_view text) {
   std::vector<ScriptLine> lines;
   Tokenizer tokens(text);
   try {
+    // What is wrong with a script's words is the script's failure, not the editor's.
+    const ErrorTrap trap;
     readLines(tokens, lines);
-  } catch (const ScriptFailure& failure) {
+  } catch (const TrappedError& failure) {
     return {false, tokens.line(), failure.what()};
   }
   for (const ScriptLine& line : lines) {

@@ -24,6 +24,25 @@ TEST(ErrorTest, HandlerMayInstallAnother) {
   EXPECT_FATAL(Error("two"), "two");
 }
 
+TEST(ErrorTest, ATrapThrowsAndTheInnermostPlaceTellsWhere) {
+  const auto trapped = [] {
+    try {
+      const ErrorTrap trap;
+      Error("no good");
+    } catch (const TrappedError& error) {
+      return std::string(error.what());
+    }
+  };
+  EXPECT_EQ(trapped(), "no good");
+  const ErrorPlace outer([] { return std::string("reading a map"); });
+  {
+    const ErrorPlace inner([] { return std::string("reading its wad"); });
+    EXPECT_EQ(trapped(), "no good\n(reading its wad)");
+  }
+  EXPECT_EQ(trapped(), "no good\n(reading a map)");
+  EXPECT_FATAL(Error("after"), "after");
+}
+
 TEST(ErrorDeathTest, ErrorInsideAReportEndsTheProgramAtOnce) {
   const auto nested = [] {
     SetErrorHandler([](const std::string&) { Error("inner"); });

@@ -1,5 +1,6 @@
 #include "base/files.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 
@@ -88,6 +89,36 @@ TEST_F(FilesTest, ReplacesAndKeepsTheMode) {
     EXPECT_EQ(modeOf(file), mode);
   }
   EXPECT_EQ(folder_.entries(), 1);
+}
+
+TEST_F(FilesTest, StampsTellWritesAndReplacements) {
+  const fs::path file = folder_.path() / "a.map";
+  EXPECT_FALSE(StampOf(file).exists);
+  const FileStamp first = ReplaceFile(file, "one").stamp;
+  EXPECT_EQ(first, StampOf(file));
+  const FileStamp second = ReplaceFile(file, "two").stamp;
+  EXPECT_NE(first, second);
+  folder_.write("a.map", "three");
+  EXPECT_NE(second, StampOf(file));
+  EXPECT_TRUE(second.sameFile(StampOf(file)));
+}
+
+TEST_F(FilesTest, RemovesWhatKilledEditorsLeft) {
+  const struct {
+    std::string name;
+    int age;  // seconds
+    bool stays;
+  } cases[] = {{".velk-2147483647-0.tmp", 100, false},  // no process has this number
+               {".velk-2147483647-1.tmp", 0, true},
+               {".velk-" + std::to_string(::getppid()) + "-0.tmp", 100, true},
+               {".velk-2147483647-2.tmp2", 100, true},
+               {".velk--1-2.tmp", 100, true}};
+  for (const auto& c : cases) {
+    fs::last_write_time(folder_.write(c.name, "x"),
+                        fs::file_time_type::clock::now() - std::chrono::seconds(c.age));
+  }
+  EXPECT_TRUE(ReplaceFile(folder_.path() / "a.map", "new").ok);
+  for (const auto& c : cases) EXPECT_EQ(fs::exists(folder_.path() / c.name), c.stays) << c.name;
 }
 
 TEST_F(FilesTest, WritesThroughLinks) {

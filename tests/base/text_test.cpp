@@ -63,6 +63,13 @@ TEST(TextTest, LetterCaseConcernsAsciiLettersOnly) {
   EXPECT_FALSE(StartsWithNoCase("mon", "monster_"));
 }
 
+TEST(TextTest, CutsBetweenCharacters) {
+  for (const auto& [bytes, cut] :
+       {std::pair(9u, "a\u00e9\u20ac"), {6u, "a\u00e9\u20ac"}, {5u, "a\u00e9"}, {2u, "a"}, {0u, ""}}) {
+    EXPECT_EQ(CutText("a\u00e9\u20ac", bytes), cut) << bytes;
+  }
+}
+
 TEST(TextTest, Split) {
   using Pieces = std::vector<std::string>;
   EXPECT_EQ(Split("", ';'), Pieces());

@@ -1,5 +1,6 @@
 #include "mapfile/mapreader.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "mapfile/samplemap.h"
@@ -16,6 +17,12 @@ using test::SampleMap;
 const std::string kWorld = "{\n\"classname\" \"worldspawn\"\n" + Cube(0) + "}\n";
 const std::string kThreeGroups =
     "//VELKGROUPS0003\n//VELKGROUPINFO\"None\"\n//VELKGROUPINFO\"a\"\n//VELKGROUPINFO\"b\"\n";
+
+TEST(MapReader, EndsLinesAtCarriageReturnsWhereThereIsNoOther) {
+  std::string text = "//by hand\n" + kWorld;
+  std::ranges::replace(text, '\n', '\r');
+  EXPECT_EQ(SampleMap(text).m.world()->numbrushes(), 1);
+}
 
 TEST(MapReader, ReadsEntitiesWithTheirBrushesAndBoxes) {
   SampleMap sample("\xEF\xBB\xBF" + kWorld +
