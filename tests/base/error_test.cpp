@@ -7,21 +7,9 @@
 namespace velk {
 namespace {
 
-using test::FatalError;
-
 TEST(ErrorTest, HandlerGetsTheFormattedMessageAndMayThrowAgainAndAgain) {
   EXPECT_FATAL(Error("Line %i of %s", 7, "a.map"), "Line 7 of a.map");
   EXPECT_FATAL(Error("%s", std::string(5000, 'x').c_str()), std::string(5000, 'x'));
-}
-
-TEST(ErrorTest, HandlerMayInstallAnother) {
-  ErrorHandler before;
-  before = SetErrorHandler([&](const std::string& message) {
-    SetErrorHandler(before);
-    throw FatalError("replaced: " + message);
-  });
-  EXPECT_FATAL(Error("one"), "replaced: one");
-  EXPECT_FATAL(Error("two"), "two");
 }
 
 TEST(ErrorTest, ATrapThrowsAndTheInnermostPlaceTellsWhere) {
