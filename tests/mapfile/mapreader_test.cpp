@@ -65,10 +65,10 @@ TEST(MapReader, GroupCommentsReachTheirBrushes) {
 
 TEST(MapReader, GroupNamesAreCutToTheirLimit) {
   SampleMap sample;
-  const std::string text = "//VELKGROUPS0001\n//VELKGROUPINFO\"abcdefghijklmnopqrst\" \"1 2 3\" \"1\"\n";
+  const std::string text = "//VELKGROUPS0001\n//VELKGROUPINFO\"abcdefghijklmnopqrst\" \"999 2 -3\" \"1\"\n";
   sample.read(text);
   EXPECT_EQ(sample.m.groups.at(0).name, "abcdefghijklmno");
-  EXPECT_EQ(sample.m.groups.colour(0), (Colour{1, 2, 3}));
+  EXPECT_EQ(sample.m.groups.colour(0), (Colour{255, 2, 0}));
   MapReadOptions options;
   options.groupNameLength = GroupList::kMaxName;
   sample.read(text, options);

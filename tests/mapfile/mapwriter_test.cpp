@@ -67,8 +67,8 @@ TEST(MapWriter, TruncatesPointsAndQuotesWhatNeedsIt) {
               Format("{\r\n( 0 15 64 ) ( 0 0 -2147483648 ) ( 1 2 3 ) %s 0 0 89 0.500000 1.000000\r\n}\r\n",
                      written));
   }
-  sample.m.world()->setKey("message", "say \"hi\"\n");
-  EXPECT_NE(sample.text().find("\"message\"\t\"say 'hi'\n\"\r\n"), std::string::npos);
+  sample.m.world()->setKey("message", std::string("say \"hi\"\n\0.", 11));
+  EXPECT_NE(sample.text().find("\"message\"\t\"say 'hi'\n .\"\r\n"), std::string::npos);
 }
 
 TEST(MapWriter, LeavesOutInvalidBrushesAndKeepsLostOrigins) {

@@ -90,6 +90,7 @@ TEST_F(BuildTest, CornersOutOfRangeMakeTheBrushInvalid) {
 TEST_F(AddFaceTest, TooFewFacesLeftMakeTheBrushInvalidAndTooManyAreRefused) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
   while (b.numfaces() < MAX_FACES) b.faces.push_back(b.faces[0]);
+  b.buildWindings();
   EXPECT_FATAL(b.addFace(b.faces[0]), "addFace: numfaces == MAX_FACES");
   brush& cutAway = box({0, 0, 0}, {64, 64, 64});
   EXPECT_FALSE(cutAway.addFace(Face({0, 0, -8}, {0, 64, -8}, {64, 64, -8})));

@@ -137,6 +137,7 @@ TEST_F(Drawing, CamerasShrinkWithTheScaleAndLoseTheirNumbers) {
   EXPECT_EQ(draw().starting("text '5' #ffffff 9 95 95").size(), 1u);
   EXPECT_EQ(draw().starting("line").back(), "line #ffff00 1 95 100 - 111 100");
   EXPECT_EQ(draw().starting("points").size(), 6u);  // one dot each, and the leak points
+  EXPECT_EQ(draw().starting("points")[0], "points #ff0000 118,100");
   settings.scale = 0.25f;
   EXPECT_EQ(draw().starting("line").back(), "line #ffff00 1 99 100 - 103 100");
   EXPECT_TRUE(draw().starting("text '5'").empty());
