@@ -134,8 +134,7 @@ check() {
   elif ((rescues > saves)); then
     cmp -s "$map" $newest || fault "rescue copy $rescues of $1.map is lost"
   fi
-  ((rescues > saves || saves == 0)) || cmp -s "$map" $newest || take_copy "$map" ||
-    fault "save $saves of $1.map is lost"
+  ((rescues > saves || saves == 0)) || cmp -s "$map" $newest || fault "save $saves of $1.map is lost"
 }
 
 # The maps that rescue copies stand for.
@@ -205,7 +204,7 @@ taking_over() {
       kill_after "$(between 0 60)"
       kill_after "$(between 0 30)"
       ;;
-    *) launch first "$velk" --script ${answers[RANDOM % 2]} && kill_after "$(between 0 60)" ;;
+    *) launch first "$velk" --script "${answers[RANDOM % 2]}" && kill_after "$(between 0 60)" ;;
   esac
   [[ $(sort <(kept) <(put_aside)) == "$before" ]] || fault "rescue copies of others are lost"
   run_script no >/dev/null
