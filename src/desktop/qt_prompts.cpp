@@ -68,11 +68,14 @@ QString suffixOf(const std::string& filter) {
 }
 
 // Boxes are as wide as their text, which may be shorter than the title.
+int titleWidth(const QDialog& dialog) {
+  return dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + kTitleButtons;
+}
+
 void makeRoomForTitle(QMessageBox& dialog) {
-  auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
-  if (!grid) return;
-  const int width = dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + kTitleButtons;
-  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+    grid->addItem(new QSpacerItem(titleWidth(dialog), 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
 }
 
 // The first line of the text is the program's name.
@@ -131,6 +134,7 @@ std::optional<std::string> QtPrompts::input(const TextInput& input) {
   dialog.setLabelText(text(input.prompt));
   dialog.setTextValue(text(input.text));
   if (auto* line = dialog.findChild<QLineEdit*>()) line->setMaxLength(input.maxLength);
+  dialog.resize(dialog.sizeHint().expandedTo(QSize(titleWidth(dialog), 0)));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return text(dialog.textValue());
 }
