@@ -97,6 +97,10 @@ class Editor {
   bool canRun(const Command& command) const { return isEnabled(command) || command.when == When::RoomForMap; }
   bool isChecked(const Command& command) const { return command.checked && command.checked(*this); }
   bool run(const Command& command);
+  // Not shown in its menu: a place in the list of recent maps that is not taken.
+  bool isHidden(const Command& command) const {
+    return command.when == When::RecentMap && !isEnabled(command);
+  }
   // The command's label in the menu as things stand: undo and redo name what they would take back.
   std::string labelOf(const Command& command) const;
 

@@ -105,7 +105,9 @@ std::string menuLine(const Editor& editor, const Command& command) {
 // Rows without a menu item stand last in the table.
 Lines menuLines(Editor& editor) {
   Lines lines;
-  for (const Command& command : Commands()) lines.push_back(menuLine(editor, command));
+  for (const Command& command : Commands()) {
+    if (!editor.isHidden(command)) lines.push_back(menuLine(editor, command));
+  }
   return lines;
 }
 

@@ -45,9 +45,8 @@ void refresh(QAction& action, const Editor& editor) {
   const Command* command = FindCommand(action.data().toInt());
   if (!command) return;
   action.setText(itemText(*command, editor));
-  const bool enabled = editor.isEnabled(*command);
-  action.setVisible(enabled || command->when != When::RecentMap);
-  action.setEnabled(enabled);
+  action.setVisible(!editor.isHidden(*command));
+  action.setEnabled(editor.isEnabled(*command));
   if (action.isCheckable()) action.setChecked(editor.isChecked(*command));
 }
 
