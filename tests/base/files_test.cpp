@@ -91,18 +91,6 @@ TEST_F(FilesTest, ReplacesAndKeepsTheMode) {
   EXPECT_EQ(folder_.entries(), 1);
 }
 
-TEST_F(FilesTest, StampsTellWritesAndReplacements) {
-  const fs::path file = folder_.path() / "a.map";
-  EXPECT_FALSE(StampOf(file).exists);
-  const FileStamp first = ReplaceFile(file, "one").stamp;
-  EXPECT_EQ(first, StampOf(file));
-  const FileStamp second = ReplaceFile(file, "two").stamp;
-  EXPECT_NE(first, second);
-  folder_.write("a.map", "three");
-  EXPECT_NE(second, StampOf(file));
-  EXPECT_TRUE(second.sameFile(StampOf(file)));
-}
-
 TEST_F(FilesTest, RemovesWhatKilledEditorsLeft) {
   const struct {
     std::string name;
