@@ -107,7 +107,7 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   EXPECT_EQ(world().at(0), kept);
   EXPECT_EQ(world().at(3)->mins.x, 96);
   EXPECT_EQ(world().at(2)->group, 0);
-  EXPECT_EQ(summary(), "worldspawn ---- light -");
+  EXPECT_EQ(summary(), "worldspawn " + std::string(70, '-') + " light -");
   EXPECT_EQ(m.at(1)->valueOfKey("light"), "");
   EXPECT_FALSE(m.at(1)->isModel);
   EXPECT_TRUE(SameContents(before, TakeSnapshot(m)));
