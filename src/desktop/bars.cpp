@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QToolButton>
 #include <algorithm>
 
 #include "base/text.h"
@@ -28,7 +29,6 @@ QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_st
 }  // namespace
 
 TextureList::TextureList(Editor& editor) : editor_(editor) {
-  setFixedWidth(editor.settings().texture_list_width);
   // Keys stay the editor's: the list takes them only while it is open.
   setFocusPolicy(Qt::NoFocus);
   setToolTip(tr("Current texture"));
@@ -84,6 +84,19 @@ TVelkControlBar::TVelkControlBar(int number, const ButtonBar& gadgets, Editor& e
         break;
     }
   }
+  connect(this, &QToolBar::orientationChanged, this, &TVelkControlBar::fitOrientation);
+  fitOrientation();
+}
+
+// A list does not widen an upright bar. The arrow is on the button for what does not fit; the style's own is
+// black in every palette.
+void TVelkControlBar::fitOrientation() {
+  const bool upright = orientation() == Qt::Vertical;
+  for (TextureList* list : lists_) {
+    list->setFixedWidth(upright ? iconSize().width() * 2 : editor_.settings().texture_list_width);
+  }
+  auto* rest = findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+  if (rest) rest->setIcon(CommandIcon(upright ? "moredown" : "more"));
 }
 
 void TVelkControlBar::addButton(const Command& command) {

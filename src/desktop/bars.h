@@ -41,6 +41,7 @@ class TVelkControlBar : public QToolBar {
   };
 
   void addButton(const Command& command);
+  void fitOrientation();
 
   Editor& editor_;
   std::vector<Button> buttons_;

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QToolBar>
 #include <string>
 
@@ -22,15 +23,23 @@ void write(IniFile& file, const char* key, const QByteArray& bytes) {
   file.set(kSection, key, bytes.toBase64().toStdString());
 }
 
-// A bar that floated on a screen that is gone could not be caught again: it goes back to the frame.
-void dockLostBars(QMainWindow& frame) {
-  for (QToolBar* bar : frame.findChildren<QToolBar*>()) {
-    if (!bar->isFloating() || QGuiApplication::screenAt(bar->geometry().center())) continue;
-    const bool hidden = bar->isHidden();
-    frame.removeToolBar(bar);
-    frame.addToolBar(bar);
-    bar->setHidden(hidden);
+// Qt keeps restored bars from the window manager, as if they were being dragged, and shows them before the
+// frame; both lets them sink below it. A bar whose handle is on no screen could not be caught again: it goes
+// back to the frame.
+void settleFloating(QMainWindow& frame, QToolBar& bar) {
+  const QRect place = bar.geometry();
+  const bool hidden = bar.isHidden();
+  bar.setWindowFlag(Qt::X11BypassWindowManagerHint, false);
+  bar.setGeometry(place);
+  if (!QGuiApplication::screenAt(place.topLeft())) {
+    frame.removeToolBar(&bar);
+    frame.addToolBar(&bar);
   }
+  if (hidden) return;
+  QTimer::singleShot(0, &bar, [&bar] {
+    bar.hide();
+    bar.show();
+  });
 }
 
 }  // namespace
@@ -39,7 +48,9 @@ void RestoreFrame(QMainWindow& frame, const std::filesystem::path& stateFile) {
   const IniFile file = IniFile::Load(stateFile);
   frame.restoreGeometry(read(file, kGeometry));
   frame.restoreState(read(file, kBars));
-  dockLostBars(frame);
+  for (QToolBar* bar : frame.findChildren<QToolBar*>()) {
+    if (bar->isFloating()) settleFloating(frame, *bar);
+  }
 }
 
 void RememberFrame(const QMainWindow& frame, const std::filesystem::path& stateFile) {

@@ -27,6 +27,7 @@ constexpr QSize kFirstSize{1280, 800};
 constexpr QSize kProgressSize{250, 20};
 constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
 constexpr std::chrono::seconds kTick{10};
+constexpr std::chrono::milliseconds kMaximising{200};
 
 QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
@@ -109,13 +110,18 @@ void TVelkWindow::buildWindows() {
   editor_.setWindows(*children_);
 }
 
-// The first layout waits for the frame to have its size.
+// The first layout waits for the frame to have its size. A maximised frame gets it from the window manager,
+// soon; the layout then grows with it, but saved arrangements are for that size.
 void TVelkWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (arranged_) return;
   arranged_ = true;
   children_->layOut();
-  editor_.loadArrangements();
+  if (isMaximized()) {
+    QTimer::singleShot(kMaximising, this, [this] { editor_.loadArrangements(); });
+  } else {
+    editor_.loadArrangements();
+  }
 }
 
 void TVelkWindow::keepState() {

@@ -7,6 +7,10 @@ MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(edi
   setDrawBase(false);
   setElideMode(Qt::ElideMiddle);
   setFocusPolicy(Qt::NoFocus);
+  // The room of a tab is kept without maps, too: else opening the first one would shift every window.
+  addTab(QStringLiteral("map"));
+  setMinimumHeight(sizeHint().height());
+  removeTab(0);
   connect(this, &QTabBar::currentChanged, this, [this](int index) {
     if (!refreshing_ && index >= 0) editor_.setCurrentIndex(index);
   });
@@ -22,7 +26,6 @@ void MapTabs::refresh() {
     setTabToolTip(i, QString::fromLocal8Bit(path.c_str()));
   }
   setCurrentIndex(editor_.currentIndex());
-  setVisible(count() > 0);
   refreshing_ = false;
 }
 
