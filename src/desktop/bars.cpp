@@ -29,6 +29,7 @@ QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_st
 }  // namespace
 
 TextureList::TextureList(Editor& editor) : editor_(editor) {
+  setFixedWidth(editor.settings().texture_list_width);
   // Keys stay the editor's: the list takes them only while it is open.
   setFocusPolicy(Qt::NoFocus);
   setToolTip(tr("Current texture"));

@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kSection = "Frame";
 constexpr const char* kGeometry = "geometry";
 constexpr const char* kBars = "bars";
+constexpr const char* kCheck = "check";  // Qt would take over half of a damaged state
 
 QByteArray read(const IniFile& file, const char* key) {
   return QByteArray::fromBase64(QByteArray::fromStdString(file.string(kSection, key, "")));
@@ -22,6 +23,8 @@ QByteArray read(const IniFile& file, const char* key) {
 void write(IniFile& file, const char* key, const QByteArray& bytes) {
   file.set(kSection, key, bytes.toBase64().toStdString());
 }
+
+int checkOf(const QByteArray& geometry, const QByteArray& bars) { return qChecksum(geometry + bars); }
 
 // Qt keeps restored bars from the window manager, as if they were being dragged, and shows them before the
 // frame; both lets them sink below it. A bar whose handle is on no screen could not be caught again: it goes
@@ -33,6 +36,7 @@ void settleFloating(QMainWindow& frame, QToolBar& bar) {
   bar.setGeometry(place);
   if (!QGuiApplication::screenAt(place.topLeft())) {
     frame.removeToolBar(&bar);
+    frame.addToolBarBreak();
     frame.addToolBar(&bar);
   }
   if (hidden) return;
@@ -46,8 +50,11 @@ void settleFloating(QMainWindow& frame, QToolBar& bar) {
 
 void RestoreFrame(QMainWindow& frame, const std::filesystem::path& stateFile) {
   const IniFile file = IniFile::Load(stateFile);
-  frame.restoreGeometry(read(file, kGeometry));
-  frame.restoreState(read(file, kBars));
+  const QByteArray geometry = read(file, kGeometry);
+  const QByteArray bars = read(file, kBars);
+  if (file.integer(kSection, kCheck, -1) != checkOf(geometry, bars)) return;
+  frame.restoreGeometry(geometry);
+  frame.restoreState(bars);
   for (QToolBar* bar : frame.findChildren<QToolBar*>()) {
     if (bar->isFloating()) settleFloating(frame, *bar);
   }
@@ -55,8 +62,11 @@ void RestoreFrame(QMainWindow& frame, const std::filesystem::path& stateFile) {
 
 void RememberFrame(const QMainWindow& frame, const std::filesystem::path& stateFile) {
   IniFile file = IniFile::Load(stateFile);
-  write(file, kGeometry, frame.saveGeometry());
-  write(file, kBars, frame.saveState());
+  const QByteArray geometry = frame.saveGeometry();
+  const QByteArray bars = frame.saveState();
+  write(file, kGeometry, geometry);
+  write(file, kBars, bars);
+  file.set(kSection, kCheck, std::to_string(checkOf(geometry, bars)));
   (void)file.save(stateFile);
 }
 

@@ -1,12 +1,12 @@
 #include "desktop/bars.h"
 
-#include <QApplication>
 #include <QImage>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
 #include "app/session.h"
+#include "application.h"
 #include "desktop/child_windows.h"
 #include "desktop/command_icons.h"
 #include "support/barnames.h"
@@ -14,15 +14,8 @@
 namespace velk {
 namespace {
 
+using test::application;
 using test::Session;
-
-QApplication& application() {
-  static int count = 1;
-  static char name[] = "desktop_tests";
-  static char* arguments[] = {name, nullptr};
-  static QApplication app(count, arguments);
-  return app;
-}
 
 // How many pixels are drawn, and how many at all.
 int drawnPixels(const QPixmap& picture) {
