@@ -9,8 +9,9 @@ inline QApplication& application() {
   static int count = 1;
   static char name[] = "desktop_tests";
   static char* arguments[] = {name, nullptr};
-  static QApplication app(count, arguments);
-  return app;
+  // Never ended: what Qt holds in statics of its own would go first.
+  static auto* app = new QApplication(count, arguments);
+  return *app;
 }
 
 }  // namespace velk::test
