@@ -7,6 +7,16 @@
 
 namespace velk {
 
+// What a row runs or asks, with the arguments after the editor: with<setGrid, 3>, holds<gridIs, 3>.
+template <auto handler, auto... arguments>
+void with(Editor& editor) {
+  handler(editor, arguments...);
+}
+template <auto condition, auto... arguments>
+bool holds(const Editor& editor) {
+  return condition(editor, arguments...);
+}
+
 std::span<const Command> FileCommands();
 std::span<const Command> EditCommands();
 std::span<const Command> MapCommands();

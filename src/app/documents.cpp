@@ -71,12 +71,38 @@ void Editor::offerFirstTexture(const MapDocument& from) {
   if (textureBrowser_.current().name.empty()) textureBrowser_.takeFirstTexture(from.textures);
 }
 
+// Makes a document, or none, when a user is there to be told why.
+std::unique_ptr<MapDocument> Editor::attempt(const char* caption, const std::string& failure,
+                                             const DocumentMaker& make) {
+  if (!attended_) return make();
+  try {
+    const ErrorTrap trap;
+    return make();
+  } catch (const TrappedError& error) {
+    prompts_.ask({.caption = caption,
+                  .text = failure + error.what(),
+                  .buttons = MessageBox::Buttons::Ok,
+                  .icon = MessageBox::Icon::Error});
+    return nullptr;
+  }
+}
+
+void Editor::attend() {
+  attended_ = true;
+  recentMaps_.keepIn(place_.stateFile());
+}
+
 void Editor::newMap() {
-  if (!hasRoom("Velk - Cannot Open New Map")) return;
-  auto made = makeDocument();
-  made->model.initNew(settings_.default_wad);
-  made->model.name = settings_.newmap;
-  textureManager_.openMapWads(made->model, made->textures, wadProgress());
+  constexpr const char* kCannotMake = "Velk - Cannot Open New Map";
+  if (!hasRoom(kCannotMake)) return;
+  auto made = attempt(kCannotMake, "", [this] {
+    auto document = makeDocument();
+    document->model.initNew(settings_.default_wad);
+    document->model.name = settings_.newmap;
+    textureManager_.openMapWads(document->model, document->textures, wadProgress());
+    return document;
+  });
+  if (!made) return;
   offerFirstTexture(*made);
   addDocument(std::move(made));
   autosaveTicks_ = 0;
@@ -103,30 +129,22 @@ std::unique_ptr<MapDocument> Editor::readDocument(const std::string& path) {
   return made;
 }
 
-void Editor::openFile(const std::string& path) {
-  if (!hasRoom(kCannotOpen)) return;
-  addDocument(readDocument(path));
+bool Editor::openFile(const std::string& path) {
+  if (!hasRoom(kCannotOpen)) return false;
+  const std::string failure = Format("Couldn't open %s\n\n", path.c_str());
+  auto made = attempt(kCannotOpen, failure, [&] { return readDocument(path); });
+  if (!made) return false;
+  addDocument(std::move(made));
   recentMaps_.add(paths_.absolute(path));
   postStatus(Format("File [%s] processed...", path.c_str()));
+  return true;
 }
 
 bool Editor::showFile(const std::string& path) {
-  if (const int index = indexOfFile(path); index >= 0) {
-    setCurrentIndex(index);
-    return true;
-  }
-  try {
-    const ErrorTrap trap;
-    const int before = mapCount();
-    openFile(path);
-    return mapCount() > before;
-  } catch (const TrappedError& error) {
-    prompts_.ask({.caption = kCannotOpen,
-                  .text = Format("Couldn't open %s\n\n%s", path.c_str(), error.what()),
-                  .buttons = MessageBox::Buttons::Ok,
-                  .icon = MessageBox::Icon::Error});
-    return false;
-  }
+  const int index = indexOfFile(path);
+  if (index < 0) return openFile(path);
+  setCurrentIndex(index);
+  return true;
 }
 
 int Editor::indexOfFile(const std::string& path) const {

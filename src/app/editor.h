@@ -2,6 +2,7 @@
 // events in; scripts and tests drive it the same way.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -104,12 +105,16 @@ class Editor {
   // The command's label in the menu as things stand: undo and redo name what they would take back.
   std::string labelOf(const Command& command) const;
 
-  // What New, Open, Save and Close do once their questions are answered. A fatal error on the way leaves
-  // the list of open maps as it was. New and open refuse an eleventh map with a message box.
+  // From now on a user sits before the editor: recent maps are kept between runs, and what keeps a map from
+  // being made or read is told in a message box instead of ending the program.
+  void attend();
+
+  // What New, Open, Save and Close do once their questions are answered. An error on the way leaves the
+  // list of open maps as it was. New and open refuse an eleventh map with a message box. False when the
+  // file was not opened.
   void newMap();
-  void openFile(const std::string& path);
-  // The same for files that nobody chose in a dialog just now: a map that is open already is shown, and
-  // what would be a fatal error is told in a message box. False when the file could not be opened.
+  bool openFile(const std::string& path);
+  // The same for files that nobody chose in a dialog just now: a map that is open already is shown.
   bool showFile(const std::string& path);
   // Writes a map to its path, or to the one given, which becomes its own. Asks before it leaves out brushes
   // or, unless `mayReplace` says that it was asked already, replaces a file that is not the one read. False
@@ -234,6 +239,9 @@ class Editor {
   void checkDisk(size_t index);
   void reload(size_t index);
   int indexOfFile(const std::string& path) const;
+  using DocumentMaker = std::function<std::unique_ptr<MapDocument>()>;
+  std::unique_ptr<MapDocument> attempt(const char* caption, const std::string& failure,
+                                       const DocumentMaker& make);
   std::unique_ptr<MapDocument> makeDocument();
   std::unique_ptr<MapDocument> readDocument(const std::string& path);
   MapReadOptions readOptions();
@@ -278,6 +286,7 @@ class Editor {
   bool redraw3D_ = true;
   int autosaveTicks_ = 0;
   RecentMaps recentMaps_;
+  bool attended_ = false;
   bool exiting_ = false;
 };
 

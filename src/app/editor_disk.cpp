@@ -17,9 +17,18 @@ int invalidBrushes(const map& m) {
   return count;
 }
 
-Answer askYesNo(Prompts& prompts, const char* caption, std::string text, MessageBox::Icon icon) {
-  return prompts.ask(
-      {.caption = caption, .text = std::move(text), .buttons = MessageBox::Buttons::YesNo, .icon = icon});
+// Whether the user takes a risk.
+bool insists(Prompts& prompts, const char* caption, std::string text) {
+  return prompts.ask({.caption = caption,
+                      .text = std::move(text),
+                      .buttons = MessageBox::Buttons::YesNo,
+                      .icon = MessageBox::Icon::Warning,
+                      .risky = true}) == Answer::Yes;
+}
+
+std::string invalidText(int count) {
+  return (count == 1 ? "One brush of this map is" : Format("%i brushes of this map are", count)) +
+         " not valid and will not be saved. Save anyway?";
 }
 
 constexpr const char* kFileChanged = "Velk - File Changed";
@@ -28,10 +37,7 @@ constexpr const char* kFileChanged = "Velk - File Changed";
 
 bool Editor::mayLeaveOut(MapDocument& document) {
   const int invalid = invalidBrushes(document.model);
-  if (invalid > document.invalidAccepted &&
-      askYesNo(prompts_, "Velk - Save",
-               Format("%i brushes of this map are not valid and will not be saved. Save anyway?", invalid),
-               MessageBox::Icon::Warning) != Answer::Yes) {
+  if (invalid > document.invalidAccepted && !insists(prompts_, "Velk - Save", invalidText(invalid))) {
     return false;
   }
   document.invalidAccepted = invalid;
@@ -42,9 +48,8 @@ bool Editor::mayLeaveOut(MapDocument& document) {
 bool Editor::mayReplace(const MapDocument& document, const std::string& path) {
   const FileStamp now = StampOf(paths_.native(path));
   if (path != document.model.name || !now.exists || now == document.onDisk) return true;
-  return askYesNo(prompts_, kFileChanged,
-                  Format("The file %s was changed on disk since it was read. Overwrite it?", path.c_str()),
-                  MessageBox::Icon::Warning) == Answer::Yes;
+  return insists(prompts_, kFileChanged,
+                 Format("The file %s was changed on disk since it was read. Overwrite it?", path.c_str()));
 }
 
 void Editor::checkDisk() {
@@ -64,9 +69,10 @@ void Editor::checkDisk(size_t index) {
     postStatus(Format("File [%s] is back on the disk...", name.c_str()));
   } else if (document.model.modified) {
     postStatus(Format("File [%s] was changed on disk...", name.c_str()));
-  } else if (askYesNo(prompts_, kFileChanged,
-                      Format("The file %s was changed on disk. Read it again?", name.c_str()),
-                      MessageBox::Icon::Question) == Answer::Yes) {
+  } else if (prompts_.ask({.caption = kFileChanged,
+                           .text = Format("The file %s was changed on disk. Read it again?", name.c_str()),
+                           .buttons = MessageBox::Buttons::YesNo,
+                           .icon = MessageBox::Icon::Question}) == Answer::Yes) {
     reload(index);
   }
 }

@@ -10,10 +10,6 @@ namespace velk::commands {
 void newMap(Editor& editor);
 void openMaps(Editor& editor);
 void openRecentMap(Editor& editor, int index);
-template <int index>
-void openRecentMap(Editor& editor) {
-  openRecentMap(editor, index);
-}
 void clearRecentMaps(Editor& editor);
 void closeMap(Editor& editor);
 void saveMap(Editor& editor);
@@ -33,24 +29,12 @@ void selectPartial(Editor& editor);
 void deleteSelection(Editor& editor);
 void nudgeSelection(Editor& editor, Nudge direction);
 void moveSelectionByStep(Editor& editor, int axis, int sign);
-template <Nudge direction>
-void nudge(Editor& editor) {
-  nudgeSelection(editor, direction);
-}
-template <int axis, int sign>
-void moveByStep(Editor& editor) {
-  moveSelectionByStep(editor, axis, sign);
-}
 
 // Hit list of the last pick.
 void toggleHitBrush(Editor& editor, int number);
 void selectAllHits(Editor& editor);
 void nextHit(Editor& editor);
 void previousHit(Editor& editor);
-template <int number>
-void toggleHit(Editor& editor) {
-  toggleHitBrush(editor, number);
-}
 
 // What the views show.
 void redrawAll(Editor& editor);
@@ -90,24 +74,8 @@ void otherScale(Editor& editor);
 void switchMapView(Editor& editor);
 void flipView(Editor& editor);
 bool gridOn(const Editor& editor);
-bool gridSizeIs(const Editor& editor, int preset);
-bool scaleIsPreset(const Editor& editor, int preset);
-template <int preset>
-void gridPreset(Editor& editor) {
-  setGrid(editor, preset);
-}
-template <int preset>
-bool gridIs(const Editor& editor) {
-  return gridSizeIs(editor, preset);
-}
-template <int preset>
-void scalePreset(Editor& editor) {
-  setScale(editor, preset);
-}
-template <int preset>
-bool scaleIs(const Editor& editor) {
-  return scaleIsPreset(editor, preset);
-}
+bool gridIs(const Editor& editor, int preset);
+bool scaleIs(const Editor& editor, int preset);
 
 // Textures on faces.
 void setFaceTexture(Editor& editor);
@@ -129,45 +97,14 @@ void moveCamera(Editor& editor, MapCameraCommand command);
 void changeCamera(Editor& editor, CameraCommand command);
 void changeCameraSettings(Editor& editor, CameraSettingCommand command);
 void changeLens(Editor& editor, LensCommand command);
-void selectCameraNumber(Editor& editor, int number);
+void selectCamera(Editor& editor, int number);
 void centreView(Editor& editor);
 void setDrawMode(Editor& editor, int mode);
+bool drawModeIs(const Editor& editor, int mode);
 void nextDrawMode(Editor& editor);
 void setRenderQuality(Editor& editor, int index);
 void qualityWindow(Editor& editor);
 bool windowQualityOn(const Editor& editor);
-template <MapCameraCommand command>
-void cameraMove(Editor& editor) {
-  moveCamera(editor, command);
-}
-template <CameraCommand command>
-void cameraChange(Editor& editor) {
-  changeCamera(editor, command);
-}
-template <CameraSettingCommand command>
-void cameraSetting(Editor& editor) {
-  changeCameraSettings(editor, command);
-}
-template <LensCommand command>
-void cameraLens(Editor& editor) {
-  changeLens(editor, command);
-}
-template <int number>
-void selectCamera(Editor& editor) {
-  selectCameraNumber(editor, number);
-}
-template <int mode>
-void drawMode(Editor& editor) {
-  setDrawMode(editor, mode);
-}
-template <int mode>
-bool drawModeIs(const Editor& editor) {
-  return editor.settings().drawmode == mode;
-}
-template <int index>
-void renderQuality(Editor& editor) {
-  setRenderQuality(editor, index);
-}
 
 // Makes a face of the current brush the current one, as its list in the selected-brush window asks.
 void chooseFace(Editor& editor, int index);
@@ -198,29 +135,5 @@ void tileWindows(Editor& editor);
 void arrangeIcons(Editor& editor);
 void toggleBar(Editor& editor, int bar);
 bool barIsVisible(const Editor& editor, int bar);
-template <ToolWindow window>
-void restore(Editor& editor) {
-  restoreTool(editor, window);
-}
-template <int slot>
-void useSlot(Editor& editor) {
-  useArrangement(editor, slot);
-}
-template <int slot>
-bool isSlot(const Editor& editor) {
-  return arrangementIs(editor, slot);
-}
-template <int step>
-void stepSlot(Editor& editor) {
-  stepArrangement(editor, step);
-}
-template <int bar>
-void toggleBarNumber(Editor& editor) {
-  toggleBar(editor, bar);
-}
-template <int bar>
-bool barNumberVisible(const Editor& editor) {
-  return barIsVisible(editor, bar);
-}
 
 }  // namespace velk::commands

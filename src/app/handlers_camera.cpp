@@ -18,7 +18,7 @@ void changeLens(Editor& editor, LensCommand command) {
   if (editor.currentMap()) editor.apply(command(editor.cameraView().lens));
 }
 
-void selectCameraNumber(Editor& editor, int number) {
+void selectCamera(Editor& editor, int number) {
   if (map* m = editor.currentMap()) editor.apply(SelectCamera(*m, number));
 }
 
@@ -43,6 +43,8 @@ void setDrawMode(Editor& editor, int mode) {
   editor.flagCamera();
   editor.postStatus(kStatus[mode]);
 }
+
+bool drawModeIs(const Editor& editor, int mode) { return editor.settings().drawmode == mode; }
 
 void nextDrawMode(Editor& editor) { changeCameraSettings(editor, CycleDrawMode); }
 

@@ -106,10 +106,10 @@ void switchMapView(Editor& editor) {
 void flipView(Editor& editor) { editor.flipPlanView(editor.planViews().current); }
 
 bool gridOn(const Editor& editor) { return editor.settings().show_grid; }
-bool gridSizeIs(const Editor& editor, int preset) {
+bool gridIs(const Editor& editor, int preset) {
   return editor.settings().gridsize == kGridPresets[static_cast<size_t>(preset)];
 }
-bool scaleIsPreset(const Editor& editor, int preset) {
+bool scaleIs(const Editor& editor, int preset) {
   return editor.settings().scale == kScalePresets[static_cast<size_t>(preset)].scale;
 }
 

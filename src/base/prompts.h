@@ -20,6 +20,7 @@ struct MessageBox {
   std::string text;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::None;
+  bool risky = false;  // Yes may lose something: Enter alone does not mean it
 };
 
 struct FileChooser {

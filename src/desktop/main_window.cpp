@@ -127,7 +127,7 @@ void TVelkWindow::showEvent(QShowEvent* event) {
 void TVelkWindow::keepState() {
   keepsState_ = true;
   RestoreFrame(*this, editor_.place().stateFile());
-  editor_.recentMaps().keepIn(editor_.place().stateFile());
+  editor_.attend();
   watch_ = new FileWatch(editor_, *this);
   // The session may end the program without closing the frame.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });

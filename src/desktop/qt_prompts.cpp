@@ -97,6 +97,7 @@ Answer QtPrompts::ask(const MessageBox& box) {
   dialog.setTextFormat(Qt::PlainText);
   if (box.icon == MessageBox::Icon::Program) presentProgram(dialog);
   makeRoomForTitle(dialog);
+  if (box.risky) dialog.setDefaultButton(QMessageBox::No);
   switch (dialog.exec()) {
     case QMessageBox::Yes:
       return Answer::Yes;

@@ -102,7 +102,7 @@ TEST(Disk, BrushesThatCannotBeSavedAreAskedAboutWhenTheirNumberGrows) {
   session.answer("no");
   session.run("CM_FILESAVE");
   EXPECT_EQ(session.prompts.log().back(),
-            "message \"Velk - Save\" \"1 brushes of this map are not valid and will not be saved. Save "
+            "message \"Velk - Save\" \"One brush of this map is not valid and will not be saved. Save "
             "anyway?\" no");
   EXPECT_EQ(session.contents(path), before);
   session.answer("yes");

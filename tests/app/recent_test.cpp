@@ -53,7 +53,7 @@ TEST(Recent, OpensShowsAndForgets) {
   Session session;
   const auto recent = [&](int i) { return session.editor.run(*FindCommand(kFirstRecentMap + i)); };
   EXPECT_FALSE(recent(0));
-  session.editor.recentMaps().keepIn(session.editor.place().stateFile());
+  session.editor.attend();
   const std::string a = session.open("a.map");
   const std::string b = session.open("b.map");
   session.run("CM_FILENEW");
