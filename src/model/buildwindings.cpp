@@ -1,9 +1,8 @@
 #include <algorithm>
-#include <cmath>
 #include <new>
 
 #include "base/error.h"
-#include "base/text.h"
+#include "model/axialbox.h"
 #include "model/brush.h"
 #include "model/polygon.h"
 
@@ -12,8 +11,6 @@ namespace {
 
 // Bounds before anything was seen; mins.x stays there when no solid is left.
 constexpr float kNoBound = 32765;
-// A corner coordinate this near to a whole number becomes it.
-constexpr double kRoundTolerance = 0.01;
 
 // The planes of a brush.
 struct BrushPlanes {
@@ -38,8 +35,13 @@ void MakePlanes(std::vector<face>& faces, BrushPlanes& planes) {
     face& f = faces[i];
     planes.degenerate[i] = !PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], f.facePlane);
     if (planes.degenerate[i]) f.facePlane = {};
+  }
+}
+
+void PrepareCuts(const std::vector<face>& faces, BrushPlanes& planes) {
+  for (size_t i = 0; i < faces.size(); ++i) {
     planes.repeated[i] = !planes.degenerate[i] && RepeatsEarlier(faces, i, planes);
-    planes.turned[i] = SplitPlane(Turned(f.facePlane));
+    planes.turned[i] = SplitPlane(Turned(faces[i].facePlane));
   }
 }
 
@@ -107,6 +109,13 @@ struct Cuttings {
     if (!BaseCorners(f.facePlane, f.texture, axes, turn.of(f.texture.rotate), c.corners())) c.fail();
   }
 
+  void addAll(const std::vector<face>& faces, const BrushPlanes& planes, int alignment) {
+    LastTurn turn;
+    for (int i = 0; i < planes.count; ++i) {
+      if (!planes.degenerate[i] && !planes.repeated[i]) add(faces[size_t(i)], i, alignment, turn);
+    }
+  }
+
   // Cuts a few polygons side by side. The cuts of one wait for each other; several keep the processor busy.
   void cut(int from, int to, const BrushPlanes& planes) {
     for (int p = 0; p < planes.count; ++p) {
@@ -129,11 +138,6 @@ void Fail(face& f, const brush& b, int alignment) {
   for (const face& other : b.faces) {
     if (&other != &f && w) w = ClipWinding(std::move(w), Turned(other.facePlane));
   }
-}
-
-float Settled(float c) {
-  const double whole = RoundHalfAway(c);
-  return std::fabs(c - whole) < kRoundTolerance ? float(whole) : c;
 }
 
 // The bounds of a brush while its corners settle; the fourth component means nothing.
@@ -170,7 +174,7 @@ size_t TotalSize(const Cuttings& cuttings) {
 
 // Hands the polygons over to the faces, one after the other in `store`, and widens the bounds; false at the
 // first that is not acceptable.
-bool Finish(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bounds& bounds) {
+bool HandOver(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bounds& bounds) {
   for (int i = 0; i < cuttings.count; ++i) {
     Cutting& c = cuttings.all[i];
     face& f = b.faces[size_t(c.face)];
@@ -190,6 +194,33 @@ bool Finish(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bound
   return true;
 }
 
+void FinishCuttings(Cuttings& cuttings, brush& b, std::byte* store, int alignment) {
+  Bounds bounds;
+  const bool acceptable = HandOver(cuttings, b, store, alignment, bounds);
+  b.mins = Vector(bounds.mins);
+  b.maxs = Vector(bounds.maxs);
+  if (!acceptable || b.mins.x == kNoBound) {
+    b.invalid = true;
+    b.mins = b.maxs = {};
+  }
+}
+
+// The same for a box, whose polygons are always acceptable.
+void FinishBox(const AxialBox& box, brush& b, std::byte* store, int alignment) {
+  LastTurn turn;
+  for (int i = 0; i < AxialBox::kFaces; ++i) {
+    face& f = b.faces[size_t(i)];
+    const TextureAxes axes = TextureAxisFromPlane(f.facePlane.normal, alignment);
+    f.takeProjection(axes.shade);
+    winding* w = new (store) winding{4};
+    store += StoredSize(4);
+    box.makePolygon(f, i, axes, turn.of(f.texture.rotate), w->points());
+    f.polygon = w;
+  }
+  b.mins = box.mins();
+  b.maxs = box.maxs();
+}
+
 }  // namespace
 
 std::byte* brush::polygonStore(size_t bytes) {
@@ -203,32 +234,22 @@ std::byte* brush::polygonStore(size_t bytes) {
 void brush::buildWindings() {
   if (numfaces() > MAX_FACES) Error("addFace: numfaces == MAX_FACES");
   invalid = false;
+  currentFace = std::max(std::min(currentFace, numfaces() - 1), 0);
   for (face& f : faces) {
     f.polygon = nullptr;
     f.cache.reset();
   }
   BrushPlanes planes;
   MakePlanes(faces, planes);
-
-  LastTurn turn;
-  Cuttings cuttings;
-  const int textureAlignment = alignment();
-  for (int i = 0; i < numfaces(); ++i) {
-    if (planes.degenerate[i] || planes.repeated[i]) continue;
-    cuttings.add(faces[size_t(i)], i, textureAlignment, turn);
+  if (AxialBox box; box.take(faces)) {
+    FinishBox(box, *this, polygonStore(AxialBox::kFaces * StoredSize(4)), alignment());
+  } else {
+    PrepareCuts(faces, planes);
+    Cuttings cuttings;
+    cuttings.addAll(faces, planes, alignment());
+    cuttings.cutAll(planes);
+    FinishCuttings(cuttings, *this, polygonStore(TotalSize(cuttings)), alignment());
   }
-  cuttings.cutAll(planes);
-
-  Bounds bounds;
-  std::byte* store = polygonStore(TotalSize(cuttings));
-  const bool acceptable = Finish(cuttings, *this, store, textureAlignment, bounds);
-  mins = Vector(bounds.mins);
-  maxs = Vector(bounds.maxs);
-  if (!acceptable || mins.x == kNoBound) {
-    invalid = true;
-    mins = maxs = {};
-  }
-  currentFace = std::max(std::min(currentFace, numfaces() - 1), 0);
 }
 
 }  // namespace velk

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
 #include <emmintrin.h>
 
+#include "base/text.h"
 #include "model/texturedef.h"
 #include "model/winding.h"
 
@@ -167,6 +169,13 @@ int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, 
 // 0 counts as 1. False for a plane without a largest axis.
 bool BaseCorners(const plane& facePlane, const texturedef& texture, const TextureAxes& axes,
                  const TextureTurn& turn, WindingPoint* out);
+
+// A corner coordinate near to a whole number becomes it.
+inline float Settled(float c) {
+  constexpr double kRoundTolerance = 0.01;
+  const double whole = RoundHalfAway(c);
+  return std::fabs(c - whole) < kRoundTolerance ? float(whole) : c;
+}
 
 // CheckFace for at least 3 corners that need not be a winding's.
 bool CheckCorners(const WindingPoint* corners, int count, const plane& facePlane);

@@ -26,6 +26,7 @@ struct WindingPoint {
   float t = 0;
 
   vec3 position() const { return {x, y, z}; }
+  float& operator[](int axis) { return (&x)[axis]; }
   float operator[](int axis) const { return (&x)[axis]; }
 };
 
