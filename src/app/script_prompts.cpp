@@ -54,11 +54,15 @@ void ScriptPrompts::queue(std::vector<std::string> words, bool literal) {
   answers_.push_back({std::move(words), literal});
 }
 
+bool ScriptPrompts::Queued::cancels() const {
+  return !literal && words.size() == 1 && EqualNoCase(words[0], "cancel");
+}
+
 // Words that only some prompts know stay without quotes in the log.
 bool ScriptPrompts::Queued::isText() const {
   if (literal || words.size() != 1) return true;
   return std::none_of(kAnswerWords.begin(), kAnswerWords.end(),
-                      [this](const AnswerWord& known) { return words[0] == known.word; });
+                      [this](const AnswerWord& known) { return EqualNoCase(words[0], known.word); });
 }
 
 ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& caption,
@@ -75,7 +79,8 @@ ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& c
 Answer ScriptPrompts::ask(const MessageBox& box) {
   const Queued given = take("message", box.caption, box.text);
   for (const auto& [word, answer] : kAnswerWords) {
-    if (given.words.size() == 1 && given.words[0] == word && hasButton(box.buttons, answer)) return answer;
+    if (given.words.size() == 1 && EqualNoCase(given.words[0], word) && hasButton(box.buttons, answer))
+      return answer;
   }
   failPrompt("the answer is none of the buttons of", box.caption, box.text);
 }
@@ -115,9 +120,9 @@ FormAnswer ScriptPrompts::fill(Form& form) {
     if (field == form.fields.end()) failPrompt("no such field in", form.title, name);
     field->value = value;
   }
-  if (given.words[0] == "ok") return FormAnswer::Ok;
-  if (given.words[0] == "save" && !form.saveLabel.empty()) return FormAnswer::Save;
-  if (given.words[0] == "cancel") return FormAnswer::Cancel;
+  if (EqualNoCase(given.words[0], "ok")) return FormAnswer::Ok;
+  if (EqualNoCase(given.words[0], "save") && !form.saveLabel.empty()) return FormAnswer::Save;
+  if (EqualNoCase(given.words[0], "cancel")) return FormAnswer::Cancel;
   failPrompt("the answer is none of the buttons of", form.title, "");
 }
 

@@ -45,7 +45,7 @@ class ScriptPrompts : public Prompts {
     std::vector<std::string> words;
     bool literal = false;
     bool isText() const;
-    bool cancels() const { return !literal && words.size() == 1 && words[0] == "cancel"; }
+    bool cancels() const;
   };
   Queued take(const char* kind, const std::string& caption, const std::string& text);
 

@@ -195,7 +195,11 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-void TVelkWindow::statusChanged(const std::string& text) { message_->setText(shown(text)); }
+// A hint makes way, such as that of the button just pressed, which is still under the pointer.
+void TVelkWindow::statusChanged(const std::string& text) {
+  statusBar()->clearMessage();
+  message_->setText(shown(text));
+}
 
 void TVelkWindow::redrawPlanViews() {
   for (TXYViewWindow* view : planViews_) {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QProxyStyle>
 #include <utility>
 
 #include "base/text.h"
@@ -9,10 +10,19 @@
 namespace velk {
 namespace {
 
+// Disabled items can be pointed at, so that they show their hints, too.
+class MenuStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    return hint == SH_Menu_AllowActiveAndDisabled ? 1 : QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+};
+
 // The menu of a row: a path of labels parted by '|', made on the way where it does not exist. The line
 // before the row's group stands before the first thing that is new. Menus leave out lines that would stand
 // first, last or twice.
-QMenu* menuOf(QMenuBar& bar, const Command& command) {
+QMenu* menuOf(QMenuBar& bar, const Command& command, QStyle* style) {
   QWidget* parent = &bar;
   bool line = command.startsGroup;
   for (const std::string& label : Split(command.menu, '|')) {
@@ -26,6 +36,7 @@ QMenu* menuOf(QMenuBar& bar, const Command& command) {
       if (above && std::exchange(line, false)) above->addSeparator();
       found = above ? above->addMenu(title) : bar.addMenu(title);
       found->setToolTipsVisible(false);
+      found->setStyle(style);
     }
     parent = found;
   }
@@ -53,9 +64,11 @@ void refresh(QAction& action, const Editor& editor) {
 }  // namespace
 
 void BuildMenus(QMenuBar& bar, Editor& editor) {
+  auto* style = new MenuStyle;
+  style->setParent(&bar);
   for (const Command& command : Commands()) {
     if (!*command.menu) continue;
-    QMenu* menu = menuOf(bar, command);
+    QMenu* menu = menuOf(bar, command, style);
     QAction* action = menu->addAction(itemText(command, editor));
     action->setData(command.id);
     action->setStatusTip(QString::fromLatin1(command.hint));

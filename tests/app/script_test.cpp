@@ -22,7 +22,7 @@ TEST(Script, FailuresNameLineAndReason) {
       {"key Ctrl+F11", 1, "no command on the key Ctrl+F11"},
       {"CM_FILEOPEN", 1, R"(no answer for the prompt: "Select MAP File" "Map Files (*.map)|*.map|")"},
       {"answer maybe\nCM_ABOUT", 2, "the answer is none of the buttons of"},
-      {"answer cancel\nCM_ABOUT", 2, "the answer is none of the buttons of"},
+      {"answer OK\nCM_ABOUT\nanswer Cancel\nCM_ABOUT", 4, "the answer is none of the buttons of"},
       {"press XY LEFT 1", 1, "to be written as: press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]"},
       {"press ZZ LEFT 1 2", 1, "no such view: ZZ"},
       {"press XY WHEEL 1 2", 1, "no such mouse button: WHEEL"},
