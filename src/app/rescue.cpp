@@ -1,12 +1,13 @@
 #include "app/rescue.h"
 
 #include <ctime>
-#include <fstream>
+#include <string_view>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
+#include "base/files.h"
 #include "base/text.h"
 
 namespace velk {
@@ -111,11 +112,10 @@ std::string RescueFolder::header(const std::string& original) {
 }
 
 std::string RescueFolder::originalOf(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::string line;
-  std::getline(in, line);
-  if (line.ends_with('\r')) line.pop_back();
-  return line.starts_with(kHeader) ? line.substr(kHeader.size()) : file.string();
+  const std::string contents = ReadFile(file).contents;
+  std::string_view line = std::string_view(contents).substr(0, contents.find('\n'));
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line.starts_with(kHeader) ? std::string(line.substr(kHeader.size())) : file.string();
 }
 
 }  // namespace velk

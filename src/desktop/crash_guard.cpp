@@ -1,6 +1,7 @@
 #include "desktop/crash_guard.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -72,6 +73,10 @@ CrashGuard::CrashGuard(std::function<void()> rescue) {
   }
   handle(kCrashes, onCrash);
   handle(kRequests, onRequest);
+  // Messages that nobody reads any more are no reason to end.
+  std::signal(SIGPIPE, SIG_IGN);
+  // Qt ends the program by exit() when the X server is gone.
+  std::atexit(RunNow);
 }
 
 CrashGuard::~CrashGuard() {

@@ -150,8 +150,10 @@ int refuse(const QString& why) {
   return kUsageError;
 }
 
-// Qt ends the program by a crash when it cannot reach the display.
+// Qt ends the program by a crash when it cannot reach the display, and without any clean-up when it loses a
+// Wayland compositor.
 void passOn(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtFatalMsg || message.startsWith("The Wayland connection")) CrashGuard::RunNow();
   std::fprintf(stderr, "%s\n", qPrintable(message));
   if (type == QtFatalMsg) leave(kUsageError);
 }

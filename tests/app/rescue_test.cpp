@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "app/session.h"
 
@@ -47,6 +48,15 @@ TEST(Rescue, EditorsAtWorkKeepApart) {
   EXPECT_EQ(claimed[0].file, second.copyFile(0));
   RescueFolder third(folder.path());
   EXPECT_TRUE(third.claim().empty());
+}
+
+TEST(Rescue, APipeAmongTheCopiesDoesNotHangTheStart) {
+  const TempFolder folder;
+  RescueFolder rescue(folder.path());
+  ASSERT_EQ(::mkfifo(rescue.copyFile(0).c_str(), 0600), 0);
+  const std::vector<RescueCopy> claimed = rescue.claim();
+  ASSERT_EQ(claimed.size(), 1u);
+  EXPECT_EQ(claimed[0].original, rescue.copyFile(0));
 }
 
 TEST(Rescue, CopiesOfUnsavedMapsComeBackUnderTheirNames) {
