@@ -34,11 +34,11 @@ QPalette darkPalette() {
   const QColor text(0xe4e6ea);
   const QColor faint(0x84878d);
   const QColor window(0x2f3136);
-  const QColor base(0x232529);
+  const QColor base(0x1c1e21);
   QPalette palette(text, window, QColor(0x55585f), QColor(0x17181b), QColor(0x3b3e44), text, Qt::white, base,
                    window);
   palette.setColor(QPalette::Button, QColor(0x3a3d43));
-  palette.setColor(QPalette::AlternateBase, QColor(0x2a2c31));
+  palette.setColor(QPalette::AlternateBase, QColor(0x25272b));
   palette.setColor(QPalette::Midlight, QColor(0x484b52));
   palette.setColor(QPalette::Shadow, Qt::black);
   palette.setColor(QPalette::ToolTipBase, QColor(0x3a3d43));

@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -35,9 +36,14 @@ QColor colourOf(const std::string& value) {
   return QColor(red, green, blue);
 }
 
+// Framed, since a colour may be that of the button.
 QIcon swatch(const std::string& value) {
   QPixmap pixmap(kSwatchWidth, kSwatchHeight);
   pixmap.fill(colourOf(value));
+  QPainter painter(&pixmap);
+  painter.setPen(Qt::gray);
+  painter.drawRect(0, 0, kSwatchWidth - 1, kSwatchHeight - 1);
+  painter.end();
   return QIcon(pixmap);
 }
 

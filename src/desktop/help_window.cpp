@@ -1,6 +1,7 @@
 #include "desktop/help_window.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <string>
 
 #include "app/command.h"
@@ -10,16 +11,7 @@ namespace velk {
 namespace {
 
 constexpr QSize kSize{760, 640};
-
-// Signs that would end a cell of the table, or its text.
-std::string escaped(std::string_view text) {
-  std::string result;
-  for (const char c : text) {
-    if (c == '|' || c == '`' || c == '\\' || c == '*' || c == '[' || c == ']') result += '\\';
-    result += c;
-  }
-  return result;
-}
+constexpr int kMargin = 12;  // pixels between the text and the edges
 
 std::string menuPath(const Command& command) {
   std::string path;
@@ -30,15 +22,21 @@ std::string menuPath(const Command& command) {
   return path + PlainLabel(command);
 }
 
-std::string keysPage() {
-  std::string page = "# Keys\n\n| key | command | what it does |\n|---|---|---|\n";
+QString cell(const std::string& text) {
+  return "<td>" + QString::fromStdString(text).toHtmlEscaped() + "</td>";
+}
+
+// As HTML, since Qt needs seconds to read a table of this length as Markdown.
+QString keysPage() {
+  QString page =
+      "<h1>Keys</h1><table border='1' cellspacing='0' cellpadding='3'>"
+      "<tr><th>key</th><th>command</th><th>what it does</th></tr>";
   for (const Command& command : Commands()) {
     if (!*command.keys) continue;
-    page += "| " + escaped(command.keys) + " | " +
-            escaped(*command.menu ? menuPath(command) : command.label) + " | " + escaped(command.hint) +
-            " |\n";
+    page += "<tr>" + cell(command.keys) + cell(*command.menu ? menuPath(command) : command.label) +
+            cell(command.hint) + "</tr>";
   }
-  return page + "\n[Contents](index.md)\n";
+  return page + "</table><p><a href='index.md'>Contents</a></p>";
 }
 
 }  // namespace
@@ -47,6 +45,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
   setWindowFlag(Qt::Window);
   setWindowTitle("Velk - Help");
   setOpenExternalLinks(true);
+  document()->setDocumentMargin(kMargin);
   resize(kSize);
 }
 
@@ -55,6 +54,7 @@ void HelpWindow::showContents() {
   show();
   raise();
   activateWindow();
+  setFocus();
 }
 
 // Links take their colour when a page is read.
@@ -63,8 +63,16 @@ void HelpWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) reload();
 }
 
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    close();
+  } else {
+    QTextBrowser::keyPressEvent(event);
+  }
+}
+
 QVariant HelpWindow::loadResource(int type, const QUrl& name) {
-  if (name.fileName() == "keys.md") return QString::fromStdString(keysPage());
+  if (name.fileName() == "keys.html") return keysPage();
   return QTextBrowser::loadResource(type, name);
 }
 

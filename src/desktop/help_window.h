@@ -4,7 +4,7 @@
 
 namespace velk {
 
-// The manual in a window of its own. Its page of keys is made from the command table.
+// The manual in a window of its own, which Esc closes. Its page of keys is made from the command table.
 class HelpWindow : public QTextBrowser {
   Q_OBJECT
  public:
@@ -15,6 +15,7 @@ class HelpWindow : public QTextBrowser {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   QVariant loadResource(int type, const QUrl& name) override;
 };
 

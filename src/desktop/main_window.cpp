@@ -186,7 +186,9 @@ bool TVelkWindow::leftToMenus(const QKeyEvent& key, const Command& command) cons
 bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool override = event->type() == QEvent::ShortcutOverride;
   if (!override && event->type() != QEvent::KeyPress) return false;
-  if (!watched->isWidgetType() || !takesKeys()) return false;
+  // Other windows keep their keys; one that was just shown may not have the focus yet.
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  if (!widget || widget->window() != this || !takesKeys()) return false;
   const auto& key = *static_cast<QKeyEvent*>(event);
   const Command* command = CommandForKey(key);
   if (!command || leftToMenus(key, *command)) return false;

@@ -5,7 +5,9 @@ namespace velk {
 MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(editor) {
   setExpanding(false);
   setDrawBase(false);
-  setElideMode(Qt::ElideMiddle);
+  // Names stay whole; what has no room is reached by the arrows. Elided, short ones would lose all letters.
+  setElideMode(Qt::ElideNone);
+  setUsesScrollButtons(true);
   setFocusPolicy(Qt::NoFocus);
   // The room of a tab is kept without maps, too: else opening the first one would shift every window.
   addTab(QStringLiteral("map"));

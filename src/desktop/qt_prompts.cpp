@@ -4,9 +4,11 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTreeView>
 
 #include "base/text.h"
 #include "desktop/form_dialog.h"
@@ -15,6 +17,7 @@ namespace velk {
 namespace {
 
 constexpr QSize kProgramIcon{64, 64};
+constexpr QSize kChooser{760, 480};
 constexpr int kTitleButtons = 120;  // pixels a title bar needs besides its text
 
 QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
@@ -78,6 +81,15 @@ void makeRoomForTitle(QMessageBox& dialog) {
   }
 }
 
+// Qt's own chooser cuts sizes and dates short; a desktop's has no such table.
+void makeRoomForColumns(QFileDialog& dialog) {
+  const auto* table = dialog.findChild<QTreeView*>();
+  if (!table) return;
+  table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  dialog.resize(kChooser);
+}
+
 // The first line of the text is the program's name.
 void presentProgram(QMessageBox& dialog) {
   const QString text = dialog.text();
@@ -122,6 +134,7 @@ std::vector<std::string> QtPrompts::chooseFiles(const FileChooser& chooser) {
     const bool many = chooser.kind == FileChooser::Kind::OpenMany;
     dialog.setFileMode(many ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
   }
+  makeRoomForColumns(dialog);
   if (!chooser.fileName.empty()) dialog.selectFile(text(chooser.fileName));
   std::vector<std::string> chosen;
   if (dialog.exec() != QDialog::Accepted) return chosen;
