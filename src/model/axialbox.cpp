@@ -14,8 +14,8 @@ constexpr float kFarthest = float(BASE_POLYGON_HALF_SIZE) - kThickness;
 
 constexpr int kNone = -1;
 
-int AxisOf(int direction) { return direction >> 1; }
-bool IsNegative(int direction) { return (direction & 1) != 0; }
+constexpr int AxisOf(int direction) { return direction >> 1; }
+constexpr bool IsNegative(int direction) { return (direction & 1) != 0; }
 
 // The axis direction of a unit normal.
 int DirectionOf(const vec3& normal) {
@@ -25,26 +25,48 @@ int DirectionOf(const vec3& normal) {
   return kNone;
 }
 
-// By the direction of a face: the sides of its base polygon, which start between corners 0 and 1, towards
-// which direction each lies; turned round to find the side towards a direction.
-using SideTable = std::array<std::array<signed char, AxialBox::kFaces>, AxialBox::kFaces>;
-constexpr SideTable kSideTowards = [] {
-  constexpr int up[] = {4, 4, 4, 4, 0, 0};
-  constexpr int right[] = {2, 3, 1, 0, 3, 2};
-  SideTable table{};
-  for (size_t i = 0; i < table.size(); ++i) {
-    table[i].fill(kNone);
-    table[i][size_t(up[i])] = 0;
-    table[i][size_t(right[i])] = 1;
-    table[i][size_t(up[i] ^ 1)] = 2;
-    table[i][size_t(right[i] ^ 1)] = 3;
-  }
-  return table;
-}();
+// What the polygons of faces of one direction have in common.
+struct Rectangle {
+  alignas(16) unsigned upper[4][4];   // all bits where the corner's coordinate is the box's upper one
+  int sideTowards[AxialBox::kFaces];  // by direction, the side that lies there: from corner i to the next
+};
 
-// A texture coordinate pair on an edge, stored as floats in between as all corners are.
+constexpr Rectangle MakeRectangle(int direction, int up, int right) {
+  Rectangle made{};
+  const int sides[4] = {up, right, up ^ 1, right ^ 1};
+  for (int i = 0; i < 4; ++i) {
+    made.sideTowards[sides[i]] = i;
+    made.upper[i][AxisOf(direction)] = IsNegative(direction) ? 0 : ~0u;
+    for (const int corner : {i, (i + 1) & 3}) {
+      made.upper[corner][AxisOf(sides[i])] = IsNegative(sides[i]) ? 0 : ~0u;
+    }
+  }
+  return made;
+}
+
+// By direction of the faces, as base polygons lie.
+constexpr Rectangle kRectangles[] = {MakeRectangle(0, 4, 2), MakeRectangle(1, 4, 3), MakeRectangle(2, 4, 1),
+                                     MakeRectangle(3, 4, 0), MakeRectangle(4, 0, 3), MakeRectangle(5, 0, 2)};
+
+// The corner of a box with these limits.
+__m128 CornerOf(__m128 low, __m128 high, const unsigned* upper) {
+  const __m128 mask = _mm_load_ps(reinterpret_cast<const float*>(upper));
+  return _mm_or_ps(_mm_and_ps(mask, high), _mm_andnot_ps(mask, low));
+}
+
+__m128 Wide(const vec3& v) { return _mm_setr_ps(v.x, v.y, v.z, 0); }
+
+// Settled, for coordinates within the bounds above, nearly all of which are whole.
+float SettledNear(float c) {
+  const float whole = float(int(c));
+  return c == whole ? whole : Settled(c);
+}
+
+// Texture coordinates are stored as floats in between, as all corners are.
+__m128d Stored(__m128d st) { return _mm_cvtps_pd(_mm_cvtpd_ps(st)); }
+
 __m128d Between(__m128d from, __m128d to, __m128d part) {
-  return _mm_cvtps_pd(_mm_cvtpd_ps(_mm_add_pd(from, _mm_mul_pd(part, _mm_sub_pd(to, from)))));
+  return Stored(_mm_add_pd(from, _mm_mul_pd(part, _mm_sub_pd(to, from))));
 }
 
 }  // namespace
@@ -52,6 +74,8 @@ __m128d Between(__m128d from, __m128d to, __m128d part) {
 bool AxialBox::take(const std::vector<face>& faces) {
   if (faces.size() != kFaces) return false;
   unsigned found = 0;
+  vec3 mins;
+  vec3 maxs;
   for (int i = 0; i < kFaces; ++i) {
     const plane& p = faces[size_t(i)].facePlane;
     const int direction = DirectionOf(p.normal);
@@ -59,65 +83,84 @@ bool AxialBox::take(const std::vector<face>& faces) {
     const float at = IsNegative(direction) ? -p.dist : p.dist;
     if (!(std::fabs(at) <= kFarthest)) return false;
     found |= 1u << direction;
-    sides_[i].direction = direction;
-    sides_[i].at = at;
-    (IsNegative(direction) ? mins_ : maxs_)[AxisOf(direction)] = at;
+    order_[i] = direction;
+    sides_[direction].at = at;
+    sides_[direction].start = 0;
+    (IsNegative(direction) ? mins : maxs)[AxisOf(direction)] = at;
   }
   if (found != (1u << kFaces) - 1) return false;
   for (int axis = 0; axis < 3; ++axis) {
-    if (!(maxs_[axis] - mins_[axis] >= kThickness)) return false;
-    mins_[axis] = Settled(mins_[axis]);
-    maxs_[axis] = Settled(maxs_[axis]);
+    if (!(maxs[axis] - mins[axis] >= kThickness)) return false;
+    mins_[axis] = SettledNear(mins[axis]);
+    maxs_[axis] = SettledNear(maxs[axis]);
   }
-  findParts();
   return true;
 }
 
-void AxialBox::findParts() {
-  // Of the rectangle that is cut, by axis: how far it reaches either way.
-  double reach[3][2];
-  for (auto& r : reach) {
-    r[0] = BASE_POLYGON_HALF_SIZE;
-    r[1] = -BASE_POLYGON_HALF_SIZE;
-  }
-  for (Side& side : sides_) {
-    double* const r = reach[AxisOf(side.direction)];
-    const bool negative = IsNegative(side.direction);
-    const double kept = std::fabs(r[!negative] - side.at);
-    const double cut = std::fabs(r[negative] - side.at);
-    side.toFirst = _mm_set1_pd(kept / (kept + cut));
-    side.fromLast = _mm_set1_pd(cut / (cut + kept));
-    r[negative] = side.at;
+void AxialBox::project(int index, const texturedef& texture, const TextureAxes& axes,
+                       const TextureTurn& turn) {
+  const int direction = order_[index];
+  const __m128 far = _mm_set1_ps(float(BASE_POLYGON_HALF_SIZE));
+  const Projection projection(texture, axes, turn);
+  for (int i = 0; i < 4; ++i) {
+    WindingPoint corner;
+    _mm_storeu_ps(&corner.x,
+                  CornerOf(_mm_sub_ps(_mm_setzero_ps(), far), far, kRectangles[direction].upper[i]));
+    corner[AxisOf(direction)] = sides_[direction].at;
+    sides_[direction].st[i] = Stored(projection.of(corner));
   }
 }
 
-void AxialBox::makePolygon(const face& f, int index, const TextureAxes& axes, const TextureTurn& turn,
-                           WindingPoint* corners) const {
-  WindingPoint base[4];
-  BaseCorners(f.facePlane, f.texture, axes, turn, base);
-  __m128d st[4];
-  for (int i = 0; i < 4; ++i) st[i] = _mm_setr_pd(base[i].s, base[i].t);
-
-  const Side& own = sides_[index];
-  int start = 0;
-  for (const Side& side : sides_) {
-    const int first = kSideTowards[size_t(own.direction)][size_t(side.direction)];
-    if (first == kNone) continue;
-    const int last = (first + 1) & 3;
-    st[first] = Between(st[(first + 3) & 3], st[first], side.toFirst);
-    st[last] = Between(st[last], st[(first + 2) & 3], side.fromLast);
-    const int axis = AxisOf(side.direction);
-    base[first][axis] = base[last][axis] = (IsNegative(side.direction) ? mins_ : maxs_)[axis];
+template <int kOwn, int kTowards>
+void AxialBox::cutSide(__m128d toFirst, __m128d fromLast) {
+  if constexpr (AxisOf(kOwn) != AxisOf(kTowards)) {
+    constexpr int first = kRectangles[kOwn].sideTowards[kTowards];
+    constexpr int last = (first + 1) & 3;
+    Side& own = sides_[kOwn];
+    own.st[first] = Between(own.st[(first + 3) & 3], own.st[first], toFirst);
+    own.st[last] = Between(own.st[last], own.st[(first + 2) & 3], fromLast);
     // Cutting off the first two corners leaves the new first one last in the order.
-    if (first == start) start = last;
+    if (own.start == first) own.start = last;
   }
-  const int axis = AxisOf(own.direction);
-  const float at = (IsNegative(own.direction) ? mins_ : maxs_)[axis];
+}
+
+template <int kTowards>
+void AxialBox::cutSides(__m128d toFirst, __m128d fromLast) {
+  cutSide<0, kTowards>(toFirst, fromLast);
+  cutSide<1, kTowards>(toFirst, fromLast);
+  cutSide<2, kTowards>(toFirst, fromLast);
+  cutSide<3, kTowards>(toFirst, fromLast);
+  cutSide<4, kTowards>(toFirst, fromLast);
+  cutSide<5, kTowards>(toFirst, fromLast);
+}
+
+void AxialBox::cut() {
+  constexpr void (AxialBox::*kCuts[])(__m128d, __m128d) = {&AxialBox::cutSides<0>, &AxialBox::cutSides<1>,
+                                                           &AxialBox::cutSides<2>, &AxialBox::cutSides<3>,
+                                                           &AxialBox::cutSides<4>, &AxialBox::cutSides<5>};
+  // How far rectangles reach, by direction.
+  double reach[kFaces];
+  for (int i = 0; i < kFaces; ++i)
+    reach[i] = IsNegative(i) ? -BASE_POLYGON_HALF_SIZE : BASE_POLYGON_HALF_SIZE;
+  for (const int direction : order_) {
+    const double at = sides_[direction].at;
+    const double kept = std::fabs(reach[direction ^ 1] - at);
+    const double lost = std::fabs(reach[direction] - at);
+    const __m128d parts = _mm_div_pd(_mm_setr_pd(kept, lost), _mm_set1_pd(kept + lost));
+    (this->*kCuts[direction])(_mm_unpacklo_pd(parts, parts), _mm_unpackhi_pd(parts, parts));
+    reach[direction] = at;
+  }
+}
+
+void AxialBox::store(int index, WindingPoint* corners) const {
+  const int direction = order_[index];
+  const Side& own = sides_[direction];
+  const __m128 low = Wide(mins_);
+  const __m128 high = Wide(maxs_);
   for (int i = 0; i < 4; ++i) {
-    const int from = (start + i) & 3;
-    corners[i] = base[from];
-    corners[i][axis] = at;
-    _mm_storel_pi(reinterpret_cast<__m64*>(&corners[i].s), _mm_cvtpd_ps(st[from]));
+    const int from = (own.start + i) & 3;
+    _mm_storeu_ps(&corners[i].x, CornerOf(low, high, kRectangles[direction].upper[from]));
+    _mm_storel_pi(reinterpret_cast<__m64*>(&corners[i].s), _mm_cvtpd_ps(own.st[from]));
   }
 }
 

@@ -206,16 +206,20 @@ void FinishCuttings(Cuttings& cuttings, brush& b, std::byte* store, int alignmen
 }
 
 // The same for a box, whose polygons are always acceptable.
-void FinishBox(const AxialBox& box, brush& b, std::byte* store, int alignment) {
+void FinishBox(AxialBox& box, brush& b, std::byte* store, int alignment) {
   LastTurn turn;
   for (int i = 0; i < AxialBox::kFaces; ++i) {
     face& f = b.faces[size_t(i)];
     const TextureAxes axes = TextureAxisFromPlane(f.facePlane.normal, alignment);
     f.takeProjection(axes.shade);
+    box.project(i, f.texture, axes, turn.of(f.texture.rotate));
+  }
+  box.cut();
+  for (int i = 0; i < AxialBox::kFaces; ++i) {
     winding* w = new (store) winding{4};
     store += StoredSize(4);
-    box.makePolygon(f, i, axes, turn.of(f.texture.rotate), w->points());
-    f.polygon = w;
+    box.store(i, w->points());
+    b.faces[size_t(i)].polygon = w;
   }
   b.mins = box.mins();
   b.maxs = box.maxs();

@@ -30,39 +30,6 @@ vec3 UpAlong(const vec3& normal, int axis) {
   return up;
 }
 
-// faceTexCoords, s and t side by side.
-class Projection {
- public:
-  // The texture axes lie along map axes: s along x or y, t against y or z.
-  Projection(const texturedef& texture, const TextureAxes& axes, const TextureTurn& turn)
-      : sAxis_(axes.s.x != 0 ? 0 : 1),
-        tAxis_(axes.t.y != 0 ? 1 : 2),
-        cosine_(_mm_set1_pd(turn.cosine)),
-        sine_(_mm_set1_pd(turn.sine)),
-        scale_(_mm_setr_pd(ScaleOf(texture.scale[0]), ScaleOf(texture.scale[1]))),
-        shift_(_mm_setr_pd(texture.shift[0], texture.shift[1])),
-        scaled_(_mm_movemask_pd(_mm_cmpneq_pd(scale_, _mm_set1_pd(1))) != 0) {}
-
-  void project(WindingPoint& corner) const {
-    const double s = corner[sAxis_];
-    const double t = -double(corner[tAxis_]);
-    __m128d at = _mm_add_pd(_mm_mul_pd(cosine_, _mm_setr_pd(s, t)), _mm_mul_pd(sine_, _mm_setr_pd(-t, s)));
-    if (scaled_) at = _mm_div_pd(at, scale_);  // few are, and divisions are slow
-    _mm_storel_pi(reinterpret_cast<__m64*>(&corner.s), _mm_cvtpd_ps(_mm_add_pd(at, shift_)));
-  }
-
- private:
-  static double ScaleOf(float scale) { return scale == 0 ? 1 : scale; }
-
-  int sAxis_;
-  int tAxis_;
-  __m128d cosine_;
-  __m128d sine_;
-  __m128d scale_;
-  __m128d shift_;
-  bool scaled_;
-};
-
 }  // namespace
 
 SplitPlane::SplitPlane(const plane& p)
@@ -121,7 +88,7 @@ bool BaseCorners(const plane& facePlane, const texturedef& texture, const Textur
   const Projection projection(texture, axes, turn);
   for (int i = 0; i < 4; ++i) {
     _mm_storeu_ps(&out[i].x, places[i]);
-    projection.project(out[i]);
+    _mm_storel_pi(reinterpret_cast<__m64*>(&out[i].s), _mm_cvtpd_ps(projection.of(out[i])));
   }
   return true;
 }

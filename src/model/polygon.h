@@ -165,6 +165,39 @@ inline bool CutQuad(WindingPoint* corners, const SplitPlane& split, const Corner
 int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, const CornerSides& sides,
                WindingPoint* out);
 
+// faceTexCoords, s and t side by side; a scale of 0 counts as 1.
+class Projection {
+ public:
+  // The texture axes lie along map axes: s along x or y, t against y or z.
+  Projection(const texturedef& texture, const TextureAxes& axes, const TextureTurn& turn)
+      : sAxis_(axes.s.x != 0 ? 0 : 1),
+        tAxis_(axes.t.y != 0 ? 1 : 2),
+        cosine_(_mm_set1_pd(turn.cosine)),
+        sine_(_mm_set1_pd(turn.sine)),
+        scale_(_mm_setr_pd(ScaleOf(texture.scale[0]), ScaleOf(texture.scale[1]))),
+        shift_(_mm_setr_pd(texture.shift[0], texture.shift[1])),
+        scaled_(_mm_movemask_pd(_mm_cmpneq_pd(scale_, _mm_set1_pd(1))) != 0) {}
+
+  __m128d of(const WindingPoint& corner) const {
+    const double s = corner[sAxis_];
+    const double t = -double(corner[tAxis_]);
+    __m128d at = _mm_add_pd(_mm_mul_pd(cosine_, _mm_setr_pd(s, t)), _mm_mul_pd(sine_, _mm_setr_pd(-t, s)));
+    if (scaled_) at = _mm_div_pd(at, scale_);  // few are, and divisions are slow
+    return _mm_add_pd(at, shift_);
+  }
+
+ private:
+  static double ScaleOf(float scale) { return scale == 0 ? 1 : scale; }
+
+  int sAxis_;
+  int tAxis_;
+  __m128d cosine_;
+  __m128d sine_;
+  __m128d scale_;
+  __m128d shift_;
+  bool scaled_;
+};
+
 // The corners of BasePolyForPlane for a face of that plane and texture, whose rotation is `turn`; a scale of
 // 0 counts as 1. False for a plane without a largest axis.
 bool BaseCorners(const plane& facePlane, const texturedef& texture, const TextureAxes& axes,
