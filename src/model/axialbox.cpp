@@ -1,7 +1,7 @@
 #include "model/axialbox.h"
 
-#include <array>
 #include <cmath>
+#include <utility>
 
 #include "model/face.h"
 
@@ -17,10 +17,12 @@ constexpr int kNone = -1;
 constexpr int AxisOf(int direction) { return direction >> 1; }
 constexpr bool IsNegative(int direction) { return (direction & 1) != 0; }
 
-// The axis direction of a unit normal.
+// The axis direction of a unit normal. One that is only nearly so may have a component of 1 as well.
 int DirectionOf(const vec3& normal) {
   for (int axis = 0; axis < 3; ++axis) {
-    if (std::fabs(normal[axis]) == 1) return 2 * axis + (normal[axis] < 0);
+    if (std::fabs(normal[axis]) != 1) continue;
+    const bool exact = normal[(axis + 1) % 3] == 0 && normal[(axis + 2) % 3] == 0;
+    return exact ? 2 * axis + (normal[axis] < 0) : kNone;
   }
   return kNone;
 }
@@ -126,12 +128,10 @@ void AxialBox::cutSide(__m128d toFirst, __m128d fromLast) {
 
 template <int kTowards>
 void AxialBox::cutSides(__m128d toFirst, __m128d fromLast) {
-  cutSide<0, kTowards>(toFirst, fromLast);
-  cutSide<1, kTowards>(toFirst, fromLast);
-  cutSide<2, kTowards>(toFirst, fromLast);
-  cutSide<3, kTowards>(toFirst, fromLast);
-  cutSide<4, kTowards>(toFirst, fromLast);
-  cutSide<5, kTowards>(toFirst, fromLast);
+  const auto cutAll = [&]<int... kOwn>(std::integer_sequence<int, kOwn...>) {
+    (cutSide<kOwn, kTowards>(toFirst, fromLast), ...);
+  };
+  cutAll(std::make_integer_sequence<int, kFaces>());
 }
 
 void AxialBox::cut() {

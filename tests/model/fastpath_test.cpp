@@ -128,15 +128,21 @@ class RandomBrushes {
     return made;
   }
 
-  // The faces of a box in any order. Some are not whole, very thin, open, or reach beyond the polygons that
-  // are cut.
+  // The faces of a box in any order. Some are not whole, very thin, open, askew, or reach beyond the polygons
+  // that are cut.
   void box(brush& b) {
     const float grain = oneIn(3) ? 0.004f : 1;
     const vec3 mins = scale(point(oneIn(20) ? 8192 : 4096), grain);
-    b.setBox(mins, add(mins, scale({whole(1, 900), whole(1, 900), whole(1, 900)}, grain)), {});
+    const int longest = oneIn(3) ? 7000 : 900;
+    b.setBox(mins, add(mins, scale({whole(1, longest), whole(1, longest), whole(1, longest)}, grain)), {});
     std::shuffle(b.faces.begin(), b.faces.end(), random_);
-    if (oneIn(10))
+    if (oneIn(10)) {
       b.faces.back() = Face(b.faces[0].planepts[1], b.faces[0].planepts[2], b.faces[0].planepts[0]);
+    }
+    if (oneIn(4)) {  // so little that the normal's largest component may still be 1
+      vec3& corner = b.faces[0].planepts[0];
+      corner = add(corner, scale(point(1), grain));
+    }
   }
 
   // A prism of whole plane points.
