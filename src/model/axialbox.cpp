@@ -103,7 +103,7 @@ void AxialBox::project(int index, const texturedef& texture, const TextureAxes& 
                        const TextureTurn& turn) {
   const int direction = order_[index];
   const __m128 far = _mm_set1_ps(float(BASE_POLYGON_HALF_SIZE));
-  const Projection projection(texture, axes, turn);
+  const TextureProjection projection(texture, axes, turn);
   for (int i = 0; i < 4; ++i) {
     WindingPoint corner;
     _mm_storeu_ps(&corner.x,

@@ -85,7 +85,7 @@ bool BaseCorners(const plane& facePlane, const texturedef& texture, const Textur
   const __m128 rightOf = _mm_add_ps(org, right);
   const __m128 places[4] = {_mm_add_ps(left, halfUp), _mm_add_ps(rightOf, halfUp),
                             _mm_sub_ps(rightOf, halfUp), _mm_sub_ps(left, halfUp)};
-  const Projection projection(texture, axes, turn);
+  const TextureProjection projection(texture, axes, turn);
   for (int i = 0; i < 4; ++i) {
     _mm_storeu_ps(&out[i].x, places[i]);
     _mm_storel_pi(reinterpret_cast<__m64*>(&out[i].s), _mm_cvtpd_ps(projection.of(out[i])));

@@ -166,10 +166,10 @@ int CutCorners(const WindingPoint* corners, int count, const SplitPlane& split, 
                WindingPoint* out);
 
 // faceTexCoords, s and t side by side; a scale of 0 counts as 1.
-class Projection {
+class TextureProjection {
  public:
   // The texture axes lie along map axes: s along x or y, t against y or z.
-  Projection(const texturedef& texture, const TextureAxes& axes, const TextureTurn& turn)
+  TextureProjection(const texturedef& texture, const TextureAxes& axes, const TextureTurn& turn)
       : sAxis_(axes.s.x != 0 ? 0 : 1),
         tAxis_(axes.t.y != 0 ? 1 : 2),
         cosine_(_mm_set1_pd(turn.cosine)),
