@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kHalfLight = 128;
 constexpr QColor kDarkTitle(0x96, 0x9a, 0xa2);
+constexpr const char* kNormalRect = "velkNormalRect";  // where a window is while neither icon nor maximised
 
 // Qt's own style draws the buttons of windows that are not active in black in any palette, and the windows
 // do not take every change of the palette into their titles.
@@ -51,6 +52,21 @@ class ChildWindow : public QMdiSubWindow {
     event->ignore();
     showMinimized();
   }
+
+  void moveEvent(QMoveEvent* event) override {
+    QMdiSubWindow::moveEvent(event);
+    noteNormalRect();
+  }
+
+  void resizeEvent(QResizeEvent* event) override {
+    QMdiSubWindow::resizeEvent(event);
+    noteNormalRect();
+  }
+
+ private:
+  void noteNormalRect() {
+    if (!isMinimized() && !isMaximized()) setProperty(kNormalRect, geometry());
+  }
 };
 
 QRect rectOf(const WindowPlacement& placement) {
@@ -64,6 +80,8 @@ int share(int position, int from, int to) { return from > 0 ? (position * to + f
 
 ChildWindows::ChildWindows(QMdiArea& area) : QObject(&area), area_(area), titles_(new TitleStyle) {
   titles_->setParent(this);
+  // Bringing a window to the front does not change its size, whatever the one before it was.
+  area_.setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
   area_.viewport()->installEventFilter(this);
   connect(&area_, &QMdiArea::subWindowActivated, this, [this] { raiseIcons(); });
 }
@@ -97,7 +115,7 @@ WindowPlacement ChildWindows::placement(ToolWindow window) const {
   if (from.isMinimized()) placement.state = ShowState::Minimised;
   if (from.isMaximized()) placement.state = ShowState::Maximised;
   const bool normal = placement.state == ShowState::Normal;
-  const QRect rect = normal ? from.geometry() : from.property("velkNormalRect").toRect();
+  const QRect rect = normal ? from.geometry() : from.property(kNormalRect).toRect();
   placement.normal = {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
   if (from.isMinimized()) placement.minimised = {from.x(), from.y()};
   return placement;
@@ -109,7 +127,7 @@ void ChildWindows::place(ToolWindow window, const WindowPlacement& placement) {
   QMdiSubWindow& target = child(window);
   target.showNormal();
   target.setGeometry(rect);
-  target.setProperty("velkNormalRect", rect);
+  target.setProperty(kNormalRect, rect);
   if (placement.state == ShowState::Minimised) target.showMinimized();
   if (placement.state == ShowState::Maximised) target.showMaximized();
 }
@@ -124,11 +142,7 @@ void ChildWindows::bringToFront(ToolWindow window) {
   target.widget()->setFocus();
 }
 
-void ChildWindows::minimise(ToolWindow window) {
-  QMdiSubWindow& target = child(window);
-  if (!target.isMaximized()) target.setProperty("velkNormalRect", target.geometry());
-  target.showMinimized();
-}
+void ChildWindows::minimise(ToolWindow window) { child(window).showMinimized(); }
 
 // One below the title bar of the other, the front one last; the area's own cascade goes by what the
 // contents would like and makes some windows tiny.
