@@ -24,7 +24,8 @@ void MapTabs::refresh() {
   while (count() < editor_.mapCount()) addTab(QString());
   for (int i = 0; i < count(); ++i) {
     const std::string& path = editor_.document(i)->model.name;
-    setTabText(i, QString::fromLocal8Bit(FileNamePart(path).c_str()));
+    // A single ampersand would mark a letter as the tab's key.
+    setTabText(i, QString::fromLocal8Bit(FileNamePart(path).c_str()).replace('&', QLatin1String("&&")));
     setTabToolTip(i, QString::fromLocal8Bit(path.c_str()));
   }
   setCurrentIndex(editor_.currentIndex());

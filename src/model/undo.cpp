@@ -60,6 +60,11 @@ void UndoHistory::push(Record record, int levels) {
   record.name = record.name.substr(0, kMaxName);
   redo_.clear();
   records_.push_back(std::move(record));
+  limit(levels);
+}
+
+void UndoHistory::limit(int levels) {
+  if (levels <= 1) redo_.clear();
   while (static_cast<int>(records_.size()) > std::max(levels, 1)) records_.pop_front();
 }
 

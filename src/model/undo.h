@@ -30,6 +30,9 @@ class UndoHistory {
   // Keeps what the map was before a change; what could be redone is gone. Beyond `levels` the oldest goes.
   void changed(MapSnapshot before, const std::string& name, int levels);
 
+  // Gives up what is beyond that many levels; with one level there is no redo.
+  void limit(int levels);
+
   // The whole map that was kept last, for the next snapshot to share what did not change; none otherwise.
   const MapSnapshot* latest() const { return records_.empty() ? nullptr : records_.back().whole.get(); }
 

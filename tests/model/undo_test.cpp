@@ -83,6 +83,12 @@ TEST_F(UndoTest, LevelsGoBackAndForth) {
   EXPECT_EQ(world().at(2)->mins.x, 64);
   history.changed(TakeSnapshot(m), "new", 3);
   EXPECT_FALSE(history.canRedo());
+
+  // Fewer levels from now on: nothing done under the classic rules is to be lost by an older redo.
+  ASSERT_TRUE(history.undo(m, 3));
+  history.limit(1);
+  EXPECT_EQ(history.undoCount(), 1);
+  EXPECT_FALSE(history.canRedo());
 }
 
 TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
