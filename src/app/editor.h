@@ -44,14 +44,14 @@ struct MapDocument {
   TextureSet textures;
   map model;  // model.name is the path, as given
   UndoHistory history;
-  FileStamp onDisk;             // of the file when it was read or written; none for a map without a file
-  FileStamp seenOnDisk;         // the last state of the file that the user knows of
-  bool fileLost = false;        // the file was there and is gone
-  int invalidAccepted = 0;      // so many brushes may be left out of the file without a question
+  FileStamp onDisk;                  // of the file when it was read or written; none for a map without a file
+  FileStamp seenOnDisk;              // the last state of the file that the user knows of
+  bool fileLost = false;             // the file was there and is gone
+  int invalidAccepted = 0;           // so many brushes may be left out of the file without a question
+  std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 
   // Whether closing it would lose something.
   bool isUnsaved() const { return model.modified || fileLost; }
-  std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 };
 
 // The camera view's window and what it keeps between frames.
