@@ -45,11 +45,12 @@ QLabel* placeholder(const std::string& title, const char* line) {
 }  // namespace
 
 TVelkWindow::TVelkWindow(EditorPlace place, Prompts& prompts)
-    : editor_(std::move(place), prompts, *this), area_(new QMdiArea(this)), message_(new QLabel(this)) {
+    : editor_(std::move(place), prompts, *this),
+      area_(new QMdiArea(this)),
+      status_(new TVelkStatusBar(this)) {
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  message_->setTextFormat(Qt::PlainText);
-  statusBar()->addWidget(message_, 1);
+  setStatusBar(status_);
   setAcceptDrops(true);
   resize(kFirstSize);
 }
@@ -198,10 +199,7 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // A hint makes way, such as that of the button just pressed, which is still under the pointer.
-void TVelkWindow::statusChanged(const std::string& text) {
-  statusBar()->clearMessage();
-  message_->setText(shown(text));
-}
+void TVelkWindow::statusChanged(const std::string& text) { status_->post(shown(text)); }
 
 void TVelkWindow::redrawPlanViews() {
   for (TXYViewWindow* view : planViews_) {

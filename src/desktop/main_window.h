@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QProgressBar>
@@ -18,6 +17,7 @@
 #include "desktop/map_tabs.h"
 #include "desktop/plan_view_window.h"
 #include "desktop/replace_dialog.h"
+#include "desktop/status_bar.h"
 
 namespace velk {
 
@@ -68,7 +68,7 @@ class TVelkWindow : public QMainWindow, private Observer {
 
   Editor editor_;
   QMdiArea* area_;
-  QLabel* message_;
+  TVelkStatusBar* status_;
   HelpWindow* help_ = nullptr;              // made when first asked for
   ReplaceDialog* replace_ = nullptr;        // as well
   FileWatch* watch_ = nullptr;              // none without a user
