@@ -191,7 +191,7 @@ bool Editor::saveDocument(MapDocument& document, const std::string& path, bool r
   m.modified = false;
   ++m.saves;
   document.onDisk = document.seenOnDisk = written.stamp;
-  document.fileLost = false;
+  document.fileDiffers = false;
   dropRescueCopy(document);
   recentMaps_.add(paths_.absolute(path));
   observer_.mapsChanged();

@@ -46,12 +46,12 @@ struct MapDocument {
   UndoHistory history;
   FileStamp onDisk;                  // of the file when it was read or written; none for a map without a file
   FileStamp seenOnDisk;              // the last state of the file that the user knows of
-  bool fileLost = false;             // the file was there and is gone
+  bool fileDiffers = false;          // the file is gone or holds something else
   int invalidAccepted = 0;           // so many brushes may be left out of the file without a question
   std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 
   // Whether closing it would lose something.
-  bool isUnsaved() const { return model.modified || fileLost; }
+  bool isUnsaved() const { return model.modified || fileDiffers; }
 };
 
 // The camera view's window and what it keeps between frames.

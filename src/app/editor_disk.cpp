@@ -62,7 +62,7 @@ void Editor::checkDisk(size_t index) {
   const FileStamp now = StampOf(paths_.native(name));
   if (now == document.seenOnDisk || name == settings_.newmap) return;
   document.seenOnDisk = now;
-  document.fileLost = !now.exists;
+  document.fileDiffers = now != document.onDisk;
   if (!now.exists) {
     postStatus(Format("File [%s] is gone from the disk...", name.c_str()));
   } else if (now == document.onDisk) {

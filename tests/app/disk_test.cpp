@@ -56,6 +56,7 @@ TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   session.editor.checkDisk();
   EXPECT_EQ(session.prompts.log(), std::vector{question(path, kReload, "no")}) << "asked once a change";
   EXPECT_EQ(session.current().brushCount(), 3);
+  EXPECT_TRUE(session.editor.current()->isUnsaved()) << "no file holds it any more";
 
   session.home.write("a.map", "{ \"classname\" \"worldspawn\" { nonsense");
   session.answer("yes");
@@ -71,7 +72,7 @@ TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   EXPECT_EQ(session.editor.currentIndex(), 0);
   EXPECT_EQ(session.current().world()->at(0)->mins.x, 1024);
   EXPECT_EQ(session.current().activeCamera().origin.z, 3);
-  EXPECT_FALSE(session.current().modified);
+  EXPECT_FALSE(session.editor.current()->isUnsaved());
   session.editor.undo();
   EXPECT_EQ(session.current().brushCount(), 3);
   EXPECT_TRUE(session.current().modified);
