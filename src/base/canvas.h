@@ -37,7 +37,8 @@ class Canvas {
   virtual void points(Colour colour, std::span<const Pixel> points) = 0;
   // Text whose character cell starts at `at` (top left) with the given height in pixels. The background
   // is filled behind it when one is given.
-  virtual void text(const std::string& text, Pixel at, int height, Colour colour, const Colour* background) = 0;
+  virtual void text(const std::string& text, Pixel at, int height, Colour colour,
+                    const Colour* background) = 0;
   // Width of the text in pixels at that height.
   virtual int textWidth(const std::string& text, int height) const = 0;
 

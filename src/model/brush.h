@@ -26,17 +26,17 @@ struct brush {
   ~brush();
 
   bool selected = false;
-  bool invalid = false;          // no valid solid; see buildWindings
-  bool hidden = false;           // left out by the view filter
-  entity* owner = nullptr;       // the entity that holds this brush
-  vec3 mins;                     // bounds of all polygons, world units
+  bool invalid = false;     // no valid solid; see buildWindings
+  bool hidden = false;      // left out by the view filter
+  entity* owner = nullptr;  // the entity that holds this brush
+  vec3 mins;                // bounds of all polygons, world units
   vec3 maxs;
-  vec3 color;                    // of the owner's entity class, channels nominally 0..1
-  int currentFace = 0;           // 0..numfaces-1
+  vec3 color;           // of the owner's entity class, channels nominally 0..1
+  int currentFace = 0;  // 0..numfaces-1
   int group = 0;
-  std::vector<face> faces;       // at most MAX_FACES
-  const brush* source = nullptr; // in an undo copy: the live brush
-  HitList* hits = nullptr;       // the hit list that holds this brush, if any
+  std::vector<face> faces;                 // at most MAX_FACES
+  const brush* source = nullptr;           // in an undo copy: the live brush
+  HitList* hits = nullptr;                 // the hit list that holds this brush, if any
   std::shared_ptr<const BrushShape> kept;  // of the last snapshot; may be out of date
   // Expires with the brush; made when first asked for.
   std::weak_ptr<const void> identity();
@@ -74,7 +74,7 @@ struct brush {
   void deselect();
 
   struct Hit {
-    double t = -1;   // distance from the start, -1 for a miss
+    double t = -1;  // distance from the start, -1 for a miss
     int face = -1;
   };
   // Where the segment enters the brush. A start inside without any crossing gives t 0 on face 0. A
@@ -84,7 +84,7 @@ struct brush {
   struct RayClip {
     vec3 p1;
     vec3 p2;
-    int entry = -2;   // faces crossed; -2 none crossed, -1 missed
+    int entry = -2;  // faces crossed; -2 none crossed, -1 missed
     int exit = -2;
   };
   RayClip clipRay(const vec3& start, const vec3& end) const;
@@ -94,7 +94,7 @@ struct brush {
   // Makes room in the store for polygons of so many bytes; what it held is gone.
   std::byte* polygonStore(size_t bytes);
 
-  std::unique_ptr<std::byte[]> store_;   // one block with the polygons of all faces, kept for the next build
+  std::unique_ptr<std::byte[]> store_;  // one block with the polygons of all faces, kept for the next build
   size_t storeSize_ = 0;
   ObjectCounters* counters_ = nullptr;
   std::shared_ptr<const int> identity_;

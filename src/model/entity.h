@@ -16,7 +16,7 @@ namespace velk {
 
 class map;
 
-inline constexpr int MAX_KEY = 64;     // bytes with the terminator
+inline constexpr int MAX_KEY = 64;  // bytes with the terminator
 inline constexpr int MAX_VALUE = 128;
 inline constexpr int MAX_ENTITY_BRUSHES = 4096;
 
@@ -37,12 +37,14 @@ class entity {
 
   // The brushes are the entity's own (world, doors, triggers); false: one box of a fixed-size class.
   bool isModel = false;
-  const entity* source = nullptr;   // in a copy: the entity copied
+  const entity* source = nullptr;  // in a copy: the entity copied
 
   // Brushes, owned. A 4097th is fatal "entity->addobject, too many objects".
   int numbrushes() const { return static_cast<int>(brushes_.size()); }
-  brush* at(int index) const { return index >= 0 && index < numbrushes() ? brushes_[static_cast<size_t>(index)].get() : nullptr; }
-  int indexOf(const brush* b) const;   // -1 when it is not there
+  brush* at(int index) const {
+    return index >= 0 && index < numbrushes() ? brushes_[static_cast<size_t>(index)].get() : nullptr;
+  }
+  int indexOf(const brush* b) const;  // -1 when it is not there
   brush& addobject(std::unique_ptr<brush> added);
   // Fatal as addobject is when the list is full: before something is taken out of its place to be added.
   void requireRoom() const;
@@ -100,7 +102,7 @@ class entity {
 
   map* parent_;
   std::vector<std::unique_ptr<brush>> brushes_;
-  std::vector<KeyPair> pairs_;   // oldest first
+  std::vector<KeyPair> pairs_;  // oldest first
   // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.
   mutable std::unordered_map<std::string, size_t> places_;
   std::shared_ptr<const int> identity_;

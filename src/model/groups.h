@@ -10,10 +10,10 @@
 namespace velk {
 
 struct group {
-  std::string name;      // at most 63 characters
+  std::string name;  // at most 63 characters
   bool visible = true;
   Colour colour;
-  int brushCount = 0;    // filled in on demand, never saved
+  int brushCount = 0;  // filled in on demand, never saved
 };
 
 // Group 0 always exists and is named "None" in a new list.
@@ -37,9 +37,9 @@ class GroupList {
   void remove(int index);
   void rename(int index, std::string_view name);
   void setVisible(int index, bool visible);
-  bool visible(int index) const;         // false outside the list
+  bool visible(int index) const;  // false outside the list
   void setColour(int index, Colour colour);
-  Colour colour(int index) const;        // white outside the list
+  Colour colour(int index) const;  // white outside the list
   void setBrushCount(int index, int count);
 
   // What the group filter asks of a brush's group number: negative ones count as visible, those beyond

@@ -23,10 +23,10 @@ struct HitList {
   std::array<brush*, kMax> brushes{};
   std::array<bool, kMax> saved{};
   int count = 0;
-  int current = 0;   // -1..count-1
+  int current = 0;  // -1..count-1
 
   void clear();
-  void add(brush& b);            // ignored when full
+  void add(brush& b);  // ignored when full
   void forget(const brush& b);
 };
 
@@ -35,21 +35,21 @@ enum class MapNotice { CurrentEntity, WorkRange, Groups };
 
 // The values that a command sets before it dispatches a method over brushes.
 struct PerformValues {
-  vec3 boundsMins;               // method 1
+  vec3 boundsMins;  // method 1
   vec3 boundsMaxs;
-  float matrix[3][3] = {};       // method 2
+  float matrix[3][3] = {};  // method 2
   vec3 centre;
-  entity* target = nullptr;      // method 4
-  vec3 boxMins;                  // methods 6 and 7
+  entity* target = nullptr;  // method 4
+  vec3 boxMins;              // methods 6 and 7
   vec3 boxMaxs;
-  vec3 offset;                   // method 9
+  vec3 offset;  // method 9
   // Methods that later layers carry out; without one, the method does nothing. They leave their brush in
   // its entity; the dispatcher destroys what 8 and 13 leave invalid.
-  std::function<void(brush&)> cut;         // 8
-  std::function<void(brush&)> floorSearch; // 10
-  std::function<void(brush&)> draw;        // 12
-  std::function<void(brush&)> split;       // 13
-  std::function<void(brush&)> pick;        // 15
+  std::function<void(brush&)> cut;          // 8
+  std::function<void(brush&)> floorSearch;  // 10
+  std::function<void(brush&)> draw;         // 12
+  std::function<void(brush&)> split;        // 13
+  std::function<void(brush&)> pick;         // 15
 };
 
 enum class Method {
@@ -86,27 +86,29 @@ class map {
   const EntityClassList& classes() const { return classes_; }
   ObjectCounters* counters() const { return counters_; }
 
-  std::string name;             // the map's file, as given
+  std::string name;  // the map's file, as given
   bool modified = false;
-  int saves = 0;                // how often the file was written
+  int saves = 0;  // how often the file was written
   GroupList groups;
   std::array<camera, kCameras> cameras;
   int currentCamera = 0;
   clipper clip;
   HitList hits;
-  std::vector<std::string> favourites;   // texture names; empty ones are free slots
+  std::vector<std::string> favourites;  // texture names; empty ones are free slots
   PerformValues perform;
-  std::function<void(MapNotice)> notice; // may be empty
+  std::function<void(MapNotice)> notice;  // may be empty
 
   camera& activeCamera() { return cameras[static_cast<size_t>(currentCamera)]; }
   const camera& activeCamera() const { return cameras[static_cast<size_t>(currentCamera)]; }
 
   // Entities, owned; 0 is the world.
   int numentities() const { return static_cast<int>(entities_.size()); }
-  entity* at(int index) const { return index >= 0 && index < numentities() ? entities_[static_cast<size_t>(index)].get() : nullptr; }
+  entity* at(int index) const {
+    return index >= 0 && index < numentities() ? entities_[static_cast<size_t>(index)].get() : nullptr;
+  }
   Pointees<entity> entities() const { return Pointees(entities_); }
   entity* world() const { return at(0); }
-  int indexOf(const entity* e) const;    // -1 when it is not there
+  int indexOf(const entity* e) const;  // -1 when it is not there
   // A 1025th is fatal "map->addobject, too many brushes on entity...".
   entity& addobject(std::unique_ptr<entity> added);
   // Fatal as addobject is when the list is full: before brushes leave their place for a new entity.
@@ -117,15 +119,15 @@ class map {
 
   // The entity that commands address; the world when none was set. None only in a map without entities.
   entity* currentEntity();
-  void setCurrentEntity(entity* e);      // marks the map modified
+  void setCurrentEntity(entity* e);  // marks the map modified
   bool worldIsCurrent() { return currentEntity() == world(); }
 
   // The current brush: the first selected one of the current entity, else of the others from the last to
   // the first; none when nothing is selected.
   brush* firstSelected();
-  int selectedCount();                   // in the current entity
-  int totalSelected() const;             // in all entities
-  int brushCount() const;                // of all entities
+  int selectedCount();        // in the current entity
+  int totalSelected() const;  // in all entities
+  int brushCount() const;     // of all entities
   // Middle of the bounds of the selection, or of everything when the current entity has none selected.
   // The group filter applies.
   vec3 selectionCentre();
@@ -133,8 +135,8 @@ class map {
   // The depth range of new brushes, per axis, on the grid.
   const vec3& workLow() const { return workLow_; }
   const vec3& workHigh() const { return workHigh_; }
-  void setWorkLow(const vec3& low);      // axes above -2048 only
-  void setWorkHigh(const vec3& high);    // axes below 2048 only
+  void setWorkLow(const vec3& low);    // axes above -2048 only
+  void setWorkHigh(const vec3& high);  // axes below 2048 only
   // Takes the range as it is, off the grid or not.
   void setWorkRange(const vec3& low, const vec3& high);
 
@@ -146,10 +148,10 @@ class map {
   // Visit entities from the last to the first and their brushes from the last to the first, so that a
   // method may delete its brush; mark the map modified. A method outside 0..15 is fatal, with the
   // dispatcher's name: "MSPerform Unknown method...".
-  void MUSPerform(Method method);        // visible groups, not selected
-  void MSPerform(Method method);         // visible groups, selected
-  void MAPerform(Method method);         // visible groups
-  void MGPerform(Method method);         // every brush
+  void MUSPerform(Method method);  // visible groups, not selected
+  void MSPerform(Method method);   // visible groups, selected
+  void MAPerform(Method method);   // visible groups
+  void MGPerform(Method method);   // every brush
 
   // Empties the map and gives it a world whose "wad" is `wads`. Current is the world; not modified.
   void initNew(const std::string& wads);
@@ -157,7 +159,9 @@ class map {
   void clearEntities();
 
   void assignGroupOfSelected(int index);
-  void notify(MapNotice what) const { if (notice) notice(what); }
+  void notify(MapNotice what) const {
+    if (notice) notice(what);
+  }
 
  private:
   template <typename Filter>

@@ -11,13 +11,14 @@ void SelectByBox(map& m, bool inside);
 
 // Gives the face hit first by the ray, or all faces of its brush, the texture. Fixed-size entities keep
 // theirs. True when a brush changed.
-bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texturedef& texture, bool wholeBrush);
+bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texturedef& texture,
+                       bool wholeBrush);
 
 // What a pick found: the brush and the face hit; none when nothing was.
 struct RayPick {
   brush* hit = nullptr;
   int face = -1;
-  bool firstOfSelection = false;   // nothing else was selected: the texture browser takes the face's texture
+  bool firstOfSelection = false;  // nothing else was selected: the texture browser takes the face's texture
 };
 
 // Picks along a ray and toggles the selection of what it meets first; its entity becomes current. With

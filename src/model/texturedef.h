@@ -8,16 +8,16 @@
 namespace velk {
 
 struct texturedef {
-  std::string name;            // lower case; any length is kept, wads hold up to 15 characters
-  float rotate = 0;            // degrees
-  float shift[2] = {0, 0};     // s, t in texels
-  float scale[2] = {0, 0};     // world units per texel; 0 counts as 1
+  std::string name;         // lower case; any length is kept, wads hold up to 15 characters
+  float rotate = 0;         // degrees
+  float shift[2] = {0, 0};  // s, t in texels
+  float scale[2] = {0, 0};  // world units per texel; 0 counts as 1
 };
 
 struct TextureAxes {
   vec3 s;
   vec3 t;
-  float shade = 1;   // brightness of faces with these axes: 1.0 floors, 0.6 and 0.75 walls
+  float shade = 1;  // brightness of faces with these axes: 1.0 floors, 0.6 and 0.75 walls
 };
 
 // The texture axes for a face normal. alignment 0 gives ties between base axes to the lower row of the

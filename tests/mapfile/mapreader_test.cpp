@@ -1,6 +1,7 @@
 #include "mapfile/mapreader.h"
 
 #include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "mapfile/samplemap.h"
