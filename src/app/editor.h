@@ -106,7 +106,7 @@ class Editor {
   std::string labelOf(const Command& command) const;
 
   // From now on a user sits before the editor: recent maps are kept between runs, and what keeps a map from
-  // being made or read is told in a message box instead of ending the program.
+  // being made, read or filled with copies is told in a message box instead of ending the program.
   void attend();
 
   // What New, Open, Save and Close do once their questions are answered. An error on the way leaves the
@@ -242,6 +242,7 @@ class Editor {
   using DocumentMaker = std::function<std::unique_ptr<MapDocument>()>;
   std::unique_ptr<MapDocument> attempt(const char* caption, const std::string& failure,
                                        const DocumentMaker& make);
+  bool addCopies(const std::function<void(map&)>& add);
   std::unique_ptr<MapDocument> makeDocument();
   std::unique_ptr<MapDocument> readDocument(const std::string& path);
   MapReadOptions readOptions();

@@ -1,5 +1,6 @@
 // Undo and the clipboard.
 #include "app/editor.h"
+#include "base/error.h"
 #include "base/text.h"
 #include "model/clipboard.h"
 
@@ -67,16 +68,38 @@ void Editor::copySelection() {
   postStatus("Selection copied...");
 }
 
+// Adds copies to the current map. A user is told when it has no room for all of them, and it stays as it was.
+bool Editor::addCopies(const std::function<void(map&)>& add) {
+  map& m = *currentMap();
+  if (!attended_) {
+    add(m);
+    return true;
+  }
+  const MapSnapshot before = TakeSnapshot(m, current()->history.latest());
+  try {
+    const ErrorTrap trap;
+    add(m);
+    return true;
+  } catch (const TrappedError& error) {
+    RestoreSnapshot(m, before, false);
+    prompts_.ask({.caption = "Velk - Cannot Copy",
+                  .text = Format("The map has no room for the copies.\n\n%s", error.what()),
+                  .buttons = MessageBox::Buttons::Ok,
+                  .icon = MessageBox::Icon::Error});
+    return false;
+  }
+}
+
 void Editor::pasteClipboard() {
   if (!currentMap() || !clipboard_) return;
-  PasteClipboard(*currentMap(), *clipboard_, 0, PasteOffset(settings_));
+  if (!addCopies([this](map& m) { PasteClipboard(m, *clipboard_, 0, PasteOffset(settings_)); })) return;
   flagAllViews();
   postStatus("Selection pasted...");
 }
 
 void Editor::cloneSelection() {
   if (!currentMap()) return;
-  CloneSelection(*currentMap(), PasteOffset(settings_));
+  if (!addCopies([this](map& m) { CloneSelection(m, PasteOffset(settings_)); })) return;
   flagAllViews();
   postStatus("Selection cloned...");
 }

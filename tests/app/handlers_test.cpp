@@ -1,5 +1,6 @@
 // Commands whose effect is not told by a script's output.
 #include "app/session.h"
+#include "mapfile/mapwriter.h"
 
 namespace velk {
 namespace {
@@ -129,6 +130,22 @@ TEST(Handlers, RedrawsOnlyWhatChanged) {
   session.run("CM_GRID_UP");
   EXPECT_EQ(seen.cameraRedraws, 1);
   EXPECT_EQ(seen.planRedraws, 1);
+}
+
+TEST(Undo, CopiesWithoutRoomLeaveTheMapAsItWas) {
+  Session session;
+  session.editor.attend();
+  session.open();
+  const auto doubled = [&] { return session.run("CM_SELECT_ALL") && session.run("CM_EDITCLONE"); };
+  for (int i = 0; i < 9; ++i) ASSERT_TRUE(doubled());
+  const std::string before = MapFileText(session.current(), {});
+  session.answer("ok");
+  doubled();
+  EXPECT_EQ(session.prompts.log().back(),
+            "message \"Velk - Cannot Copy\" \"The map has no room for the "
+            "copies.\\n\\nmap->addobject, too many brushes on entity...\" ok");
+  EXPECT_EQ(MapFileText(session.current(), {}), before);
+  EXPECT_EQ(session.current().totalSelected(), session.current().brushCount());
 }
 
 TEST(Undo, CommandsTakeTheirOwnCopiesAboveOneLevel) {
