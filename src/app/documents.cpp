@@ -14,12 +14,13 @@ std::string Editor::title() const {
   return Format("[Velk - %s]", currentMap() ? currentMap()->name.c_str() : "Velk");
 }
 
+void Editor::tell(const char* caption, const std::string& text, MessageBox::Icon icon) {
+  prompts_.ask({.caption = caption, .text = text, .buttons = MessageBox::Buttons::Ok, .icon = icon});
+}
+
 bool Editor::hasRoom(const char* caption) {
   if (mapCount() < MAX_MAPS) return true;
-  prompts_.ask({.caption = caption,
-                .text = "No more maps available...",
-                .buttons = MessageBox::Buttons::Ok,
-                .icon = MessageBox::Icon::Warning});
+  tell(caption, "No more maps available...", MessageBox::Icon::Warning);
   return false;
 }
 
@@ -79,10 +80,7 @@ std::unique_ptr<MapDocument> Editor::attempt(const char* caption, const std::str
     const ErrorTrap trap;
     return make();
   } catch (const TrappedError& error) {
-    prompts_.ask({.caption = caption,
-                  .text = failure + error.what(),
-                  .buttons = MessageBox::Buttons::Ok,
-                  .icon = MessageBox::Icon::Error});
+    tell(caption, failure + error.what());
     return nullptr;
   }
 }
@@ -163,14 +161,11 @@ void Editor::openRecent(int index) {
     return;
   }
   recentMaps_.remove(path);
-  prompts_.ask({.caption = kCannotOpen,
-                .text = Format("The file %s is not there any more.", path.c_str()),
-                .buttons = MessageBox::Buttons::Ok,
-                .icon = MessageBox::Icon::Warning});
+  tell(kCannotOpen, Format("The file %s is not there any more.", path.c_str()), MessageBox::Icon::Warning);
 }
 
 bool Editor::refuseSave(const std::string& text, MessageBox::Icon icon) {
-  prompts_.ask({.caption = "Velk - Save", .text = text, .buttons = MessageBox::Buttons::Ok, .icon = icon});
+  tell("Velk - Save", text, icon);
   return false;
 }
 

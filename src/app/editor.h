@@ -233,6 +233,8 @@ class Editor {
   std::filesystem::path freeCopyFile() const;
   void openRescueCopy(const RescueCopy& copy);
   void dropRescueCopy(MapDocument& document);
+  // A box to be read and closed.
+  void tell(const char* caption, const std::string& text, MessageBox::Icon icon = MessageBox::Icon::Error);
   bool refuseSave(const std::string& text, MessageBox::Icon icon);
   bool mayLeaveOut(MapDocument& document);
   bool mayReplace(const MapDocument& document, const std::string& path);

@@ -90,10 +90,7 @@ void Editor::reload(size_t index) {
     fresh->history = std::move(old.history);
     documents_[index] = std::move(fresh);
   } catch (const TrappedError& error) {
-    prompts_.ask({.caption = kFileChanged,
-                  .text = error.what(),
-                  .buttons = MessageBox::Buttons::Ok,
-                  .icon = MessageBox::Icon::Error});
+    tell(kFileChanged, error.what());
     return;
   }
   showCurrent();

@@ -97,10 +97,7 @@ void Editor::openRescueCopy(const RescueCopy& copy) {
     rescued = readDocument(copy.file.string());
   } catch (const TrappedError& error) {
     const std::string kept = rescue_->putAside(copy).string();
-    prompts_.ask({.caption = kCannotOpen,
-                  .text = Format("%s\nThe copy is kept as %s", error.what(), kept.c_str()),
-                  .buttons = MessageBox::Buttons::Ok,
-                  .icon = MessageBox::Icon::Error});
+    tell(kCannotOpen, Format("%s\nThe copy is kept as %s", error.what(), kept.c_str()));
     return;
   }
   // A file written after the copy is to be asked about before it is replaced.

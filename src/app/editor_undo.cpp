@@ -82,10 +82,7 @@ bool Editor::addCopies(const std::function<void(map&)>& add) {
     return true;
   } catch (const TrappedError& error) {
     RestoreSnapshot(m, before, false);
-    prompts_.ask({.caption = "Velk - Cannot Copy",
-                  .text = Format("The map has no room for the copies.\n\n%s", error.what()),
-                  .buttons = MessageBox::Buttons::Ok,
-                  .icon = MessageBox::Icon::Error});
+    tell("Velk - Cannot Copy", Format("The map has no room for the copies.\n\n%s", error.what()));
     return false;
   }
 }

@@ -8,6 +8,7 @@
 
 #include "base/text.h"
 #include "desktop/command_icons.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -23,8 +24,6 @@ class ListStyle : public QProxyStyle {
     return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
   }
 };
-
-QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
 
 }  // namespace
 
@@ -48,7 +47,7 @@ void TextureList::refresh() {
   if (names != names_) {
     names_ = std::move(names);
     QStringList items;
-    for (const std::string& name : names_) items << shown(name);
+    for (const std::string& name : names_) items << ShownText(name);
     clear();
     addItems(items);
     const int row = std::max(view()->sizeHintForRow(0), 1);
@@ -66,7 +65,7 @@ TVelkControlBar::TVelkControlBar(int number, const ButtonBar& gadgets, Editor& e
   setWindowTitle(QStringLiteral("Velk Bar %1").arg(number));
   setObjectName(QStringLiteral("velkBar%1").arg(number));
   setAllowedAreas(Qt::AllToolBarAreas);
-  QFont font(shown(editor.settings().velk_font));
+  QFont font(ShownText(editor.settings().velk_font));
   font.setPixelSize(editor.settings().velk_font_size);
   setFont(font);
   setMovable(true);
@@ -101,8 +100,8 @@ void TVelkControlBar::fitOrientation() {
 }
 
 void TVelkControlBar::addButton(const Command& command) {
-  QAction* button = addAction(CommandIcon(command.name), shown(PlainLabel(command)));
-  button->setToolTip(shown(ButtonTip(command)));
+  QAction* button = addAction(CommandIcon(command.name), ShownText(PlainLabel(command)));
+  button->setToolTip(ShownText(ButtonTip(command)));
   button->setStatusTip(QString::fromLatin1(command.hint));
   button->setCheckable(command.checked != nullptr);
   connect(button, &QAction::triggered, this, [this, &command] {

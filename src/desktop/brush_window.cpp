@@ -6,6 +6,7 @@
 
 #include "app/handlers.h"
 #include "base/text.h"
+#include "desktop/shown_text.h"
 #include "textures/facetextures.h"
 
 namespace velk {
@@ -14,7 +15,6 @@ namespace {
 constexpr int kFontHeight = 10;  // pixels
 constexpr int kTabStops[] = {30, 100, 150, 200};
 
-QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
 QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 std::string readoutOf(const map* m, const brush* shown, int selected) {
@@ -37,7 +37,7 @@ TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
   column->addWidget(readout_);
   column->addWidget(faces_, 1);
   faces_->setRootIsDecorated(false);
-  faces_->setHeaderLabels(text(FACE_LIST_HEADING).split('\t'));
+  faces_->setHeaderLabels(ShownText(FACE_LIST_HEADING).split('\t'));
   faces_->header()->setMinimumSectionSize(20);
   int left = 0;
   for (int i = 0; i < 4; ++i) {
@@ -62,7 +62,7 @@ void TSelectedBrushWindow::refresh() {
   refreshing_ = true;
   map* m = editor_.currentMap();
   const brush* shown = m ? m->firstSelected() : nullptr;
-  readout_->setText(text(readoutOf(m, shown, m ? m->totalSelected() : 0)));
+  readout_->setText(ShownText(readoutOf(m, shown, m ? m->totalSelected() : 0)));
   useColours();
   faces_->clear();
   if (shown) listFaces(*shown);
@@ -80,7 +80,7 @@ void TSelectedBrushWindow::useColours() {
 void TSelectedBrushWindow::listFaces(const brush& shown) {
   const ViewColours& colours = editor_.settings().colours;
   for (int i = 0; i < shown.numfaces(); ++i) {
-    auto* item = new QTreeWidgetItem(faces_, text(FaceListLine(shown, i)).split('\t'));
+    auto* item = new QTreeWidgetItem(faces_, ShownText(FaceListLine(shown, i)).split('\t'));
     const bool current = i == shown.currentFace;
     for (int column = 0; column < faces_->columnCount(); ++column) {
       item->setForeground(column, colour(current ? colours.color_curfacecolor : colours.color_selection));

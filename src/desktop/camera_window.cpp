@@ -6,15 +6,14 @@
 #include "camera/wire.h"
 #include "desktop/pointer_events.h"
 #include "desktop/qt_canvas.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
 
 constexpr int kWireMode = 0;
 
-QString fontFamily(const Editor& editor) {
-  return QString::fromLocal8Bit(editor.settings().velk_font.c_str());
-}
+QString fontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
 
 QList<QRgb> colourTable(const Wad* wad) {
   QList<QRgb> table(256, qRgb(0, 0, 0));
@@ -86,9 +85,7 @@ void TCameraWindow::markStale() {
   update();
 }
 
-void TCameraWindow::showTitle() {
-  setWindowTitle(QString::fromLocal8Bit(editor_.titleOf(ToolWindow::Camera).c_str()));
-}
+void TCameraWindow::showTitle() { setWindowTitle(ShownText(editor_.titleOf(ToolWindow::Camera))); }
 
 void TCameraWindow::paintEvent(QPaintEvent*) {
   if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {

@@ -17,6 +17,7 @@
 #include <memory>
 
 #include "base/text.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -24,9 +25,6 @@ namespace {
 constexpr int kColourRows = 10;
 constexpr int kSwatchWidth = 28;
 constexpr int kSwatchHeight = 16;
-
-QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
-std::string text(const QString& from) { return from.toLocal8Bit().toStdString(); }
 
 QColor colourOf(const std::string& value) {
   int red = 0;
@@ -54,7 +52,7 @@ bool isFlag(const FormField& field) { return field.kind == FormField::Kind::Flag
 
 FormDialog::FormDialog(Form& form, const Paths* paths, QWidget* parent)
     : QDialog(parent), form_(form), paths_(paths) {
-  setWindowTitle(text(form.title));
+  setWindowTitle(ShownText(form.title));
   auto* whole = new QVBoxLayout(this);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(24);
@@ -63,7 +61,7 @@ FormDialog::FormDialog(Form& form, const Paths* paths, QWidget* parent)
   columns->addWidget(colours ? colourGrid() : column(false));
   if (flags) columns->addWidget(column(true), 0, Qt::AlignTop);
   whole->addLayout(columns);
-  if (!form.note.empty()) whole->addWidget(new QLabel(text(form.note)));
+  if (!form.note.empty()) whole->addWidget(new QLabel(ShownText(form.note)));
   whole->addWidget(buttons());
 }
 
@@ -87,7 +85,7 @@ QWidget* FormDialog::column(bool flags) {
     if (flags) {
       layout->addRow(editor);
     } else {
-      layout->addRow(text(field.label), editor);
+      layout->addRow(ShownText(field.label), editor);
     }
   }
   return widget;
@@ -123,14 +121,14 @@ QWidget* FormDialog::editorFor(FormField& field) {
 }
 
 QWidget* FormDialog::textEditor(FormField& field) {
-  auto* edit = new QLineEdit(text(field.value));
+  auto* edit = new QLineEdit(ShownText(field.value));
   edit->setMinimumWidth(110);
-  collect_.emplace_back([edit, &field] { field.value = text(edit->text()); });
+  collect_.emplace_back([edit, &field] { field.value = GivenText(edit->text()); });
   return edit;
 }
 
 QWidget* FormDialog::flagEditor(FormField& field) {
-  auto* box = new QCheckBox(text(field.label));
+  auto* box = new QCheckBox(ShownText(field.label));
   box->setChecked(TextToInt(field.value) != 0);
   collect_.emplace_back([box, &field] { field.value = box->isChecked() ? "1" : "0"; });
   return box;
@@ -139,7 +137,7 @@ QWidget* FormDialog::flagEditor(FormField& field) {
 QWidget* FormDialog::choiceEditor(FormField& field) {
   auto* list = new QComboBox;
   list->setMinimumWidth(180);
-  for (const std::string& choice : field.choices) list->addItem(text(choice));
+  for (const std::string& choice : field.choices) list->addItem(ShownText(choice));
   list->setCurrentIndex(TextToInt(field.value));
   list->setEnabled(!field.choices.empty());
   collect_.emplace_back([list, &field] { field.value = Format("%i", list->currentIndex()); });
@@ -147,13 +145,13 @@ QWidget* FormDialog::choiceEditor(FormField& field) {
 }
 
 QWidget* FormDialog::colourEditor(FormField& field) {
-  auto* button = new QPushButton(swatch(field.value), text(field.label));
+  auto* button = new QPushButton(swatch(field.value), ShownText(field.label));
   button->setIconSize(QSize(kSwatchWidth, kSwatchHeight));
   button->setStyleSheet("text-align: left; padding: 4px 8px;");
   button->setAutoDefault(false);
   auto chosen = std::make_shared<std::string>(field.value);
   connect(button, &QPushButton::clicked, this, [this, button, chosen, &field] {
-    const QColor colour = QColorDialog::getColor(colourOf(*chosen), this, text(field.title));
+    const QColor colour = QColorDialog::getColor(colourOf(*chosen), this, ShownText(field.title));
     if (!colour.isValid()) return;
     *chosen = Format("%i %i %i", colour.red(), colour.green(), colour.blue());
     button->setIcon(swatch(*chosen));
@@ -166,20 +164,20 @@ QWidget* FormDialog::pathEditor(FormField& field) {
   auto* widget = new QWidget;
   auto* row = new QHBoxLayout(widget);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* edit = new QLineEdit(text(field.value));
+  auto* edit = new QLineEdit(ShownText(field.value));
   edit->setMinimumWidth(320);
   auto* button = new QPushButton("Choose...");
   button->setAutoDefault(false);
   row->addWidget(edit, 1);
   row->addWidget(button);
   connect(button, &QPushButton::clicked, this, [this, edit, &field] {
-    const QString start = paths_ ? text(paths_->native(text(edit->text())).string()) : edit->text();
+    const QString start = paths_ ? ShownText(paths_->native(GivenText(edit->text())).string()) : edit->text();
     const bool folder = field.kind == FormField::Kind::Folder;
-    const QString chosen = folder ? QFileDialog::getExistingDirectory(this, text(field.title), start)
-                                  : QFileDialog::getOpenFileName(this, text(field.title), start);
-    if (!chosen.isEmpty()) edit->setText(folder ? text(WithSeparator(text(chosen + '/'))) : chosen);
+    const QString chosen = folder ? QFileDialog::getExistingDirectory(this, ShownText(field.title), start)
+                                  : QFileDialog::getOpenFileName(this, ShownText(field.title), start);
+    if (!chosen.isEmpty()) edit->setText(folder ? ShownText(WithSeparator(GivenText(chosen + '/'))) : chosen);
   });
-  collect_.emplace_back([edit, &field] { field.value = text(edit->text()); });
+  collect_.emplace_back([edit, &field] { field.value = GivenText(edit->text()); });
   return widget;
 }
 
@@ -194,7 +192,7 @@ QWidget* FormDialog::buttons() {
   connect(box->button(QDialogButtonBox::Ok), &QPushButton::clicked, this,
           [finish] { finish(FormAnswer::Ok); });
   if (!form_.saveLabel.empty()) {
-    QPushButton* save = box->addButton(text(form_.saveLabel), QDialogButtonBox::ActionRole);
+    QPushButton* save = box->addButton(ShownText(form_.saveLabel), QDialogButtonBox::ActionRole);
     connect(save, &QPushButton::clicked, this, [finish] { finish(FormAnswer::Save); });
   }
   return box;

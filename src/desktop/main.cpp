@@ -21,6 +21,7 @@
 #include "desktop/picture_prompts.h"
 #include "desktop/qt_prompts.h"
 #include "desktop/script_host.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -75,10 +76,9 @@ void failOnStandardError(const std::string& message) {
 void failInBox(const std::string& message) {
   CrashGuard::RunNow();
   print(message);
-  QMessageBox box(QMessageBox::Critical, "Velk Error...", QString::fromLocal8Bit(message.c_str()),
-                  QMessageBox::Ok);
+  QMessageBox box(QMessageBox::Critical, "Velk Error...", ShownText(message), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(QString::fromLocal8Bit(WhereErrorsHappen().c_str()));
+  box.setInformativeText(ShownText(WhereErrorsHappen()));
   box.exec();
   leave(0);
 }

@@ -19,6 +19,7 @@
 #include "desktop/keys.h"
 #include "desktop/menus.h"
 #include "desktop/picture_file.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -29,12 +30,10 @@ constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
 constexpr std::chrono::seconds kTick{10};
 constexpr std::chrono::milliseconds kMaximising{200};
 
-QString shown(const std::string& text) { return QString::fromLocal8Bit(text.c_str()); }
-
 // Holds a window's place until its contents are built.
 QLabel* placeholder(const std::string& title, const char* line) {
   auto* label = new QLabel(QString::fromLatin1(line));
-  label->setWindowTitle(shown(title));
+  label->setWindowTitle(ShownText(title));
   label->setAlignment(Qt::AlignCenter);
   label->setWordWrap(true);
   label->setEnabled(false);
@@ -63,7 +62,7 @@ void TVelkWindow::start() {
   bars_ = BuildBars(*this, editor_);
   buildCentre();
   buildWindows();
-  setWindowTitle(shown(editor_.title()));
+  setWindowTitle(ShownText(editor_.title()));
   qApp->installEventFilter(this);
   connect(&ticks_, &QTimer::timeout, this, [this] { editor_.tick(); });
   ticks_.start(kTick);
@@ -199,7 +198,7 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // A hint makes way, such as that of the button just pressed, which is still under the pointer.
-void TVelkWindow::statusChanged(const std::string& text) { status_->post(shown(text)); }
+void TVelkWindow::statusChanged(const std::string& text) { status_->post(ShownText(text)); }
 
 void TVelkWindow::redrawPlanViews() {
   for (TXYViewWindow* view : planViews_) {
@@ -231,12 +230,12 @@ void TVelkWindow::loadProgress(const std::string& text, int done, int total) {
   }
   progress_->setRange(0, std::max(total, 1));
   progress_->setValue(done);
-  progress_->setFormat(shown(text));
+  progress_->setFormat(ShownText(text));
   progress_->repaint();
 }
 
 void TVelkWindow::mapsChanged() {
-  setWindowTitle(shown(editor_.title()));
+  setWindowTitle(ShownText(editor_.title()));
   if (tabs_) tabs_->refresh();
   if (camera_) camera_->showTitle();
   if (watch_) watch_->follow();

@@ -1,5 +1,7 @@
 #include "desktop/map_tabs.h"
 
+#include "desktop/shown_text.h"
+
 namespace velk {
 
 MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(editor) {
@@ -25,8 +27,8 @@ void MapTabs::refresh() {
   for (int i = 0; i < count(); ++i) {
     const std::string& path = editor_.document(i)->model.name;
     // A single ampersand would mark a letter as the tab's key.
-    setTabText(i, QString::fromLocal8Bit(FileNamePart(path).c_str()).replace('&', QLatin1String("&&")));
-    setTabToolTip(i, QString::fromLocal8Bit(path.c_str()));
+    setTabText(i, ShownText(FileNamePart(path)).replace('&', QLatin1String("&&")));
+    setTabToolTip(i, ShownText(path));
   }
   setCurrentIndex(editor_.currentIndex());
   refreshing_ = false;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -47,7 +48,7 @@ QMenu* menuOf(QMenuBar& bar, const Command& command, QStyle* style) {
 
 // The key text stands behind a tab: shown by the menu, but no shortcut of Qt's. Keys are the key table's.
 QString itemText(const Command& command, const Editor& editor) {
-  QString text = QString::fromLocal8Bit(editor.labelOf(command).c_str());
+  QString text = ShownText(editor.labelOf(command));
   if (*command.keyText) text += '\t' + QString::fromLatin1(command.keyText);
   return text;
 }

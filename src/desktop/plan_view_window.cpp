@@ -6,6 +6,7 @@
 
 #include "desktop/pointer_events.h"
 #include "desktop/qt_canvas.h"
+#include "desktop/shown_text.h"
 #include "planview/drawplanview.h"
 
 namespace velk {
@@ -20,7 +21,7 @@ Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blu
 QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
   const PlanView& record = editor.planViews().views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
-  QtCanvas canvas(image, QString::fromLocal8Bit(editor.settings().velk_font.c_str()));
+  QtCanvas canvas(image, ShownText(editor.settings().velk_font));
   const StripColours strip{colourOf(palette.color(QPalette::Window)),
                            colourOf(palette.color(QPalette::WindowText))};
   drawPlanView(canvas, editor.planScene(strip), view);

@@ -12,6 +12,7 @@
 
 #include "base/text.h"
 #include "desktop/form_dialog.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
@@ -19,9 +20,6 @@ namespace {
 constexpr QSize kProgramIcon{64, 64};
 constexpr QSize kChooser{760, 480};
 constexpr int kTitleButtons = 120;  // pixels a title bar needs besides its text
-
-QString text(const std::string& from) { return QString::fromLocal8Bit(from.c_str()); }
-std::string text(const QString& from) { return from.toLocal8Bit().toStdString(); }
 
 QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
   switch (buttons) {
@@ -61,13 +59,14 @@ QString nameFilter(const std::string& filter) {
   const std::string label = pieces[0].substr(0, pieces[0].find(" ("));
   const std::string& pattern = pieces[1];
   if (pattern == "*.*") return QStringLiteral("All Files (*)");
-  return text(label) + " (" + text(LowerCase(pattern)) + " " + text(UpperCase(pattern)) + ");;All Files (*)";
+  return ShownText(label) + " (" + ShownText(LowerCase(pattern)) + " " + ShownText(UpperCase(pattern)) +
+         ");;All Files (*)";
 }
 
 QString suffixOf(const std::string& filter) {
   const std::vector<std::string> pieces = Split(filter, '|');
   if (pieces.size() < 2 || !pieces[1].starts_with("*.") || pieces[1] == "*.*") return QString();
-  return text(pieces[1].substr(2));
+  return ShownText(pieces[1].substr(2));
 }
 
 // Boxes are as wide as their text, which may be shorter than the title.
@@ -105,7 +104,8 @@ QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blu
 }  // namespace
 
 Answer QtPrompts::ask(const MessageBox& box) {
-  QMessageBox dialog(iconOf(box.icon), text(box.caption), text(box.text), buttonsOf(box.buttons), owner_);
+  QMessageBox dialog(iconOf(box.icon), ShownText(box.caption), ShownText(box.text), buttonsOf(box.buttons),
+                     owner_);
   dialog.setTextFormat(Qt::PlainText);
   if (box.icon == MessageBox::Icon::Program) presentProgram(dialog);
   makeRoomForTitle(dialog);
@@ -125,7 +125,7 @@ Answer QtPrompts::ask(const MessageBox& box) {
 
 std::vector<std::string> QtPrompts::chooseFiles(const FileChooser& chooser) {
   const std::filesystem::path start = paths_ ? paths_->native(chooser.directory) : std::filesystem::path();
-  QFileDialog dialog(owner_, text(chooser.title), text(start.string()), nameFilter(chooser.filter));
+  QFileDialog dialog(owner_, ShownText(chooser.title), ShownText(start.string()), nameFilter(chooser.filter));
   if (chooser.kind == FileChooser::Kind::Save) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -135,27 +135,27 @@ std::vector<std::string> QtPrompts::chooseFiles(const FileChooser& chooser) {
     dialog.setFileMode(many ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
   }
   makeRoomForColumns(dialog);
-  if (!chooser.fileName.empty()) dialog.selectFile(text(chooser.fileName));
+  if (!chooser.fileName.empty()) dialog.selectFile(ShownText(chooser.fileName));
   std::vector<std::string> chosen;
   if (dialog.exec() != QDialog::Accepted) return chosen;
-  for (const QString& file : dialog.selectedFiles()) chosen.push_back(text(file));
+  for (const QString& file : dialog.selectedFiles()) chosen.push_back(GivenText(file));
   return chosen;
 }
 
 std::optional<std::string> QtPrompts::input(const TextInput& input) {
   QInputDialog dialog(owner_);
-  dialog.setWindowTitle(text(input.title));
-  dialog.setLabelText(text(input.prompt));
-  dialog.setTextValue(text(input.text));
+  dialog.setWindowTitle(ShownText(input.title));
+  dialog.setLabelText(ShownText(input.prompt));
+  dialog.setTextValue(ShownText(input.text));
   if (auto* line = dialog.findChild<QLineEdit*>()) line->setMaxLength(input.maxLength);
   dialog.resize(dialog.sizeHint().expandedTo(QSize(titleWidth(dialog), 0)));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return text(dialog.textValue());
+  return GivenText(dialog.textValue());
 }
 
 std::optional<Colour> QtPrompts::chooseColour(const ColourChooser& chooser) {
   QColorDialog dialog(colour(chooser.colour), owner_);
-  dialog.setWindowTitle(text(chooser.title));
+  dialog.setWindowTitle(ShownText(chooser.title));
   for (int i = 0; i < static_cast<int>(chooser.custom.size()) && i < QColorDialog::customCount(); ++i) {
     QColorDialog::setCustomColor(i, colour(chooser.custom[static_cast<size_t>(i)]));
   }

@@ -5,13 +5,14 @@
 #include <QHBoxLayout>
 
 #include "app/handlers.h"
+#include "desktop/shown_text.h"
 
 namespace velk {
 namespace {
 
 constexpr int kLongestName = 15;  // that a wad holds
 
-std::string nameIn(const QLineEdit* field) { return field->text().trimmed().toLocal8Bit().toStdString(); }
+std::string nameIn(const QLineEdit* field) { return GivenText(field->text().trimmed()); }
 
 }  // namespace
 
