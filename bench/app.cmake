@@ -1,1 +1,1 @@
-velk_bench(app SOURCES app_bench.cpp USES mapfile)
+velk_bench(app SOURCES app_bench.cpp USES commands mapfile)

@@ -9,7 +9,7 @@
 #include <malloc.h>
 
 #include "app/editor.h"
-#include "mapfile/mapreader.h"
+#include "mapfile/map_reader.h"
 
 namespace velk {
 namespace {

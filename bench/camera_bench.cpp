@@ -21,8 +21,8 @@
 
 #include "camera/kernels.h"
 #include "camera/renderer.h"
-#include "mapfile/mapreader.h"
-#include "textures/texturemanager.h"
+#include "mapfile/map_reader.h"
+#include "textures/texture_manager.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 
 #include "base/files.h"
 #include "base/text.h"
-#include "mapfile/mapreader.h"
-#include "mapfile/mapwriter.h"
+#include "mapfile/map_reader.h"
+#include "mapfile/map_writer.h"
 
 namespace velk {
 namespace {

@@ -9,8 +9,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "mapfile/mapreader.h"
-#include "planview/drawplanview.h"
+#include "mapfile/map_reader.h"
+#include "planview/draw_plan_view.h"
 #include "planview/raster_canvas.h"
 
 namespace {

@@ -21,13 +21,59 @@ endif()
 # The ladder: a library may link only to libraries above it in this list, so that an include in
 # the wrong direction does not build. Each folder's headers are reachable only as "folder/name.h"
 # through the include directory of its own target.
-set(VELK_LADDER base settings entities model mapfile textures ops planview camera app desktop)
+set(VELK_LADDER base settings entities geometry model mapfile textures ops planview camera mouse documents
+    panels app commands script desktop)
 
-# velk_library(<folder> SOURCES <files> [USES <folders>] [EXTERNAL <outside targets>])
+# What a room may hold; a larger one is two rooms. Folders within a folder count singly.
+set(VELK_ROOM_UNITS 25)
+set(VELK_ROOM_LINES 3000)
+
+function(velk_check_room folder)
+  file(GLOB units CONFIGURE_DEPENDS ${folder}/*.cpp)
+  file(GLOB files CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+  list(LENGTH units unit_count)
+  set(line_count 0)
+  foreach(file IN LISTS files)
+    file(READ ${file} text)
+    string(REGEX REPLACE "[^\n]+" "" ends "${text}")
+    string(LENGTH "${ends}" ends)
+    math(EXPR line_count "${line_count} + ${ends}")
+  endforeach()
+  if(unit_count GREATER VELK_ROOM_UNITS OR line_count GREATER VELK_ROOM_LINES)
+    message(FATAL_ERROR "${folder} holds ${unit_count} units and ${line_count} lines; "
+                        "a room holds at most ${VELK_ROOM_UNITS} and ${VELK_ROOM_LINES}: it is two rooms")
+  endif()
+  file(GLOB inner LIST_DIRECTORIES true CONFIGURE_DEPENDS ${folder}/*)
+  foreach(path IN LISTS inner)
+    if(IS_DIRECTORY ${path})
+      velk_check_room(${path})
+    endif()
+  endforeach()
+endfunction()
+
+# Every step of the ladder is a folder of the directory, and every folder a step.
+function(velk_check_ladder directory)
+  foreach(step IN LISTS VELK_LADDER)
+    if(NOT EXISTS ${directory}/${step}/CMakeLists.txt)
+      message(FATAL_ERROR "The ladder has a step ${step}, but there is no ${directory}/${step}/CMakeLists.txt")
+    endif()
+    velk_check_room(${directory}/${step})
+  endforeach()
+  file(GLOB entries LIST_DIRECTORIES true RELATIVE ${directory} CONFIGURE_DEPENDS ${directory}/*)
+  foreach(entry IN LISTS entries)
+    if(IS_DIRECTORY ${directory}/${entry} AND NOT entry IN_LIST VELK_LADDER)
+      message(FATAL_ERROR "${directory}/${entry} is not a step of the ladder")
+    endif()
+  endforeach()
+endfunction()
+
+# velk_library(<folder> [USES <folders>] [EXTERNAL <outside targets>]): a library of all the folder's units.
 function(velk_library folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;USES;EXTERNAL" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "USES;EXTERNAL" ${ARGN})
   list(FIND VELK_LADDER ${folder} own_step)
-  add_library(velk_${folder} STATIC ${ARG_SOURCES})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp */*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(velk_${folder} STATIC ${sources})
   add_library(velk::${folder} ALIAS velk_${folder})
   # Includes are written "folder/name.h"; the forwarding directory holds only this folder.
   set(include_root ${CMAKE_BINARY_DIR}/include/${folder})
@@ -47,10 +93,12 @@ function(velk_library folder)
   endforeach()
 endfunction()
 
-# velk_tests(<folder> SOURCES <files> [USES <folders>]): one test program a folder.
+# velk_tests(<folder> [ALSO <sources of elsewhere>] [USES <folders>]): one test program a folder, of all its
+# units.
 function(velk_tests folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
-  add_executable(${folder}_tests ${ARG_SOURCES})
+  cmake_parse_arguments(ARG "" "" "ALSO;USES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_executable(${folder}_tests ${sources} ${ARG_ALSO})
   target_link_libraries(${folder}_tests PRIVATE velk_rules velk_test_support velk_${folder})
   foreach(used IN LISTS ARG_USES)
     target_link_libraries(${folder}_tests PRIVATE velk_${used})

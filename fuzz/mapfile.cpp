@@ -9,8 +9,8 @@
 #include <string_view>
 
 #include "base/error.h"
-#include "mapfile/mapreader.h"
-#include "mapfile/mapwriter.h"
+#include "mapfile/map_reader.h"
+#include "mapfile/map_writer.h"
 
 namespace {
 

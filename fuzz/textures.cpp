@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/error.h"
-#include "textures/textureset.h"
+#include "textures/texture_set.h"
 #include "textures/wad.h"
 
 namespace {

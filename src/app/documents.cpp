@@ -2,7 +2,7 @@
 #include "app/editor.h"
 #include "base/error.h"
 #include "base/text.h"
-#include "mapfile/mapwriter.h"
+#include "mapfile/map_writer.h"
 
 namespace velk {
 

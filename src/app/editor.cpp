@@ -1,15 +1,13 @@
 #include "app/editor.h"
 
 #include "base/error.h"
-#include "base/inifile.h"
+#include "base/ini_file.h"
 #include "base/text.h"
 
 namespace velk {
 namespace {
 
 constexpr size_t kMaxStatus = 127;
-
-bool selectionInEntity(map* m) { return m && m->selectedCount() > 0; }
 
 }  // namespace
 
@@ -72,41 +70,6 @@ void Editor::reloadClasses() {
   observer_.entityChanged();
   flagAllViews();
   postStatus("Entity list reloaded...");
-}
-
-bool Editor::isEnabled(const Command& command) const {
-  if (!command.run) return false;
-  switch (command.when) {
-    case When::Always:
-      return true;
-    case When::MapOpen:
-      return mapCount() > 0;
-    case When::RoomForMap:
-      return mapCount() < MAX_MAPS;
-    case When::SelectionInEntity:
-      return selectionInEntity(currentMap());
-    case When::UndoKept:
-      return current() && current()->history.canUndo();
-    case When::RedoKept:
-      return current() && current()->history.canRedo();
-    case When::RecentMap:
-      return command.id - kFirstRecentMap < recentMaps_.count();
-    case When::RecentKept:
-      return recentMaps_.count() > 0;
-    case When::LeaksShown:
-    case When::Never:
-      return false;
-  }
-  return false;
-}
-
-bool Editor::run(const Command& command) {
-  if (!canRun(command)) return false;
-  beginChange();
-  command.run(*this);
-  endChange(PlainLabel(command));
-  observer_.commandsChanged();
-  return true;
 }
 
 std::string Editor::statusLine(const std::string& text) const {

@@ -8,27 +8,26 @@
 #include <string>
 #include <vector>
 
-#include "app/command.h"
-#include "app/observer.h"
 #include "app/place.h"
-#include "app/recent.h"
-#include "app/rescue.h"
 #include "app/windows.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/prompts.h"
 #include "camera/movement.h"
 #include "camera/renderer.h"
-#include "entities/entityclass.h"
-#include "mapfile/mapreader.h"
+#include "documents/observer.h"
+#include "documents/recent.h"
+#include "documents/rescue.h"
+#include "entities/entity_class.h"
+#include "mapfile/map_reader.h"
 #include "model/map.h"
 #include "model/undo.h"
-#include "planview/drawplanview.h"
-#include "planview/planview.h"
-#include "planview/pointer.h"
+#include "mouse/pointer.h"
+#include "panels/texture_browser.h"
+#include "planview/draw_plan_view.h"
+#include "planview/plan_view.h"
 #include "settings/settings.h"
-#include "textures/texturebrowser.h"
-#include "textures/texturemanager.h"
+#include "textures/texture_manager.h"
 
 namespace velk {
 
@@ -91,19 +90,6 @@ class Editor {
   map* currentMap() const { return current() ? &current()->model : nullptr; }
   // Shows another open map; an index outside the range is ignored.
   void setCurrentIndex(int index);
-
-  // Commands. Running one that cannot be run does nothing and returns false.
-  bool isEnabled(const Command& command) const;
-  // Enabled, or one that says itself why it refuses: New and Open with ten maps.
-  bool canRun(const Command& command) const { return isEnabled(command) || command.when == When::RoomForMap; }
-  bool isChecked(const Command& command) const { return command.checked && command.checked(*this); }
-  bool run(const Command& command);
-  // Not shown in its menu: a place in the list of recent maps that is not taken.
-  bool isHidden(const Command& command) const {
-    return command.when == When::RecentMap && !isEnabled(command);
-  }
-  // The command's label in the menu as things stand: undo and redo name what they would take back.
-  std::string labelOf(const Command& command) const;
 
   // From now on a user sits before the editor: recent maps are kept between runs, and what keeps a map from
   // being made, read or filled with copies is told in a message box instead of ending the program.

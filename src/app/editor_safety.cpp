@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "base/files.h"
 #include "base/text.h"
-#include "mapfile/mapwriter.h"
+#include "mapfile/map_writer.h"
 
 namespace velk {
 namespace {

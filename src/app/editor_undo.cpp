@@ -2,30 +2,9 @@
 #include "app/editor.h"
 #include "base/error.h"
 #include "base/text.h"
-#include "model/clipboard.h"
+#include "ops/clipboard.h"
 
 namespace velk {
-namespace {
-
-constexpr int kUndo = 11844;
-constexpr int kRedo = 1100;
-
-std::string named(const char* verb, const std::string& name) {
-  return name.empty() ? Format("&%s...", verb) : Format("&%s %s...", verb, name.c_str());
-}
-
-}  // namespace
-
-std::string Editor::labelOf(const Command& command) const {
-  const UndoHistory* history = current() ? &current()->history : nullptr;
-  if (command.id == kUndo) return named("Undo", history ? history->undoName() : "");
-  if (command.id == kRedo) return named("Redo", history ? history->redoName() : "");
-  if (command.when == When::RecentMap && isEnabled(command)) {
-    const int index = command.id - kFirstRecentMap;
-    return RecentMapLabel(index, recentMaps_.at(index));
-  }
-  return command.label;
-}
 
 void Editor::beginChange() {
   before_.reset();

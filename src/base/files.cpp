@@ -8,7 +8,7 @@
 
 #include "base/descriptor.h"
 #include "base/error.h"
-#include "base/filestamp.h"
+#include "base/file_stamp.h"
 
 namespace velk {
 namespace {

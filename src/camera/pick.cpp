@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "camera/facesetup.h"
+#include "camera/face_setup.h"
 
 namespace velk {
 

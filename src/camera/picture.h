@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "camera/facesetup.h"
+#include "camera/face_setup.h"
 
 namespace velk {
 

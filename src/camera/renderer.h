@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "camera/movement.h"
+#include "geometry/texture_ref.h"
 #include "model/map.h"
-#include "model/textureref.h"
 #include "settings/settings.h"
 
 namespace velk {

@@ -4,10 +4,10 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "geometry/plane.h"
+#include "geometry/polygon.h"
+#include "geometry/winding.h"
 #include "model/camera.h"
-#include "model/plane.h"
-#include "model/polygon.h"
-#include "model/winding.h"
 
 namespace velk {
 

@@ -12,16 +12,16 @@
 #include <unistd.h>
 
 #include "base/error.h"
-#include "desktop/colour_scheme.h"
-#include "desktop/crash_guard.h"
-#include "desktop/first_paint.h"
-#include "desktop/kit.h"
-#include "desktop/main_window.h"
-#include "desktop/path_text.h"
-#include "desktop/picture_prompts.h"
-#include "desktop/qt_prompts.h"
-#include "desktop/script_host.h"
-#include "desktop/shown_text.h"
+#include "desktop/dialogs/picture_prompts.h"
+#include "desktop/dialogs/qt_prompts.h"
+#include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/colour_scheme.h"
+#include "desktop/frame/first_paint.h"
+#include "desktop/frame/main_window.h"
+#include "desktop/system/crash_guard.h"
+#include "desktop/system/kit.h"
+#include "desktop/system/path_text.h"
+#include "desktop/system/script_host.h"
 
 namespace velk {
 namespace {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
+#include "geometry/face.h"
 #include "model/counters.h"
-#include "model/face.h"
 
 namespace velk {
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "entities/entityclass.h"
+#include "entities/entity_class.h"
 #include "model/brush.h"
 #include "model/ranges.h"
 

@@ -11,24 +11,12 @@
 #include "model/clipper.h"
 #include "model/entity.h"
 #include "model/groups.h"
+#include "model/hit_list.h"
 #include "settings/settings.h"
 
 namespace velk {
 
 inline constexpr int MAX_ENTITIES = 1024;
-
-// The brushes met by the last pick ray, with the selected flag each had.
-struct HitList {
-  static constexpr int kMax = 10;
-  std::array<brush*, kMax> brushes{};
-  std::array<bool, kMax> saved{};
-  int count = 0;
-  int current = 0;  // -1..count-1
-
-  void clear();
-  void add(brush& b);  // ignored when full
-  void forget(const brush& b);
-};
 
 // What the owner of a map may want to hear of.
 enum class MapNotice { CurrentEntity, WorkRange, Groups };

@@ -7,7 +7,7 @@
 
 #include "base/paths.h"
 #include "base/text.h"
-#include "settings/keytable.h"
+#include "settings/key_table.h"
 
 namespace velk {
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "base/colour.h"
-#include "base/inifile.h"
+#include "base/ini_file.h"
 
 namespace velk {
 

@@ -9,7 +9,7 @@
 #include "base/error.h"
 #include "base/files.h"
 #include "base/text.h"
-#include "textures/wadfile.h"
+#include "textures/wad_file.h"
 
 namespace velk {
 namespace {

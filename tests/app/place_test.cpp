@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "support/fatal.h"
-#include "support/tempfolder.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/session.h"
+#include "support/session.h"
 
 namespace velk {
 namespace {

@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "support/fatal.h"
-#include "support/tempfolder.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/tempfolder.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {

@@ -1,15 +1,15 @@
-#include "desktop/bars.h"
+#include "desktop/frame/bars.h"
 
 #include <QImage>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
 
-#include "app/session.h"
 #include "application.h"
-#include "desktop/child_windows.h"
-#include "desktop/command_icons.h"
-#include "support/barnames.h"
+#include "desktop/frame/child_windows.h"
+#include "desktop/frame/command_icons.h"
+#include "support/bar_names.h"
+#include "support/session.h"
 
 namespace velk {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/child_windows.h"
+#include "desktop/frame/child_windows.h"
 
 #include <QLabel>
 

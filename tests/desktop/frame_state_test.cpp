@@ -1,12 +1,12 @@
-#include "desktop/frame_state.h"
+#include "desktop/frame/frame_state.h"
 
 #include <QToolBar>
 
 #include <gtest/gtest.h>
 
 #include "application.h"
-#include "base/inifile.h"
-#include "support/tempfolder.h"
+#include "base/ini_file.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {

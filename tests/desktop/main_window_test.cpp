@@ -1,11 +1,11 @@
-#include "desktop/main_window.h"
+#include "desktop/frame/main_window.h"
 
 #include <QKeyEvent>
 
 #include <gtest/gtest.h>
 
-#include "app/session.h"
 #include "application.h"
+#include "support/session.h"
 
 namespace velk {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/path_text.h"
+#include "desktop/system/path_text.h"
 
 #include <gtest/gtest.h>
 

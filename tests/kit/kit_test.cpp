@@ -7,11 +7,12 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "base/tokenizer.h"
-#include "entities/entityclass.h"
-#include "mapfile/mapreader.h"
+#include "commands/command.h"
+#include "entities/entity_class.h"
+#include "mapfile/map_reader.h"
 #include "support/scripted_prompts.h"
-#include "support/tempfolder.h"
-#include "textures/texturemanager.h"
+#include "support/temp_folder.h"
+#include "textures/texture_manager.h"
 
 namespace velk {
 namespace {

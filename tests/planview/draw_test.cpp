@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "plan_fixture.h"
-#include "planview/viewpainter.h"
+#include "planview/view_painter.h"
+#include "support/plan_fixture.h"
 #include "support/recording_canvas.h"
 
 namespace velk {

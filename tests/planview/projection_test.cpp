@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "base/text.h"
-#include "plan_fixture.h"
-#include "planview/gridlines.h"
+#include "planview/grid_lines.h"
+#include "support/plan_fixture.h"
 
 namespace velk {
 namespace {

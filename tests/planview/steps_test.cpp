@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "plan_fixture.h"
-#include "planview/headerstrip.h"
-#include "planview/viewsteps.h"
+#include "planview/header_strip.h"
+#include "planview/view_steps.h"
+#include "support/plan_fixture.h"
 
 namespace velk {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "support/fatal.h"
 #include "support/scripted_prompts.h"
-#include "support/tempfolder.h"
-#include "support/wadbuilder.h"
+#include "support/temp_folder.h"
+#include "support/wad_builder.h"
 #include "textures/colormap.h"
 
 namespace velk {

@@ -1,0 +1,107 @@
+#include "commands/bars.h"
+
+#include <algorithm>
+#include <new>
+#include <optional>
+
+#include "app/editor.h"
+#include "base/error.h"
+#include "base/files.h"
+#include "base/text.h"
+#include "base/tokenizer.h"
+
+namespace velk {
+namespace {
+
+// The next token, when it stands on the same line as the one before.
+bool nextOnLine(Tokenizer& tokens) {
+  const int line = tokens.line();
+  return tokens.GetScriptToken(true) && tokens.line() == line;
+}
+
+int readBarCount(Tokenizer& tokens) {
+  if (!tokens.GetScriptToken(true)) Error("Parsing Button Bars: 'bars' not found");
+  const std::string first(tokens.token());
+  if (!EqualNoCase(first, "bars")) {
+    Error("Parsing Button Bars: 'bars' not found, %s instead", first.c_str());
+  }
+  const auto count = nextOnLine(tokens) ? LeadingInt(tokens.token()) : std::nullopt;
+  if (!count) Error("Parsing Button Bars: number of bars not found");
+  return std::clamp(*count, 0, kMaxBars);
+}
+
+// Numbers, which the command table would find too, are no names.
+std::optional<BarGadget> gadgetNamed(std::string_view name) {
+  if (EqualNoCase(name, "Separator")) return BarGadget{};
+  if (EqualNoCase(name, "TextureList")) return BarGadget{.kind = BarGadget::Kind::TextureList};
+  const Command* command = FindCommand(name);
+  if (!command || !EqualNoCase(command->name, name)) return std::nullopt;
+  return BarGadget{.kind = BarGadget::Kind::Button, .command = command};
+}
+
+void append(std::vector<ButtonBar>& bars, int number, std::string_view name) {
+  if (number < 1 || number > static_cast<int>(bars.size())) return;
+  ButtonBar& bar = bars[static_cast<size_t>(number - 1)];
+  const auto gadget = gadgetNamed(name);
+  if (gadget && bar.size() < kMaxBarGadgets) bar.push_back(*gadget);
+}
+
+}  // namespace
+
+std::vector<ButtonBar> ParseButtonBars(std::string_view text) {
+  Tokenizer tokens(text);
+  std::vector<ButtonBar> bars(static_cast<size_t>(readBarCount(tokens)));
+  while (tokens.GetScriptToken(true) && EqualNoCase(tokens.token(), "bar")) {
+    if (!nextOnLine(tokens)) break;
+    const int number = TextToInt(tokens.token());
+    if (!nextOnLine(tokens)) break;
+    append(bars, number, tokens.token());
+  }
+  return bars;
+}
+
+std::vector<ButtonBar> LoadButtonBars(const std::filesystem::path& folder) {
+  ReadResult read;
+  try {
+    read = ReadFile(folder / "velkbars.ini");
+  } catch (const std::bad_alloc&) {
+    Error("Couldn't allocate data file for button bars!");
+  }
+  if (!read.ok) Error("Error opening velkbars.ini: %s", read.reason.c_str());
+  return ParseButtonBars(read.contents);
+}
+
+std::string ButtonTip(const Command& command) {
+  std::string tip = *command.hint ? command.hint : PlainLabel(command);
+  if (*command.keyText) tip += Format(" (%s)", command.keyText);
+  return tip;
+}
+
+std::vector<std::string> TextureListNames(const Editor& editor) {
+  std::vector<std::string> names;
+  if (const MapDocument* document = editor.current()) {
+    for (int i = 0; i < document->textures.count(); ++i) {
+      names.push_back(document->textures.at(i).texture->name);
+    }
+  } else if (const Wad* wad = editor.textureManager().current()) {
+    for (const auto& texture : wad->textures) names.push_back(texture->name);
+  }
+  return names;
+}
+
+void ChooseTexture(Editor& editor, const std::string& name) {
+  const std::vector<std::string> names = TextureListNames(editor);
+  const auto found = std::find(names.begin(), names.end(), name);
+  if (found == names.end()) return;
+  TextureBrowser& browser = editor.textureBrowser();
+  if (MapDocument* document = editor.current()) {
+    browser.selectTexture(document->textures, static_cast<int>(found - names.begin()));
+  } else {
+    texturedef chosen = browser.current();
+    chosen.name = name;
+    browser.setCurrent(chosen);
+  }
+  editor.observer().texturesChanged();
+}
+
+}  // namespace velk

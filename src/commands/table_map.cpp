@@ -1,0 +1,66 @@
+// Commands of the Export, Group and Clip menus.
+#include "commands/command_tables.h"
+#include "commands/handlers.h"
+
+namespace velk {
+
+using namespace commands;
+
+namespace {
+
+// clang-format off
+const Command kRows[] = {
+    {.id = 77, .menu = "E&xport", .label = "&Launch BSPBuild...", .keyText = "Ctrl-Alt-B",
+     .keys = "Ctrl+Alt+B", .hint = "Launch BSPBuild.exe on current map...",
+     .reason = "not built yet: the map compiler"},
+    {.id = 185, .menu = "E&xport", .startsGroup = true,
+     .label = "&Super fast", .hint = "Qbsp -nofill; light",
+     .reason = "not built yet: the map compiler"},
+    {.id = 281, .menu = "E&xport", .label = "&Fast", .hint = "Qbsp; light; vis -fast",
+     .reason = "not built yet: the map compiler"},
+    {.id = 282, .menu = "E&xport", .label = "F&ull", .hint = "Qbsp; Light; Vis",
+     .reason = "not built yet: the map compiler"},
+    {.id = 283, .menu = "E&xport", .label = "&No Vis", .hint = "Qbsp; Light",
+     .reason = "not built yet: the map compiler"},
+    {.id = 284, .menu = "E&xport", .label = "&Relight", .hint = "Light",
+     .reason = "not built yet: the map compiler"},
+    {.id = 285, .menu = "E&xport", .startsGroup = true, .label = "&Leak Test", .hint = "Qbsp -mark -notjunc",
+     .reason = "not built yet: the map compiler"},
+    {.id = 138, .name = "CM_GROUP_MODE", .menu = "&Group", .label = "&Use Groups",
+     .hint = "Turns groups on or off", .when = When::MapOpen, .checked = groupModeOn,
+     .run = toggleGroupMode},
+    {.id = 209, .name = "CM_OMIT_LIGHTS", .menu = "&Group", .startsGroup = true, .label = "Omit &Lights",
+     .hint = "Don't draw lights", .when = When::MapOpen, .checked = lightsOmitted, .run = omitLights},
+    {.id = 213, .name = "CM_OMIT_ENTITIES", .menu = "&Group", .label = "Omit &Entities",
+     .hint = "Don't draw entities...", .when = When::MapOpen, .checked = entitiesOmitted,
+     .run = omitEntities},
+    {.id = 210, .name = "CM_OMIT_WORLD", .menu = "&Group", .label = "Omit &World",
+     .hint = "Don't draw world", .when = When::MapOpen, .checked = worldOmitted, .run = omitWorld},
+    {.id = 211, .name = "CM_OMIT_WATER", .menu = "&Group", .label = "Omit W&ater",
+     .hint = "Don't draw water brushes", .when = When::MapOpen, .checked = waterOmitted, .run = omitWater},
+    {.id = 212, .name = "CM_OMIT_CLIP", .menu = "&Group", .label = "Omit &Clip",
+     .hint = "Don't draw clip brushes", .when = When::MapOpen, .checked = clipOmitted, .run = omitClip},
+    {.id = 133, .name = "CM_FLIPCLIPPER", .menu = "&Clip", .label = "&Flip", .keyText = "Ctrl-/",
+     .keys = "Ctrl+/", .hint = "Flip the normal of the clip plane", .when = When::MapOpen,
+     .reason = "not built yet: the clipper"},
+    {.id = 132, .name = "CM_CARVE", .menu = "&Clip", .label = "&Carve", .keyText = "Ins", .keys = "Ins",
+     .hint = "Carve selected brushes by clip plane", .when = When::MapOpen,
+     .reason = "not built yet: the clipper"},
+    {.id = 280, .name = "CM_CLIPSPLIT", .menu = "&Clip", .label = "&Split", .keyText = "Alt-Ins",
+     .keys = "Alt+Ins", .hint = "Split selected brushes by clip plane..", .when = When::MapOpen,
+     .reason = "not built yet: the clipper"},
+    {.id = 141, .name = "CM_MOVE_UP", .menu = "&Clip", .startsGroup = true,
+     .label = "Move &Up", .keyText = "F5", .keys = "F5",
+     .hint = "Moves current clip point up by gridsize", .when = When::MapOpen,
+     .reason = "not built yet: the clipper"},
+    {.id = 170, .name = "CM_MOVE_DOWN", .menu = "&Clip", .label = "Move &Down", .keyText = "F6",
+     .keys = "F6", .hint = "Move current clip point down by gridsize", .when = When::MapOpen,
+     .reason = "not built yet: the clipper"},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const Command> MapCommands() { return kRows; }
+
+}  // namespace velk

@@ -1,0 +1,270 @@
+#include "desktop/frame/main_window.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTextEdit>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <chrono>
+
+#include "commands/dispatch.h"
+#include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/frame_state.h"
+#include "desktop/frame/keys.h"
+#include "desktop/frame/menus.h"
+#include "desktop/system/picture_file.h"
+
+namespace velk {
+namespace {
+
+constexpr QSize kFirstSize{1280, 800};
+constexpr QSize kProgressSize{250, 20};
+constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
+constexpr std::chrono::seconds kTick{10};
+constexpr std::chrono::milliseconds kMaximising{200};
+
+// Holds a window's place until its contents are built.
+QLabel* placeholder(const std::string& title, const char* line) {
+  auto* label = new QLabel(QString::fromLatin1(line));
+  label->setWindowTitle(ShownText(title));
+  label->setAlignment(Qt::AlignCenter);
+  label->setWordWrap(true);
+  label->setEnabled(false);
+  label->setMinimumSize(80, 40);
+  return label;
+}
+
+}  // namespace
+
+TVelkWindow::TVelkWindow(EditorPlace place, Prompts& prompts)
+    : editor_(std::move(place), prompts, *this),
+      area_(new QMdiArea(this)),
+      status_(new TVelkStatusBar(this)) {
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setStatusBar(status_);
+  setAcceptDrops(true);
+  resize(kFirstSize);
+}
+
+TVelkWindow::~TVelkWindow() { qApp->removeEventFilter(this); }
+
+void TVelkWindow::start() {
+  editor_.start();
+  BuildMenus(*menuBar(), editor_);
+  bars_ = BuildBars(*this, editor_);
+  buildCentre();
+  buildWindows();
+  setWindowTitle(ShownText(editor_.title()));
+  qApp->installEventFilter(this);
+  connect(&ticks_, &QTimer::timeout, this, [this] { editor_.tick(); });
+  ticks_.start(kTick);
+}
+
+void TVelkWindow::openFiles(const std::vector<std::string>& files) {
+  for (const std::string& file : files) editor_.showFile(file);
+}
+
+// The windows' area, with the tabs above or below it.
+void TVelkWindow::buildCentre() {
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(area_, 1);
+  if (editor_.settings().show_tabs != 0) {
+    const bool below = editor_.settings().show_tabs == 2;
+    tabs_ = new MapTabs(editor_);
+    tabs_->setShape(below ? QTabBar::RoundedSouth : QTabBar::RoundedNorth);
+    column->insertWidget(below ? 1 : 0, tabs_);
+    tabs_->refresh();
+  }
+  setCentralWidget(centre);
+}
+
+void TVelkWindow::buildWindows() {
+  children_ = new ChildWindows(*area_);
+  brush_ = new TSelectedBrushWindow(editor_);
+  const auto await = [this](ToolWindow window, const char* line) {
+    children_->add(window, placeholder(editor_.titleOf(window), line));
+  };
+  await(ToolWindow::Textures, "Thumbnails of the textures come here.");
+  children_->add(ToolWindow::SelectedBrush, brush_);
+  for (int view = 0; view < kPlanViews; ++view) {
+    auto* window = new TXYViewWindow(editor_, view);
+    planViews_[static_cast<size_t>(view)] = window;
+    children_->add(static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + view), window);
+  }
+  await(ToolWindow::Entities, "Keys and values of entities come here.");
+  camera_ = new TCameraWindow(editor_);
+  children_->add(ToolWindow::Camera, camera_);
+  await(ToolWindow::Groups, "The groups of the map come here.");
+  children_->setBars(bars_);
+  editor_.setWindows(*children_);
+}
+
+// The first layout waits for the frame to have its size. A maximised frame gets it from the window manager,
+// soon; the layout then grows with it, but saved arrangements are for that size.
+void TVelkWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (arranged_) return;
+  arranged_ = true;
+  children_->layOut();
+  if (isMaximized()) {
+    QTimer::singleShot(kMaximising, this, [this] { editor_.loadArrangements(); });
+  } else {
+    editor_.loadArrangements();
+  }
+}
+
+void TVelkWindow::keepState() {
+  keepsState_ = true;
+  RestoreFrame(*this, editor_.place().stateFile());
+  editor_.attend();
+  watch_ = new FileWatch(editor_, *this);
+  // The session may end the program without closing the frame.
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
+}
+
+void TVelkWindow::rememberState() const {
+  if (keepsState_) RememberFrame(*this, editor_.place().stateFile());
+}
+
+void TVelkWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) area_->setBackground(palette().dark());
+}
+
+bool TVelkWindow::savePicture(const std::string& file) {
+  QApplication::processEvents();
+  return SavePng(grab().toImage(), file);
+}
+
+void TVelkWindow::closeEvent(QCloseEvent* event) {
+  if (!leaving_) RunCommand(editor_, *FindCommand("CM_FILEEXIT"));
+  event->setAccepted(leaving_);
+  if (leaving_) rememberState();
+}
+
+void TVelkWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void TVelkWindow::dropEvent(QDropEvent* event) {
+  std::vector<std::string> files;
+  for (const QUrl& url : event->mimeData()->urls()) {
+    const QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    if (url.isLocalFile()) files.push_back(QByteArray::fromPercentEncoding(path).toStdString());
+  }
+  event->acceptProposedAction();
+  openFiles(files);
+}
+
+// Keys go to the key table unless a dialog or a menu is open or a text is being typed.
+bool TVelkWindow::takesKeys() const {
+  if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return false;
+  const QWidget* focus = QApplication::focusWidget();
+  if (focus && focus->window() != this) return false;
+  return !qobject_cast<const QLineEdit*>(focus) && !qobject_cast<const QTextEdit*>(focus) &&
+         !qobject_cast<const QComboBox*>(focus) && !qobject_cast<const QAbstractSpinBox*>(focus);
+}
+
+// What cannot be run leaves its key to the menus' mnemonics. No command on Alt does anything without a map,
+// whether it is enabled or not.
+bool TVelkWindow::leftToMenus(const QKeyEvent& key, const Command& command) const {
+  const bool idle = editor_.mapCount() == 0 && key.modifiers().testFlag(Qt::AltModifier);
+  return idle || !CanRun(editor_, command);
+}
+
+bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool override = event->type() == QEvent::ShortcutOverride;
+  if (!override && event->type() != QEvent::KeyPress) return false;
+  // Other windows keep their keys; one that was just shown may not have the focus yet.
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  if (!widget || widget->window() != this || !takesKeys()) return false;
+  const auto& key = *static_cast<QKeyEvent*>(event);
+  const Command* command = CommandForKey(key);
+  if (!command || leftToMenus(key, *command)) return false;
+  event->accept();
+  if (!override) RunCommand(editor_, *command);
+  return true;
+}
+
+// A hint makes way, such as that of the button just pressed, which is still under the pointer.
+void TVelkWindow::statusChanged(const std::string& text) { status_->post(ShownText(text)); }
+
+void TVelkWindow::redrawPlanViews() {
+  for (TXYViewWindow* view : planViews_) {
+    if (view) view->markStale();
+  }
+}
+
+void TVelkWindow::redrawCamera() {
+  if (camera_) camera_->markStale();
+}
+
+void TVelkWindow::redrawSelectedBrush() {
+  if (brush_) brush_->refresh();
+}
+
+// A bar below the middle of the screen, gone when there is nothing more to load.
+void TVelkWindow::loadProgress(const std::string& text, int done, int total) {
+  if (text.empty()) {
+    progress_.reset();
+    return;
+  }
+  if (!progress_) {
+    progress_ = std::make_unique<QProgressBar>();
+    progress_->setWindowFlag(Qt::SplashScreen);
+    const QPoint middle = screen()->geometry().center();
+    progress_->setGeometry(middle.x() - kProgressSize.width() / 2, middle.y() + kProgressDrop,
+                           kProgressSize.width(), kProgressSize.height());
+    progress_->show();
+  }
+  progress_->setRange(0, std::max(total, 1));
+  progress_->setValue(done);
+  progress_->setFormat(ShownText(text));
+  progress_->repaint();
+}
+
+void TVelkWindow::mapsChanged() {
+  setWindowTitle(ShownText(editor_.title()));
+  if (tabs_) tabs_->refresh();
+  if (camera_) camera_->showTitle();
+  if (watch_) watch_->follow();
+  commandsChanged();
+}
+
+void TVelkWindow::texturesChanged() {
+  for (TVelkControlBar* bar : bars_) bar->texturesChanged();
+}
+
+void TVelkWindow::commandsChanged() {
+  for (TVelkControlBar* bar : bars_) bar->commandsChanged();
+}
+
+void TVelkWindow::helpRequested() {
+  if (!help_) help_ = new HelpWindow(this);
+  help_->showContents();
+}
+
+bool TVelkWindow::showReplaceTexture() {
+  if (!replace_) replace_ = new ReplaceDialog(editor_, this);
+  replace_->present();
+  return true;
+}
+
+void TVelkWindow::exitRequested() {
+  leaving_ = true;
+  close();
+}
+
+}  // namespace velk

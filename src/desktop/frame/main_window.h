@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QProgressBar>
+#include <QTimer>
+#include <array>
+#include <memory>
+
+#include "app/editor.h"
+#include "desktop/dialogs/replace_dialog.h"
+#include "desktop/frame/bars.h"
+#include "desktop/frame/child_windows.h"
+#include "desktop/frame/map_tabs.h"
+#include "desktop/frame/status_bar.h"
+#include "desktop/system/file_watch.h"
+#include "desktop/windows/brush_window.h"
+#include "desktop/windows/camera_window.h"
+#include "desktop/windows/help_window.h"
+#include "desktop/windows/plan_view_window.h"
+
+namespace velk {
+
+// The frame: menu bar, status line and the child windows in which the editor shows the current map.
+class TVelkWindow : public QMainWindow, private Observer {
+  Q_OBJECT
+ public:
+  TVelkWindow(EditorPlace place, Prompts& prompts);
+  ~TVelkWindow() override;
+
+  // Starts the editor and builds what shows it.
+  void start();
+  void openFiles(const std::vector<std::string>& files);
+  // For a window with a user: the frame has the size, place and bars of the last run and remembers them for
+  // the next, maps are listed as recent, and changes of their files are noticed.
+  void keepState();
+  // Writes a picture of the whole frame as PNG; false when it cannot be written.
+  bool savePicture(const std::string& file);
+
+  Editor& editor() { return editor_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void statusChanged(const std::string& text) override;
+  void redrawCamera() override;
+  void redrawPlanViews() override;
+  void redrawSelectedBrush() override;
+  void loadProgress(const std::string& text, int done, int total) override;
+  void mapsChanged() override;
+  void texturesChanged() override;
+  void commandsChanged() override;
+  void helpRequested() override;
+  bool showReplaceTexture() override;
+  void exitRequested() override;
+
+  void buildCentre();
+  void buildWindows();
+  void rememberState() const;
+  bool takesKeys() const;
+  bool leftToMenus(const QKeyEvent& key, const Command& command) const;
+
+  Editor editor_;
+  QMdiArea* area_;
+  TVelkStatusBar* status_;
+  HelpWindow* help_ = nullptr;              // made when first asked for
+  ReplaceDialog* replace_ = nullptr;        // as well
+  FileWatch* watch_ = nullptr;              // none without a user
+  MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
+  std::unique_ptr<QProgressBar> progress_;  // while start-up loads
+  TSelectedBrushWindow* brush_ = nullptr;
+  TCameraWindow* camera_ = nullptr;
+  std::array<TXYViewWindow*, kPlanViews> planViews_{};
+  ChildWindows* children_ = nullptr;
+  std::vector<TVelkControlBar*> bars_;
+  QTimer ticks_;
+  bool arranged_ = false;
+  bool keepsState_ = false;
+  bool leaving_ = false;
+};
+
+}  // namespace velk

@@ -1,0 +1,37 @@
+#include "desktop/frame/map_tabs.h"
+
+#include "desktop/dialogs/shown_text.h"
+
+namespace velk {
+
+MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(editor) {
+  setExpanding(false);
+  setDrawBase(false);
+  // Names stay whole; what has no room is reached by the arrows. Elided, short ones would lose all letters.
+  setElideMode(Qt::ElideNone);
+  setUsesScrollButtons(true);
+  setFocusPolicy(Qt::NoFocus);
+  // The room of a tab is kept without maps, too: else opening the first one would shift every window.
+  addTab(QStringLiteral("map"));
+  setMinimumHeight(sizeHint().height());
+  removeTab(0);
+  connect(this, &QTabBar::currentChanged, this, [this](int index) {
+    if (!refreshing_ && index >= 0) editor_.setCurrentIndex(index);
+  });
+}
+
+void MapTabs::refresh() {
+  refreshing_ = true;
+  while (count() > editor_.mapCount()) removeTab(count() - 1);
+  while (count() < editor_.mapCount()) addTab(QString());
+  for (int i = 0; i < count(); ++i) {
+    const std::string& path = editor_.document(i)->model.name;
+    // A single ampersand would mark a letter as the tab's key.
+    setTabText(i, ShownText(FileNamePart(path)).replace('&', QLatin1String("&&")));
+    setTabToolTip(i, ShownText(path));
+  }
+  setCurrentIndex(editor_.currentIndex());
+  refreshing_ = false;
+}
+
+}  // namespace velk

@@ -1,0 +1,63 @@
+#include "desktop/system/script_host.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <cstdio>
+#include <iostream>
+
+#include "desktop/system/kit.h"
+#include "desktop/system/picture_file.h"
+#include "desktop/windows/camera_window.h"
+#include "desktop/windows/plan_view_window.h"
+#include "script/script_runner.h"
+
+namespace velk {
+namespace {
+
+constexpr int kScriptFailed = 2;
+
+class Pictures : public ScriptPictures {
+ public:
+  explicit Pictures(Editor& editor) : editor_(editor) {}
+
+  bool savePicture(ScriptView view, const std::string& file) override {
+    const QImage picture = view == ScriptView::Camera ? PictureOfCamera(editor_, 1)
+                                                      : PictureOfPlanView(editor_, static_cast<int>(view), 1,
+                                                                          QGuiApplication::palette());
+    return SavePng(picture, file);
+  }
+
+ private:
+  Editor& editor_;
+};
+
+int report(const std::string& file, const ScriptResult& result) {
+  if (result.ok) return 0;
+  if (result.line > 0) {
+    std::fprintf(stderr, "%s:%i: %s\n", file.c_str(), result.line, result.message.c_str());
+  } else {
+    std::fprintf(stderr, "%s: %s\n", file.c_str(), result.message.c_str());
+  }
+  return kScriptFailed;
+}
+
+}  // namespace
+
+int RunScriptFile(const std::string& file, const std::vector<std::string>& maps) {
+  ScriptPrompts prompts;
+  Observer nobody;
+  Editor editor(FindEditorPlace(), prompts, nobody);
+  Pictures pictures(editor);
+  try {
+    editor.start();
+    for (const std::string& map : maps) editor.openFile(map);
+  } catch (const ScriptFailure& failure) {
+    return report(file, {false, 0, failure.what()});
+  }
+  ScriptRunner runner(editor, prompts, &pictures, std::cout);
+  const ScriptResult result = runner.runFile(file);
+  std::cout.flush();
+  return report(file, result);
+}
+
+}  // namespace velk

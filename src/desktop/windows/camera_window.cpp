@@ -1,0 +1,115 @@
+#include "desktop/windows/camera_window.h"
+
+#include <QPainter>
+
+#include "camera/compass.h"
+#include "camera/wire.h"
+#include "desktop/dialogs/shown_text.h"
+#include "desktop/windows/pointer_events.h"
+#include "desktop/windows/qt_canvas.h"
+
+namespace velk {
+namespace {
+
+constexpr int kWireMode = 0;
+
+QString fontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
+
+QList<QRgb> colourTable(const Wad* wad) {
+  QList<QRgb> table(256, qRgb(0, 0, 0));
+  for (int i = 0; i < 256 && wad; ++i) {
+    const unsigned char* entry = wad->palette.data() + i * 3;
+    table[i] = qRgb(entry[0], entry[1], entry[2]);
+  }
+  return table;
+}
+
+// The renderer's picture stretched over the whole image.
+void drawRendered(Editor& editor, QImage& image) {
+  editor.renderCamera();
+  const Renderer& renderer = editor.cameraView().renderer;
+  QImage rendered(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
+                  QImage::Format_Indexed8);
+  rendered.setColorTable(colourTable(editor.paletteWad()));
+  QPainter painter(&image);
+  painter.drawImage(
+      QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);
+}
+
+void drawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
+  const ViewColours& colours = editor.settings().colours;
+  canvas.fill({0, 0, width, height}, colours.bgcolor);
+  const std::string text = "Press \"New\" to Begin...";
+  constexpr int kTextHeight = 14;
+  canvas.text(text, {(width - canvas.textWidth(text, kTextHeight)) / 2, height / 2 - kTextHeight},
+              kTextHeight, colours.fgcolor, nullptr);
+}
+
+void drawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
+  const ViewColours& colours = editor.settings().colours;
+  DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera,
+              colours.bgcolor);
+}
+
+}  // namespace
+
+QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
+  const int width = editor.cameraView().clientWidth;
+  const int height = editor.cameraView().clientHeight;
+  editor.cameraView().deviceScale = devicePixelRatio;
+  QImage image = MakeCanvasImage(width, height, devicePixelRatio);
+  const map* shown = editor.currentMap();
+  if (shown && editor.settings().drawmode != kWireMode) drawRendered(editor, image);
+  QtCanvas canvas(image, fontFamily(editor));
+  if (!shown) {
+    drawEmpty(editor, canvas, width, height);
+    return image;
+  }
+  if (editor.settings().drawmode == kWireMode) {
+    DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.cameraView().lens);
+  }
+  drawOverlays(editor, *shown, canvas, width);
+  return image;
+}
+
+TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+  showTitle();
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(160, 100);
+}
+
+void TCameraWindow::markStale() {
+  stale_ = true;
+  update();
+}
+
+void TCameraWindow::showTitle() { setWindowTitle(ShownText(editor_.titleOf(ToolWindow::Camera))); }
+
+void TCameraWindow::paintEvent(QPaintEvent*) {
+  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
+    picture_ = PictureOfCamera(editor_, devicePixelRatioF());
+    stale_ = false;
+  }
+  QPainter painter(this);
+  painter.drawImage(0, 0, picture_);
+}
+
+void TCameraWindow::resizeEvent(QResizeEvent*) {
+  editor_.cameraView().clientWidth = width();
+  editor_.cameraView().clientHeight = height();
+  markStale();
+}
+
+void TCameraWindow::mousePressEvent(QMouseEvent* event) {
+  if (IsEditorButton(event->button())) editor_.pressCamera(PointerEventOf(*event));
+}
+
+void TCameraWindow::mouseMoveEvent(QMouseEvent* event) { editor_.moveInCamera(PointerEventOf(*event)); }
+
+void TCameraWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (IsEditorButton(event->button())) editor_.releaseCamera(PointerEventOf(*event));
+}
+
+}  // namespace velk

@@ -1,0 +1,64 @@
+#include "ops/group_ops.h"
+
+#include <vector>
+
+namespace velk {
+namespace {
+
+bool Has(const map& m, int index) { return index >= 0 && index < m.groups.count(); }
+
+template <typename Action>
+void ForEachBrush(map& m, Action&& action) {
+  for (entity& e : m.entities()) {
+    for (brush& b : e.brushes()) action(b);
+  }
+}
+
+void MoveBrushes(map& m, int from, int to) {
+  ForEachBrush(m, [&](brush& b) {
+    if (b.group == from) b.group = to;
+  });
+}
+
+}  // namespace
+
+void ClearGroups(map& m) {
+  if (m.groups.count() > 1) ForEachBrush(m, [](brush& b) { b.group = 0; });
+  m.groups.clear();
+}
+
+void DeleteGroup(map& m, int index) {
+  const int last = m.groups.count() - 1;
+  if (last < 1 || !Has(m, index)) return;
+  MoveBrushes(m, index, 0);
+  MoveBrushes(m, last, index);
+  m.groups.remove(index);
+}
+
+void ReassignGroup(map& m, int from, int to) {
+  if (m.groups.count() > 1 && Has(m, from) && Has(m, to)) MoveBrushes(m, from, to);
+}
+
+void SelectAllInGroup(map& m, int index) {
+  if (!Has(m, index)) return;
+  ForEachBrush(m, [&](brush& b) {
+    if (b.group == index) b.selected = true;
+  });
+}
+
+void CountGroupBrushes(map& m) {
+  std::vector<int> counts(size_t(m.groups.count()));
+  ForEachBrush(m, [&](const brush& b) {
+    if (Has(m, b.group)) ++counts[size_t(b.group)];
+  });
+  for (int i = 0; i < m.groups.count(); ++i) m.groups.setBrushCount(i, counts[size_t(i)]);
+}
+
+void map::assignGroupOfSelected(int index) {
+  if (!Has(*this, index)) return;
+  ForEachBrush(*this, [&](brush& b) {
+    if (b.selected) b.group = index;
+  });
+}
+
+}  // namespace velk

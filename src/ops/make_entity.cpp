@@ -1,0 +1,50 @@
+#include "ops/make_entity.h"
+
+namespace velk {
+namespace {
+
+constexpr float kSeedSize = 8;
+
+void AddSeed(map& m, const vec3& at) {
+  texturedef texture;
+  texture.name = "entity";
+  auto seed = std::make_unique<brush>(m.counters());
+  seed->initBox(*m.world(), at, add(at, {kSeedSize, kSeedSize, kSeedSize}), texture);
+  seed->selected = true;
+  m.world()->addobject(std::move(seed));
+}
+
+void TakeSelection(map& m, entity& into) {
+  m.perform.target = &into;
+  m.MSPerform(Method::MoveToTarget);
+  m.perform.target = nullptr;
+}
+
+}  // namespace
+
+MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> seedAt) {
+  if (!m.world() || !m.worldIsCurrent()) return {};
+  const EntityClass& found = m.classes().findByName(classname);
+  const bool fixedSize = m.classes().isKnown(found) && found.fixedSize;
+  const bool seeded = m.selectedCount() > 0;
+  if (!seeded && !fixedSize) return {EntityMaking::NeedsSeed, nullptr};
+  m.requireRoom();
+  if (!seeded) AddSeed(m, seedAt.value_or(m.activeCamera().origin));
+
+  auto made = std::make_unique<entity>(m);
+  made->setClass(classname);
+  m.modified = true;
+  if (fixedSize) {
+    m.MSPerform(Method::Delete);
+    made->at(0)->selected = true;
+  } else {
+    TakeSelection(m, *made);
+    // In group mode all of the selection may be out of reach.
+    if (made->numbrushes() == 0) return {EntityMaking::NeedsSeed, nullptr};
+  }
+  entity& added = m.addobject(std::move(made));
+  m.setCurrentEntity(&added);
+  return {EntityMaking::Made, &added};
+}
+
+}  // namespace velk

@@ -1,0 +1,104 @@
+#include "ops/selection.h"
+
+namespace velk {
+namespace {
+
+// Nothing farther is hit.
+constexpr double kFarthestHit = 32767;
+
+struct Candidate {
+  brush* hit = nullptr;
+  int face = -1;
+  double t = kFarthestHit;
+
+  // On equal distances the one offered later wins.
+  void offer(brush& b, const brush::Hit& at) {
+    if (at.t < 0 || at.t > t) return;
+    hit = &b;
+    face = at.face;
+    t = at.t;
+  }
+};
+
+// An invalid brush may have no polygon left, and then every ray would seem to start inside it.
+bool CanBeHit(const map& m, const brush& b) {
+  return !b.invalid && m.passesGroupFilter(b) && !m.isFiltered(b);
+}
+
+Candidate Nearest(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
+  Candidate best;
+  for (int i = m.numentities() - 1; i >= 0; --i) {
+    if (i == 0 && entitiesFirst && best.hit) break;
+    for (brush& b : m.at(i)->brushes()) {
+      if (b.hidden || !CanBeHit(m, b)) continue;
+      const brush::Hit at = b.hitByRay(start, end);
+      if (at.t >= 0) m.hits.add(b);
+      best.offer(b, at);
+    }
+  }
+  return best;
+}
+
+}  // namespace
+
+void SelectByBox(map& m, bool inside) {
+  if (m.totalSelected() != 1) return;
+  brush* box = m.firstSelected();
+  m.perform.boxMins = box->mins;
+  m.perform.boxMaxs = box->maxs;
+  DestroyBrush(*box);
+  m.MUSPerform(inside ? Method::SelectInside : Method::SelectTouching);
+}
+
+bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texturedef& texture,
+                       bool wholeBrush) {
+  Candidate best;
+  for (int i = m.numentities() - 1; i >= 0; --i) {
+    for (brush& b : m.at(i)->brushes()) {
+      if (CanBeHit(m, b)) best.offer(b, b.hitByRay(start, end));
+    }
+  }
+  if (!best.hit || !best.hit->owner->isModel) return false;
+  m.modified = true;
+  if (wholeBrush) {
+    best.hit->setAllTexturedefs(texture);
+  } else {
+    best.hit->setTexturedef(texture, best.face);
+  }
+  return true;
+}
+
+RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
+  m.hits.clear();
+  const Candidate best = Nearest(m, start, end, entitiesFirst);
+  if (!best.hit) return {};
+  brush& b = *best.hit;
+  m.modified = true;
+  b.currentFace = best.face;
+  if (b.owner != m.currentEntity()) {
+    if (!m.settings().multi_select) m.MGPerform(Method::Deselect);
+    m.setCurrentEntity(b.owner);
+  }
+  RayPick pick{&b, best.face, false};
+  if (b.selected) {
+    b.deselect();
+  } else {
+    pick.firstOfSelection = m.totalSelected() == 0;
+    b.selected = true;
+  }
+  return pick;
+}
+
+bool Connect(map& m, const vec3& start, const vec3& end, RayPick* picked) {
+  entity* from = m.currentEntity();
+  if (!from || from->isWorld()) return false;
+  const RayPick pick = selectByRay(m, start, end, true);
+  if (picked) *picked = pick;
+  entity* to = m.currentEntity();
+  if (to == from || to->isWorld()) return false;
+  from->setKey("target", to->makeTargetName());
+  m.modified = true;
+  return true;
+}
+
+}  // namespace velk

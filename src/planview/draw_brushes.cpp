@@ -1,0 +1,171 @@
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+#include <unordered_map>
+
+#include "base/text.h"
+#include "planview/view_painter.h"
+
+namespace velk {
+
+namespace {
+
+constexpr double kFacing = -0.0001;  // normal . viewNormal of a face turned towards the viewer
+constexpr int kSelectionWidth = 2;   // pixels
+constexpr int kNameBelow = 3;        // pixels under the corner of the brush
+constexpr int kLongestName = 2000;   // pixels; names that begin farther outside cannot reach the view
+constexpr int kIndexHeight = 12;     // of the numbers of hit brushes
+
+int channel(float value) { return std::clamp(Truncate(double(value) * 255), 0, 255); }
+
+Colour classColour(const brush& b) { return {channel(b.color.x), channel(b.color.y), channel(b.color.z)}; }
+
+vec3 middle(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
+
+bool shown(const map& m, const brush& b) { return !b.hidden && m.passesGroupFilter(b); }
+
+const brush* firstShownBrush(const map& m, const entity& e) {
+  const brush* first = e.isWorld() ? nullptr : e.at(0);
+  return first && shown(m, *first) ? first : nullptr;
+}
+
+class BrushPainter {
+ public:
+  explicit BrushPainter(ViewPainter& painter)
+      : p_(painter),
+        map_(*painter.scene.shown),
+        current_(map_.currentEntity()),
+        worldIsCurrent_(map_.worldIsCurrent()),
+        firstSelected_(map_.firstSelected()),
+        towards_(painter.view.viewNormal[painter.view.axisDepth]) {}
+
+  void draw() {
+    for (const entity& e : map_.entities()) {
+      for (const brush& b : e.brushes()) drawBrush(e, b);
+      if (p_.view.orientation == kOrientationXY) drawAngle(e);
+    }
+  }
+
+ private:
+  void drawBrush(const entity& owner, const brush& b) {
+    if (!shown(map_, b)) return;
+    const brush* drawn = &b;
+    if (b.selected && p_.scene.preview) {
+      if (const brush* preview = p_.scene.preview(b)) drawn = preview;
+    }
+    // An invalid brush has no bounds but may still have polygons.
+    if (!drawn->invalid && !p_.sees(drawn->mins, drawn->maxs)) return;
+    const Pen pen = penOf(owner, b);
+    if (&b == firstSelected_) {
+      drawWhole(*drawn, pen);
+    } else {
+      drawTurnedFaces(*drawn, pen);
+    }
+  }
+
+  Pen penOf(const entity& owner, const brush& b) const {
+    const ViewColours& colours = p_.colours;
+    if (b.selected) return {colours.color_selection, kSelectionWidth};
+    if (&owner == current_) {
+      return {p_.settings.groupmode ? map_.groups.colour(b.group) : colours.fgcolor, 1};
+    }
+    if (!worldIsCurrent_) return {colours.color_otherbrush, 1};
+    return {classColour(b), 1};
+  }
+
+  void drawTurnedFaces(const brush& b, const Pen& pen) {
+    for (const face& f : b.faces) {
+      if (!f.polygon || f.facePlane.normal[p_.view.axisDepth] * towards_ > kFacing) continue;
+      p_.outline(pen, f.polygon->points(), f.polygon->count);
+    }
+  }
+
+  // Every face, the current one on top.
+  void drawWhole(const brush& b, const Pen& pen) {
+    for (int i = 0; i < b.numfaces(); ++i) {
+      if (i != b.currentFace) drawFace(b, i, pen);
+    }
+    if (b.currentFace < b.numfaces()) {
+      drawFace(b, b.currentFace, {p_.colours.color_curfacecolor, kSelectionWidth});
+    }
+  }
+
+  void drawFace(const brush& b, int index, const Pen& pen) {
+    const face& f = b.faces[static_cast<size_t>(index)];
+    if (f.polygon) p_.outline(pen, f.polygon->points(), f.polygon->count);
+  }
+
+  // The arrow of an entity's "angle" on its first brush.
+  void drawAngle(const entity& e) {
+    const brush* first = firstShownBrush(map_, e);
+    if (!first) return;
+    const std::string& angle = e.valueOfKey("angle");
+    if (angle.empty()) return;
+    const double a = TextToDouble(angle) * (1.0 / 180) * std::numbers::pi;
+    const Pixel origin = p_.projection.worldToScreen(middle(*first));
+    const double size = p_.markerSize();
+    if (!(a >= 0 && std::isfinite(a)) || !p_.inView(origin, Truncate(size) + 1)) return;
+    drawArrow(p_.canvas, {penOf(e, *first).colour, 1}, origin, -a, size);
+  }
+
+  ViewPainter& p_;
+  map& map_;
+  const entity* current_;
+  bool worldIsCurrent_;
+  const brush* firstSelected_;
+  double towards_;
+};
+
+}  // namespace
+
+void drawBrushes(ViewPainter& painter) { BrushPainter(painter).draw(); }
+
+void drawNames(ViewPainter& painter) {
+  const int height = std::clamp(Truncate(12 * painter.projection.scale), 7, 18);
+  for (const entity& e : painter.scene.shown->entities()) {
+    const brush* first = firstShownBrush(*painter.scene.shown, e);
+    if (!first || !painter.sees(first->mins, first->maxs)) continue;
+    Pixel at = painter.projection.worldToScreen(first->mins);
+    if (!painter.inView(at, kLongestName)) continue;
+    at.y += kNameBelow;
+    painter.canvas.text(e.valueOfKey("classname"), at, height, painter.colours.fgcolor,
+                        &painter.colours.bgcolor);
+  }
+}
+
+void drawHits(ViewPainter& painter) {
+  const map& m = *painter.scene.shown;
+  const Pen pen{painter.colours.color_hitcolor, 1};
+  for (int i = 0; i < m.hits.count; ++i) {
+    const brush* hit = m.hits.brushes[static_cast<size_t>(i)];
+    if (!hit || !painter.sees(hit->mins, hit->maxs)) continue;
+    for (const face& f : hit->faces) {
+      if (f.polygon) painter.outline(pen, f.polygon->points(), f.polygon->count);
+    }
+    const Pixel at = painter.projection.worldToScreen(middle(*hit));
+    if (!painter.inView(at)) continue;
+    painter.canvas.text(Format("%i", i), at, kIndexHeight, painter.colours.color_hitcolor,
+                        &painter.colours.bgcolor);
+  }
+}
+
+void drawConnections(ViewPainter& painter) {
+  const map& m = *painter.scene.shown;
+  std::unordered_multimap<std::string_view, const brush*> byName;
+  for (const entity& e : m.entities()) {
+    const brush* first = firstShownBrush(m, e);
+    if (first && !e.valueOfKey("targetname").empty()) byName.emplace(e.valueOfKey("targetname"), first);
+  }
+  for (const entity& e : m.entities()) {
+    const brush* first = firstShownBrush(m, e);
+    if (!first || e.valueOfKey("target").empty()) continue;
+    const auto [begin, end] = byName.equal_range(e.valueOfKey("target"));
+    for (auto it = begin; it != end; ++it) {
+      const vec3 ends[] = {middle(*first), middle(*it->second)};
+      painter.outline({painter.colours.color_connection, 1}, ends, 2);
+    }
+  }
+}
+
+}  // namespace velk

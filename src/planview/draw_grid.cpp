@@ -1,0 +1,111 @@
+#include <vector>
+
+#include "base/text.h"
+#include "planview/grid_lines.h"
+#include "planview/view_painter.h"
+
+namespace velk {
+
+namespace {
+
+constexpr int kLabelHeight = 10;       // pixels
+constexpr int kLabelLeft = 2;          // of a horizontal line's label
+constexpr int kLabelAboveBottom = 14;  // of a vertical line's label
+constexpr int kLabelGap = 4;           // between labels of vertical lines
+
+class GridPainter {
+ public:
+  explicit GridPainter(ViewPainter& painter)
+      : p_(painter), levels_(gridLevels(p_.settings.gridsize, p_.projection.scale)) {}
+
+  void draw() {
+    const bool dots = p_.settings.grid_style != 0;
+    if (levels_.showMinor) dots ? minorDots() : minorLines();
+    if (!levels_.showMajor) return;
+    const GridRange u = rangeU(levels_.major), v = rangeV(levels_.major);
+    if (dots) {
+      intersections(u, v, p_.colours.majorgrid);
+    } else {
+      for (long long c = u.first; c <= u.last; c += u.step) vertical(c, p_.colours.majorgrid);
+      for (long long c = v.first; c <= v.last; c += v.step) horizontal(c, p_.colours.majorgrid);
+    }
+    if (p_.settings.show_coordinates) labels(u, v);
+  }
+
+ private:
+  GridRange rangeU(long long step) const { return gridRangeU(p_.projection, p_.settings.gridsize, step); }
+  GridRange rangeV(long long step) const { return gridRangeV(p_.projection, p_.settings.gridsize, step); }
+
+  void minorLines() {
+    const GridRange u = rangeU(p_.settings.gridsize), v = rangeV(p_.settings.gridsize);
+    for (long long c = u.first; c <= u.last; c += u.step) {
+      if (levels_.isMinorLine(c)) vertical(c, p_.colours.minorgrid);
+    }
+    for (long long c = v.first; c <= v.last; c += v.step) {
+      if (levels_.isMinorLine(c)) horizontal(c, p_.colours.minorgrid);
+    }
+  }
+
+  void minorDots() {
+    intersections(rangeU(p_.settings.gridsize), rangeV(p_.settings.gridsize), p_.colours.minorgrid);
+  }
+
+  void intersections(const GridRange& u, const GridRange& v, Colour colour) {
+    for (long long cv = v.first; cv <= v.last; cv += v.step) {
+      dots_.clear();
+      for (long long cu = u.first; cu <= u.last; cu += u.step) {
+        dots_.push_back(p_.toDevice(double(cu), double(cv)));
+      }
+      p_.canvas.devicePoints(colour, dots_);
+    }
+  }
+
+  void vertical(long long position, Colour colour) {
+    const int x = p_.toDevice(double(position), 0).x;
+    segment({x, 0}, {x, p_.deviceHeight()}, colour);
+  }
+
+  void horizontal(long long position, Colour colour) {
+    const int y = p_.toDevice(0, double(position)).y;
+    segment({0, y}, {p_.deviceWidth(), y}, colour);
+  }
+
+  void segment(Pixel from, Pixel to, Colour colour) {
+    const Pixel ends[] = {from, to};
+    p_.canvas.devicePolygon({colour, 1}, ends);
+  }
+
+  // Labels that would cover the one before are left out.
+  void labels(const GridRange& u, const GridRange& v) {
+    const PlanProjection& projection = p_.projection;
+    int freeFrom = kLabelLeft - 1;
+    for (long long c = u.first; c <= u.last; c += u.step) {
+      const std::string text = Format("%lli", c);
+      const int x = Truncate((double(c) - projection.centreU) * projection.scale + projection.width / 2);
+      if (x < freeFrom || x >= projection.width) continue;
+      label(text, {x, projection.height - kLabelAboveBottom});
+      freeFrom = x + p_.canvas.textWidth(text, kLabelHeight) + kLabelGap;
+    }
+    int freeAbove = projection.height - kLabelAboveBottom;
+    for (long long c = v.first; c <= v.last; c += v.step) {
+      const int y = Truncate(-(double(c) - projection.centreV) * projection.scale + projection.height / 2);
+      if (y > freeAbove - kLabelHeight || y < kStripHeight - kLabelHeight) continue;
+      label(Format("%lli", c), {kLabelLeft, y});
+      freeAbove = y;
+    }
+  }
+
+  void label(const std::string& text, Pixel at) {
+    p_.canvas.text(text, at, kLabelHeight, p_.colours.color_gridlabel, &p_.colours.bgcolor);
+  }
+
+  ViewPainter& p_;
+  GridLevels levels_;
+  std::vector<Pixel> dots_;
+};
+
+}  // namespace
+
+void drawGrid(ViewPainter& painter) { GridPainter(painter).draw(); }
+
+}  // namespace velk

@@ -1,0 +1,29 @@
+// The picture of a plan view.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+
+#include "planview/header_strip.h"
+#include "planview/plan_view.h"
+
+namespace velk {
+
+// What a view shows besides its own record. Everything must outlive the drawing.
+struct PlanScene {
+  const PlanViewSet& set;
+  const Settings& settings;
+  map* shown = nullptr;  // none when no map is open
+  StripColours strip{};
+  std::string groupName{};             // of the group window's selected group, may be empty
+  std::span<const vec3> leakPoints{};  // empty when they are not shown
+  // The brush to draw in place of a selected one (a running drag's or the clipper's preview), valid until
+  // the next call; none draws the brush itself. May be empty.
+  std::function<const brush*(const brush&)> preview{};
+};
+
+// Draws the whole view, header strip included, in its client size.
+void drawPlanView(Canvas& canvas, const PlanScene& scene, int view);
+
+}  // namespace velk

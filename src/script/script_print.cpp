@@ -1,0 +1,244 @@
+#include "script/script_print.h"
+
+#include <array>
+#include <charconv>
+#include <utility>
+
+#include "base/text.h"
+#include "commands/dispatch.h"
+#include "mapfile/map_writer.h"
+
+namespace velk {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+map& openMap(Editor& editor) {
+  if (!editor.currentMap()) throw ScriptFailure("no map is open");
+  return *editor.currentMap();
+}
+
+brush& currentBrush(Editor& editor) {
+  brush* current = openMap(editor).firstSelected();
+  if (!current) throw ScriptFailure("no brush is selected");
+  return *current;
+}
+
+std::string vectorText(const vec3& v) { return Format("(%g %g %g)", v.x, v.y, v.z); }
+
+std::string textureText(const texturedef& t) {
+  return Format("%s %g %g %g %g %g", t.name.c_str(), t.shift[0], t.shift[1], t.rotate, t.scale[0],
+                t.scale[1]);
+}
+
+std::string countsText(const map& m) {
+  int faces = 0;
+  int invalid = 0;
+  for (const entity& e : m.entities()) {
+    for (const brush& b : e.brushes()) {
+      faces += b.numfaces();
+      invalid += b.invalid ? 1 : 0;
+    }
+  }
+  return Format("entities %d brushes %d faces %d invalid %d selected %d", m.numentities(), m.brushCount(),
+                faces, invalid, m.totalSelected());
+}
+
+std::string currentText(map& m) {
+  const entity* current = m.currentEntity();
+  return current ? Format("%d %s", m.indexOf(current), current->valueOfKey("classname").c_str()) : "none";
+}
+
+Lines selectionLines(const map& m) {
+  Lines lines;
+  for (const entity& e : m.entities()) {
+    for (const brush& b : e.brushes()) {
+      if (!b.selected) continue;
+      lines.push_back(Format("%d %d %s %s %d %s", m.indexOf(&e), e.indexOf(&b), vectorText(b.mins).c_str(),
+                             vectorText(b.maxs).c_str(), b.numfaces(), b.brushTexture().name.c_str()));
+    }
+  }
+  return lines;
+}
+
+std::string eyeText(const map& m) {
+  const camera& eye = m.activeCamera();
+  return Format("%d %s %g %g %g", m.currentCamera, vectorText(eye.origin).c_str(), eye.roll, eye.pitch,
+                eye.yaw);
+}
+
+std::string faceText(const brush& b) {
+  if (b.currentFace < 0 || b.currentFace >= b.numfaces())
+    throw ScriptFailure("the brush has no current face");
+  return Format("%d %s", b.currentFace,
+                textureText(b.faces[static_cast<size_t>(b.currentFace)].texture).c_str());
+}
+
+std::string pickText(Editor& editor, Pixel at) {
+  const map& m = openMap(editor);
+  const FacePick pick = editor.pickInCamera(at);
+  if (!pick.hit) return "none";
+  return Format("%d %d %d", m.indexOf(pick.hit->owner), pick.hit->owner->indexOf(pick.hit), pick.face);
+}
+
+std::string settingText(const Editor& editor, const std::string& key) {
+  const auto text = SettingText(editor.settings(), key);
+  if (!text) throw ScriptFailure("no such setting: " + key);
+  return *text;
+}
+
+std::string viewText(const Editor& editor, ScriptView view) {
+  if (view == ScriptView::Camera) return editor.titleOf(ToolWindow::Camera);
+  return editor.titleOf(
+      static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + static_cast<int>(view)));
+}
+
+const char* orDash(bool is, const char* word) { return is ? word : "-"; }
+
+std::string menuLine(const Editor& editor, const Command& command) {
+  const char* check = !command.checked ? "-" : IsChecked(editor, command) ? "checked" : "unchecked";
+  const std::string path = (*command.menu ? command.menu + std::string("|") : "") + LabelOf(editor, command);
+  return Format("%d %s %s %s %s %s %s", command.id, orDash(*command.name, command.name),
+                IsEnabled(editor, command) ? "enabled" : "disabled", check, ScriptQuoted(path).c_str(),
+                ScriptQuoted(command.keyText).c_str(), ScriptQuoted(command.keys).c_str());
+}
+
+// Rows without a menu item stand last in the table.
+Lines menuLines(Editor& editor) {
+  Lines lines;
+  for (const Command& command : Commands()) {
+    if (!IsHidden(editor, command)) lines.push_back(menuLine(editor, command));
+  }
+  return lines;
+}
+
+const char* stateText(ShowState state) {
+  if (state == ShowState::Minimised) return "minimised";
+  return state == ShowState::Maximised ? "maximised" : "normal";
+}
+
+Lines windowLines(Editor& editor) {
+  Lines lines;
+  for (int i = 0; i < kToolWindows; ++i) {
+    const auto window = static_cast<ToolWindow>(i);
+    const WindowPlacement placement = editor.windows().placement(window);
+    const auto& [left, top, right, bottom] = placement.normal;
+    lines.push_back(Format("%s %s (%d %d %d %d) %s", ScriptQuoted(editor.titleOf(window)).c_str(),
+                           stateText(placement.state), left, top, right, bottom,
+                           orDash(editor.windows().hasFocus(window), "focus")));
+  }
+  return lines;
+}
+
+Lines undoLines(Editor& editor) {
+  openMap(editor);
+  const UndoHistory& history = editor.current()->history;
+  Lines lines;
+  for (const std::string& name : history.undoNames()) lines.push_back("undo " + ScriptQuoted(name));
+  for (const std::string& name : history.redoNames()) lines.push_back("redo " + ScriptQuoted(name));
+  return lines;
+}
+
+Lines groupLines(const map& m) {
+  struct Count {
+    int brushes = 0;
+    int selected = 0;
+  };
+  std::vector<Count> counts(static_cast<size_t>(m.groups.count()));
+  for (const entity& e : m.entities()) {
+    for (const brush& b : e.brushes()) {
+      if (b.group < 0 || b.group >= m.groups.count()) continue;
+      Count& count = counts[static_cast<size_t>(b.group)];
+      ++count.brushes;
+      count.selected += b.selected ? 1 : 0;
+    }
+  }
+  Lines lines;
+  for (int i = 0; i < m.groups.count(); ++i) {
+    const group& g = m.groups.at(i);
+    const Count& count = counts[static_cast<size_t>(i)];
+    lines.push_back(Format("%d %s %s (%d %d %d) brushes %d selected %d", i, ScriptQuoted(g.name).c_str(),
+                           g.visible ? "visible" : "invisible", g.colour.red, g.colour.green, g.colour.blue,
+                           count.brushes, count.selected));
+  }
+  return lines;
+}
+
+Lines openMapLines(Editor& editor) {
+  Lines lines;
+  for (int i = 0; i < editor.mapCount(); ++i) {
+    const map& m = editor.document(i)->model;
+    lines.push_back(Format("%d %s %s %s", i, ScriptQuoted(m.name).c_str(), orDash(m.modified, "modified"),
+                           orDash(i == editor.currentIndex(), "current")));
+  }
+  return lines;
+}
+
+// The map as it would be saved, with plain line ends.
+Lines mapLines(map& m) {
+  Lines lines = Split(MapFileText(m, {}), '\n');
+  if (!lines.empty() && lines.back().empty()) lines.pop_back();
+  for (std::string& line : lines) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+  }
+  return lines;
+}
+
+using Printer = Lines (*)(Editor&);
+constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
+    {"status", [](Editor& e) { return Lines{e.status()}; }},
+    {"title", [](Editor& e) { return Lines{e.title()}; }},
+    {"counts", [](Editor& e) { return Lines{countsText(openMap(e))}; }},
+    {"current", [](Editor& e) { return Lines{currentText(openMap(e))}; }},
+    {"selection", [](Editor& e) { return selectionLines(openMap(e)); }},
+    {"camera", [](Editor& e) { return Lines{eyeText(openMap(e))}; }},
+    {"textures", [](Editor& e) { return openMap(e), Lines{Format("%d", e.current()->textures.count())}; }},
+    {"face", [](Editor& e) { return Lines{faceText(currentBrush(e))}; }},
+    {"groups", [](Editor& e) { return groupLines(openMap(e)); }},
+    {"undo", undoLines},
+    {"maps", openMapLines},
+    {"menu", menuLines},
+    {"windows", windowLines},
+    {"map", [](Editor& e) { return mapLines(openMap(e)); }},
+}};
+
+Lines printPlain(Editor& editor, const ScriptPrompts& prompts, const std::string& what) {
+  for (const auto& [word, printer] : kPrinters) {
+    if (EqualNoCase(word, what)) return printer(editor);
+  }
+  if (EqualNoCase(what, "prompts")) return prompts.log();
+  throw ScriptFailure("nothing to print by that name: " + what);
+}
+
+}  // namespace
+
+ScriptView ScriptViewNamed(const std::string& name) {
+  constexpr std::array<std::string_view, 4> kNames{"XY", "XZ", "YZ", "3D"};
+  for (size_t i = 0; i < kNames.size(); ++i) {
+    if (EqualNoCase(name, kNames[i])) return static_cast<ScriptView>(i);
+  }
+  throw ScriptFailure("no such view: " + name);
+}
+
+int ScriptNumber(const ScriptWord& word) {
+  const char* end = word.text.data() + word.text.size();
+  int value = 0;
+  const auto [stop, error] = std::from_chars(word.text.data(), end, value);
+  if (error != std::errc{} || stop != end) throw ScriptFailure("not a whole number: " + word.text);
+  return value;
+}
+
+Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vector<ScriptWord>& what) {
+  const std::string& word = what[0].text;
+  if (what.size() == 1) return printPlain(editor, prompts, word);
+  if (what.size() == 2 && EqualNoCase(word, "setting")) return {settingText(editor, what[1].text)};
+  if (what.size() == 2 && EqualNoCase(word, "view")) {
+    return {viewText(editor, ScriptViewNamed(what[1].text))};
+  }
+  if (what.size() == 3 && EqualNoCase(word, "pick")) {
+    return {pickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
+  }
+  throw ScriptFailure("nothing to print by that name: " + word);
+}
+
+}  // namespace velk

@@ -1,0 +1,129 @@
+#include "script/script_prompts.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "base/text.h"
+
+namespace velk {
+namespace {
+
+struct AnswerWord {
+  const char* word;
+  Answer answer;
+};
+constexpr std::array<AnswerWord, 4> kAnswerWords{
+    {{"yes", Answer::Yes}, {"no", Answer::No}, {"ok", Answer::Ok}, {"cancel", Answer::Cancel}}};
+
+bool hasButton(MessageBox::Buttons buttons, Answer answer) {
+  using Buttons = MessageBox::Buttons;
+  const bool yesNo = buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
+  switch (answer) {
+    case Answer::Yes:
+    case Answer::No:
+      return yesNo;
+    case Answer::Ok:
+      return !yesNo;
+    case Answer::Cancel:
+      return buttons == Buttons::OkCancel || buttons == Buttons::YesNoCancel;
+  }
+  return false;
+}
+
+[[noreturn]] void failPrompt(const char* what, const std::string& caption, const std::string& text) {
+  throw ScriptFailure(Format("%s: %s %s", what, ScriptQuoted(caption).c_str(), ScriptQuoted(text).c_str()));
+}
+
+}  // namespace
+
+std::string ScriptQuoted(const std::string& text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    if (c == '\n') {
+      quoted += "\\n";
+      continue;
+    }
+    if (c == '"' || c == '\\') quoted += '\\';
+    quoted += c;
+  }
+  return quoted + '"';
+}
+
+void ScriptPrompts::queue(std::vector<std::string> words, bool literal) {
+  answers_.push_back({std::move(words), literal});
+}
+
+bool ScriptPrompts::Queued::cancels() const {
+  return !literal && words.size() == 1 && EqualNoCase(words[0], "cancel");
+}
+
+// Words that only some prompts know stay without quotes in the log.
+bool ScriptPrompts::Queued::isText() const {
+  if (literal || words.size() != 1) return true;
+  return std::none_of(kAnswerWords.begin(), kAnswerWords.end(),
+                      [this](const AnswerWord& known) { return EqualNoCase(words[0], known.word); });
+}
+
+ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& caption,
+                                          const std::string& text) {
+  if (answers_.empty()) failPrompt("no answer for the prompt", caption, text);
+  Queued answer = std::move(answers_.front());
+  answers_.pop_front();
+  std::string words;
+  for (const std::string& word : answer.words) words += ' ' + (answer.isText() ? ScriptQuoted(word) : word);
+  log_.push_back(std::string(kind) + ' ' + ScriptQuoted(caption) + ' ' + ScriptQuoted(text) + words);
+  return answer;
+}
+
+Answer ScriptPrompts::ask(const MessageBox& box) {
+  const Queued given = take("message", box.caption, box.text);
+  for (const auto& [word, answer] : kAnswerWords) {
+    if (given.words.size() == 1 && EqualNoCase(given.words[0], word) && hasButton(box.buttons, answer))
+      return answer;
+  }
+  failPrompt("the answer is none of the buttons of", box.caption, box.text);
+}
+
+std::vector<std::string> ScriptPrompts::chooseFiles(const FileChooser& chooser) {
+  const bool saves = chooser.kind == FileChooser::Kind::Save;
+  Queued given = take(saves ? "save" : "open", chooser.title, chooser.filter);
+  if (given.cancels()) return {};
+  if (given.words.size() != 1 && chooser.kind != FileChooser::Kind::OpenMany) {
+    failPrompt("more than one file for", chooser.title, chooser.filter);
+  }
+  return given.words;
+}
+
+std::optional<std::string> ScriptPrompts::input(const TextInput& input) {
+  const Queued given = take("input", input.title, input.prompt);
+  if (given.cancels()) return std::nullopt;
+  std::string text;
+  for (const std::string& word : given.words) text += (text.empty() ? "" : " ") + word;
+  return text.substr(0, static_cast<size_t>(std::max(0, input.maxLength)));
+}
+
+std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) {
+  const Queued given = take("colour", chooser.title, "");
+  if (given.cancels()) return std::nullopt;
+  if (given.words.size() != 3) failPrompt("not three numbers for the colour", chooser.title, "");
+  const auto channel = [&](size_t i) { return std::clamp(TextToInt(given.words[i]), 0, 255); };
+  return Colour{channel(0), channel(1), channel(2)};
+}
+
+FormAnswer ScriptPrompts::fill(Form& form) {
+  const Queued given = take("form", form.title, "");
+  for (const auto& [name, value] : std::exchange(sets_, {})) {
+    const auto field =
+        std::find_if(form.fields.begin(), form.fields.end(),
+                     [&, &wanted = name](const FormField& f) { return EqualNoCase(f.name, wanted); });
+    if (field == form.fields.end()) failPrompt("no such field in", form.title, name);
+    field->value = value;
+  }
+  if (EqualNoCase(given.words[0], "ok")) return FormAnswer::Ok;
+  if (EqualNoCase(given.words[0], "save") && !form.saveLabel.empty()) return FormAnswer::Save;
+  if (EqualNoCase(given.words[0], "cancel")) return FormAnswer::Cancel;
+  failPrompt("the answer is none of the buttons of", form.title, "");
+}
+
+}  // namespace velk

@@ -1,0 +1,244 @@
+#include "script/script_runner.h"
+
+#include <fstream>
+#include <utility>
+
+#include "base/error.h"
+#include "base/text.h"
+#include "base/tokenizer.h"
+#include "commands/dispatch.h"
+#include "script/script_print.h"
+
+namespace velk {
+namespace {
+
+// Larger than any script; keeps a device that never ends from filling the memory.
+constexpr size_t kMaxScript = size_t{16} << 20;
+
+struct ScriptLine {
+  int number = 0;
+  std::vector<ScriptWord> words;
+};
+
+// Adds the lines read to `lines`, also when the text turns out to be malformed.
+void readLines(Tokenizer& tokens, std::vector<ScriptLine>& lines) {
+  while (tokens.GetScriptToken(true)) {
+    if (lines.empty() || lines.back().number != tokens.line()) lines.push_back({tokens.line(), {}});
+    lines.back().words.push_back({std::string(tokens.token()), tokens.quoted()});
+  }
+}
+
+MouseButton button(const ScriptWord& word) {
+  if (EqualNoCase(word.text, "LEFT")) return MouseButton::Left;
+  if (EqualNoCase(word.text, "MIDDLE")) return MouseButton::Middle;
+  if (EqualNoCase(word.text, "RIGHT")) return MouseButton::Right;
+  throw ScriptFailure("no such mouse button: " + word.text);
+}
+
+void setModifier(PointerEvent& event, const ScriptWord& word) {
+  if (EqualNoCase(word.text, "SHIFT")) {
+    event.shift = true;
+  } else if (EqualNoCase(word.text, "CTRL")) {
+    event.ctrl = true;
+  } else if (EqualNoCase(word.text, "ALT")) {
+    event.alt = true;
+  } else {
+    throw ScriptFailure("no such modifier: " + word.text);
+  }
+}
+
+void runEnabled(Editor& editor, const Command& command, const std::string& asked) {
+  if (RunCommand(editor, command)) return;
+  std::string message = asked + " is disabled";
+  if (*command.reason) message += std::string(" (") + command.reason + ")";
+  throw ScriptFailure(message);
+}
+
+}  // namespace
+
+struct ScriptRunner::Instruction {
+  const char* word;
+  size_t least;  // words after it
+  size_t most;
+  const char* usage;
+  void (ScriptRunner::*perform)(const Words&);
+};
+
+const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
+  static const std::vector<Instruction> all{
+      {"answer", 1, 99, "answer TEXT", &ScriptRunner::answer},
+      {"set", 2, 99, "set FIELD VALUE", &ScriptRunner::set},
+      {"key", 1, 1, "key TEXT", &ScriptRunner::key},
+      {"map", 1, 1, "map N", &ScriptRunner::showMap},
+      {"size", 3, 3, "size VIEW W H", &ScriptRunner::size},
+      {"press", 4, 7, "press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::press},
+      {"move", 3, 3, "move VIEW X Y", &ScriptRunner::move},
+      {"release", 3, 3, "release VIEW X Y", &ScriptRunner::release},
+      {"wheel", 4, 4, "wheel VIEW STEPS X Y", &ScriptRunner::wheel},
+      {"print", 1, 3, "print WHAT", &ScriptRunner::print},
+      {"checkdisk", 0, 0, "checkdisk", &ScriptRunner::checkDisk},
+      {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
+      {"offer", 0, 0, "offer", &ScriptRunner::offer},
+      {"tick", 0, 0, "tick", &ScriptRunner::tick},
+      {"rescue", 0, 0, "rescue", &ScriptRunner::rescue},
+  };
+  return all;
+}
+
+ScriptResult ScriptRunner::run(std::string_view text) {
+  std::vector<ScriptLine> lines;
+  Tokenizer tokens(text);
+  try {
+    // What is wrong with a script's words is the script's failure, not the editor's.
+    const ErrorTrap trap;
+    readLines(tokens, lines);
+  } catch (const TrappedError& failure) {
+    return {false, tokens.line(), failure.what()};
+  }
+  for (const ScriptLine& line : lines) {
+    try {
+      perform(line.words);
+    } catch (const ScriptFailure& failure) {
+      return {false, line.number, failure.what()};
+    }
+    if (editor_.exiting()) break;
+  }
+  return {};
+}
+
+// By a stream, so that a script may also come through a pipe.
+ScriptResult ScriptRunner::runFile(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::string text(kMaxScript, '\0');
+  in.read(text.data(), static_cast<std::streamsize>(text.size()));
+  if (!in.eof() || in.bad()) return {false, 0, "couldn't read the script " + file.string()};
+  text.resize(static_cast<size_t>(in.gcount()));
+  return run(text);
+}
+
+void ScriptRunner::perform(const Words& words) {
+  for (const Instruction& instruction : instructions()) {
+    if (!EqualNoCase(words[0].text, instruction.word)) continue;
+    const size_t given = words.size() - 1;
+    if (given < instruction.least || given > instruction.most) {
+      throw ScriptFailure(std::string("to be written as: ") + instruction.usage);
+    }
+    (this->*instruction.perform)({words.begin() + 1, words.end()});
+    return;
+  }
+  runCommand(words);
+}
+
+void ScriptRunner::runCommand(const Words& words) {
+  const Command* command = FindCommand(words[0].text);
+  if (!command) throw ScriptFailure("no such instruction or command: " + words[0].text);
+  if (words.size() > 1) throw ScriptFailure("a command stands alone on its line");
+  runEnabled(editor_, *command, words[0].text);
+}
+
+void ScriptRunner::answer(const Words& words) {
+  std::vector<std::string> texts;
+  for (const ScriptWord& word : words) texts.push_back(word.text);
+  prompts_.queue(std::move(texts), words[0].quoted);
+}
+
+void ScriptRunner::set(const Words& words) {
+  std::string value = words[1].text;
+  for (size_t i = 2; i < words.size(); ++i) value += ' ' + words[i].text;
+  prompts_.set(words[0].text, value);
+}
+
+void ScriptRunner::key(const Words& words) {
+  const Command* command = CommandForStroke(ParseKeyStroke(words[0].text));
+  if (!command) throw ScriptFailure("no command on the key " + words[0].text);
+  runEnabled(editor_, *command, words[0].text);
+}
+
+void ScriptRunner::showMap(const Words& words) {
+  const int number = ScriptNumber(words[0]);
+  if (!editor_.document(number)) throw ScriptFailure("no open map has the number " + words[0].text);
+  editor_.setCurrentIndex(number);
+}
+
+void ScriptRunner::size(const Words& words) {
+  constexpr int kLargest = 16384;
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int width = ScriptNumber(words[1]);
+  const int height = ScriptNumber(words[2]);
+  if (width < 1 || height < 1 || width > kLargest || height > kLargest) {
+    throw ScriptFailure("a view is 1 to 16384 pixels wide and high");
+  }
+  if (view == ScriptView::Camera) {
+    editor_.cameraView().clientWidth = width;
+    editor_.cameraView().clientHeight = height;
+    return;
+  }
+  PlanView& plan = editor_.planViews().views[static_cast<size_t>(view)];
+  plan.clientWidth = width;
+  plan.clientHeight = height;
+}
+
+void ScriptRunner::press(const Words& words) {
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  held_ = {};
+  held_.button = button(words[1]);
+  held_.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
+  for (size_t i = 4; i < words.size(); ++i) setModifier(held_, words[i]);
+  if (view == ScriptView::Camera) {
+    editor_.pressCamera(held_);
+  } else {
+    editor_.pressPlanView(static_cast<int>(view), held_);
+  }
+}
+
+void ScriptRunner::move(const Words& words) {
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
+  if (view == ScriptView::Camera) {
+    editor_.moveInCamera(held_);
+  } else {
+    editor_.movePlanView(static_cast<int>(view), held_);
+  }
+}
+
+void ScriptRunner::release(const Words& words) {
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
+  if (view == ScriptView::Camera) {
+    editor_.releaseCamera(held_);
+  } else {
+    editor_.releasePlanView(static_cast<int>(view), held_);
+  }
+  held_ = {};
+}
+
+void ScriptRunner::wheel(const Words& words) {
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  if (view == ScriptView::Camera) throw ScriptFailure("the wheel works in plan views");
+  PointerEvent event;
+  event.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
+  editor_.wheelPlanView(static_cast<int>(view), event, ScriptNumber(words[1]));
+}
+
+void ScriptRunner::print(const Words& words) {
+  for (const std::string& line : ScriptPrint(editor_, prompts_, words)) out_ << line << '\n';
+  out_.flush();
+}
+
+void ScriptRunner::checkDisk(const Words&) { editor_.checkDisk(); }
+
+void ScriptRunner::image(const Words& words) {
+  const ScriptView view = ScriptViewNamed(words[0].text);
+  if (!pictures_) throw ScriptFailure("nothing here can draw pictures");
+  if (!pictures_->savePicture(view, words[1].text)) {
+    throw ScriptFailure("couldn't write the picture " + words[1].text);
+  }
+}
+
+void ScriptRunner::offer(const Words&) { editor_.offerRescueCopies(); }
+
+void ScriptRunner::tick(const Words&) { editor_.tick(); }
+
+void ScriptRunner::rescue(const Words&) { out_ << editor_.writeRescueCopies() << std::endl; }
+
+}  // namespace velk

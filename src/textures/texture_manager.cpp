@@ -1,0 +1,75 @@
+#include "textures/texture_manager.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "base/error.h"
+#include "base/text.h"
+
+namespace velk {
+namespace {
+
+constexpr int kBadSide = 32;
+
+// The file names of a "wad" value; empty ones (";;", a ';' at the end) name nothing.
+std::vector<std::string> WadNames(std::string_view value) {
+  std::vector<std::string> names = Split(value, ';');
+  for (std::string& name : names) {
+    const size_t first = name.find_first_not_of(" \t");
+    name = first == std::string::npos ? "" : name.substr(first, name.find_last_not_of(" \t") - first + 1);
+  }
+  std::erase(names, "");
+  return names;
+}
+
+}  // namespace
+
+TextureManager::TextureManager(const WadServices& services, std::uint32_t seed)
+    : services_(services), random_(seed) {
+  makeBadTexture();
+}
+
+void TextureManager::makeBadTexture() {
+  const auto pixel = static_cast<unsigned char>(127 + random_.below(128));
+  const auto grey = static_cast<unsigned char>(127 + random_.below(256) / 2);
+  badPixels_.assign(kBadSide * kBadSide + Texture::kSparePixels, pixel);
+  badtex_ = {"badtex", kBadSide, kBadSide, badPixels_.data(), {grey, grey, grey, 0}, 255};
+}
+
+void TextureManager::loadDefaultWads(const WadProgressSink& progress) {
+  for (const std::string& name : WadNames(services_.settings.default_wad)) openWad(name, progress);
+}
+
+Wad& TextureManager::openWad(const std::string& name, const WadProgressSink& progress) {
+  const std::string file = FileNamePart(name);
+  const auto found = std::ranges::find_if(
+      wads_, [&](const auto& wad) { return EqualNoCase(FileNamePart(wad->path), file); });
+  if (found != wads_.end()) return **found;
+  std::unique_ptr<Wad> wad(new (std::nothrow) Wad);
+  if (!wad) Error("Couldn't allocate Wad in NewMap");
+  loadWad(*wad, name, services_, random_, progress);
+  wads_.push_front(std::move(wad));
+  return *wads_.front();
+}
+
+int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& progress) {
+  std::vector<std::string> names;
+  if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
+  names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
+  const size_t before = wads_.size();
+  std::vector<Wad*> wads;
+  for (const std::string& name : names) wads.push_back(&openWad(name, progress));
+  buildMapTextures(m, set, std::move(wads));
+  return static_cast<int>(wads_.size() - before);
+}
+
+const Wad* TextureManager::paletteWad(const TextureSet* set) const {
+  return set && !set->wads().empty() ? set->wads().front() : current();
+}
+
+void TextureManager::remapOutlineColours() {
+  for (const auto& wad : wads_) wad->outlines = FindOutlines(wad->palette, services_.settings);
+}
+
+}  // namespace velk

@@ -1,0 +1,220 @@
+#include <map>
+#include <set>
+#include <utility>
+
+#include "base/text.h"
+#include "commands/dispatch.h"
+#include "planview/view_steps.h"
+#include "support/session.h"
+
+namespace velk {
+namespace {
+
+std::string named(const Command& command) { return std::to_string(command.id) + " " + command.name; }
+
+TEST(CommandTable, EveryRowIsSound) {
+  std::set<int> ids;
+  std::set<std::string> names;
+  std::set<std::string> places;
+  for (const Command& command : Commands()) {
+    EXPECT_TRUE(ids.insert(command.id).second) << "twice: " << named(command);
+    if (*command.name) {
+      EXPECT_TRUE(names.insert(command.name).second) << "twice: " << named(command);
+    }
+    EXPECT_STRNE(command.label, "") << named(command);
+    if (*command.menu) {
+      EXPECT_TRUE(places.insert(std::string(command.menu) + "|" + command.label).second) << named(command);
+    } else {
+      EXPECT_TRUE(*command.name || *command.keys || command.id == 229) << "nowhere: " << named(command);
+    }
+    // The one row that has no hint.
+    EXPECT_NE(*command.hint == '\0', command.id != 560) << named(command);
+    EXPECT_NE(command.run == nullptr, *command.reason == '\0') << "handler or reason: " << named(command);
+  }
+}
+
+TEST(CommandTable, NoTwoRowsOnOneKey) {
+  std::map<std::string, std::string> owners;
+  for (const Command& command : Commands()) {
+    for (const KeyStroke& stroke : StrokesOf(command)) {
+      EXPECT_NE(stroke.key, KeyStroke::Key::None) << named(command);
+      EXPECT_EQ(CommandOnKey(stroke), &command) << named(command) << " and " << named(*CommandOnKey(stroke));
+    }
+  }
+}
+
+TEST(CommandTable, Finding) {
+  EXPECT_EQ(FindCommand("cm_filenew")->id, 24331);
+  EXPECT_EQ(FindCommand("24331"), FindCommand("CM_FILENEW"));
+  EXPECT_EQ(FindCommand(""), nullptr);
+  EXPECT_EQ(FindCommand("CM_NOTHING"), nullptr);
+  EXPECT_EQ(FindCommand(4711), nullptr);
+}
+
+TEST(CommandTable, HoldsWhatTheViewsMenusName) {
+  const Settings settings;
+  for (const auto& menu : {gridMenu(settings), scaleMenu(settings), cameraMenu(settings, nullptr)}) {
+    for (const ViewMenuItem& item : menu) {
+      if (item.separator) continue;
+      const Command* command = FindCommand(item.command);
+      ASSERT_NE(command, nullptr) << item.command;
+      EXPECT_NE(command->run, nullptr) << item.command;
+    }
+  }
+}
+
+TEST(Keys, Strokes) {
+  using Key = KeyStroke::Key;
+  const auto stroke = [](Key key, char character, bool pad, bool ctrl, bool alt, bool shift) {
+    return KeyStroke{key, character, pad, ctrl, alt, shift};
+  };
+  const std::vector<std::pair<const char*, KeyStroke>> cases{
+      {"Ctrl+PgUp", stroke(Key::PageUp, 0, false, true, false, false)},
+      {"alt+a", stroke(Key::Character, 'A', false, false, true, false)},
+      {"Num4", stroke(Key::Character, '4', true, false, false, false)},
+      {"Ctrl+Num+", stroke(Key::Character, '+', true, true, false, false)},
+      {"Ctrl+-", stroke(Key::Character, '-', false, true, false, false)},
+      {"Ctrl+comma", stroke(Key::Character, ',', false, true, false, false)},
+      {"`", stroke(Key::Character, '`', false, false, false, false)},
+      {"Ctrl+Alt+Shift+C", stroke(Key::Character, 'C', false, true, true, true)},
+      {"F12", stroke(Key::F12, 0, false, false, false, false)},
+      {"F", stroke(Key::Character, 'F', false, false, false, false)},
+      {"F13", {}},
+      {"Ctrl+", {}},
+      {"Hyper", {}},
+      {"", {}},
+  };
+  for (const auto& [text, expected] : cases) EXPECT_TRUE(ParseKeyStroke(text) == expected) << text;
+}
+
+TEST(Keys, WhatTheyRun) {
+  const std::vector<std::pair<const char*, int>> cases{{"Ctrl+Space", 216},   {"Ctrl+Shift+Space", 184},
+                                                       {"Ctrl+Alt+B", 77},    {"Alt+Enter", 254},
+                                                       {"Num-", 270},         {"Ctrl+X", 270},
+                                                       {"Ctrl+Num-", 274},    {"Ctrl+-", 215},
+                                                       {"Ctrl+1", 1001},      {"Ctrl+Num1", 276},
+                                                       {"Ctrl+period", 1025}, {"]", 1074},
+                                                       {"F9", 217},           {"PgUp", 269},
+                                                       {"NumIns", 132},       {"NumEnd", 1043},
+                                                       {"NumPgDn", 1045},     {"NumDel", 1044},
+                                                       {"NumLeft", 1021},     {"NumHome", 279},
+                                                       {"Ctrl+NumEnd", 276},  {"Ctrl+NumIns", 164},
+                                                       {"Ctrl+NumPgUp", 561}, {"Alt+NumEnter", 254},
+                                                       {"Ctrl+Shift+,", 1024}};
+  for (const auto& [key, id] : cases) {
+    const Command* command = CommandForStroke(ParseKeyStroke(key));
+    ASSERT_NE(command, nullptr) << key;
+    EXPECT_EQ(command->id, id) << key;
+  }
+  for (const char* free : {"Ctrl+F11", "Num0", "Num5", "Ctrl+Num9", "NumHome2"}) {
+    EXPECT_EQ(CommandForStroke(ParseKeyStroke(free)), nullptr) << free;
+  }
+}
+
+// Besides those with a check mark, all of which need a map.
+constexpr const char* kNeedMap =
+    "CM_XDOWN CM_XUP CM_YDOWN CM_YUP CM_ZDOWN CM_ZUP CM_SELECT_ALL CM_CARVE CM_FLIPCLIPPER "
+    "CM_SWITCH_MAP_VIEW CM_GROUP CM_SNAP_TO_GRID CM_MOVE_UP CM_WINDOW_POSITION CM_TALL_BRUSH "
+    "CM_SHORT_BRUSH CM_FLOOR_UP CM_FLOOR_DOWN CM_DESELECT_ALL CM_EDITMAKESTAIRS CM_SCALE_UP CM_SCALE_DOWN "
+    "CM_SUBTRACT CM_MAKE_ENTITY CM_MOVE_DOWN CM_MAKE_ROOM CM_MAKE_ARCH CM_SELECT_TOTAL CM_SELECT_PARTIAL "
+    "CM_MAKE_LIGHTS CM_ROTATE_BRUSH CM_FLIP_X CM_FLIP_Y CM_MAKE_SPHERE CM_FLIP_Z CM_ROTATE_X CM_ROTATE_Y "
+    "CM_ROTATE_Z CM_FILESAVE_SEL CM_LOAD_BRUSHES CM_FILE_ARRANGE CM_MAKE_CYLINDER CM_MAKE_N_SIDED "
+    "CM_HEIGHT_BRUSH CM_MAKE_PYRAMID CM_EDIT_SCALE CM_EXTRUDE CM_CENTER CM_MAKE_BRUSH CM_NEXT_MAP "
+    "CM_PREVIOUS_MAP CM_RESET_ANGLES CM_DELETE CM_NEXT_FACE CM_PREVIOUS_FACE CM_CLIPSPLIT CM_REPLACE "
+    "CM_REVERT CM_SELECT_BY_TEXTURE CM_HIT_UP CM_HIT_DOWN CM_MERGE_IN CM_MERGE_OUT CM_MERGE_CLIPBOARD "
+    "CM_REVOLVE CM_GRID_DOWN CM_GRID_UP CM_FILESAVE CM_FILESAVEAS CM_FILECLOSE CM_CASCADECHILDREN "
+    "CM_TILECHILDREN 228 229 254 263 264 268 24364"
+    " CM_EDITPASTE 355 265 218 219";
+
+// With rules of their own.
+constexpr const char* kOtherRules =
+    "CM_FILENEW CM_FILEOPEN CM_EDITCOPY CM_EDITCLONE CM_COPY_MOVE 11844 1100 298 24337 98 24338";
+
+std::set<const Command*> namedIn(const char* list) {
+  std::set<const Command*> commands;
+  for (const std::string& name : Split(list, ' ')) commands.insert(FindCommand(name));
+  EXPECT_FALSE(commands.contains(nullptr)) << list;
+  return commands;
+}
+
+TEST(CommandTable, WhatNeedsAMapAndWhatDoesNot) {
+  const std::set<const Command*> needMap = namedIn(kNeedMap);
+  const std::set<const Command*> other = namedIn(kOtherRules);
+  for (const Command& command : Commands()) {
+    if (other.contains(&command) || (command.id >= 1000 && command.id < 1200)) continue;
+    const bool needs = needMap.contains(&command) || command.checked;
+    EXPECT_EQ(command.when, needs ? When::MapOpen : When::Always) << named(command);
+  }
+  for (const Command* command : other) EXPECT_NE(command->when, When::Always) << named(*command);
+}
+
+// Answers every question with Cancel.
+struct Declining : Prompts {
+  Answer ask(const MessageBox& box) override {
+    return box.buttons == MessageBox::Buttons::Ok ? Answer::Ok : Answer::Cancel;
+  }
+  std::vector<std::string> chooseFiles(const FileChooser&) override { return {}; }
+  std::optional<std::string> input(const TextInput&) override { return std::nullopt; }
+  std::optional<Colour> chooseColour(const ColourChooser&) override { return std::nullopt; }
+  FormAnswer fill(Form&) override { return FormAnswer::Cancel; }
+};
+
+// Disabled rows are called, too, as a stale button would.
+TEST(Commands, LoseNothingWhenDeclined) {
+  test::TempFolder home;
+  test::FurnishHome(home);
+  const std::string empty = home.write("empty.map", "{\n\"classname\" \"worldspawn\"\n}\n");
+  const std::string full = home.write("small.map", test::SmallMapText());
+  for (const std::string& path : {std::string(), empty, full}) {
+    Declining prompts;
+    test::RecordingObserver observer;
+    Editor editor({home.path(), home.path()}, prompts, observer);
+    editor.start();
+    if (!path.empty()) editor.openFile(path);
+    const int maps = editor.mapCount();
+    for (const Command& command : Commands()) {
+      map* m = editor.currentMap();
+      if (m) m->MGPerform(Method::Deselect);
+      if (m) m->modified = true;
+      const int brushes = m ? m->brushCount() : 0;
+      if (!RunCommand(editor, command) && command.run) command.run(editor);
+      EXPECT_GE(editor.mapCount(), maps) << named(command);
+      EXPECT_TRUE(!m || editor.document(0)->model.brushCount() == brushes) << named(command);
+      EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << named(command);
+      while (editor.mapCount() > maps) editor.closeDocument(maps);
+    }
+  }
+}
+
+TEST(Commands, CheckMarksFollowTheState) {
+  test::Session session;
+  session.run("CM_FILENEW");
+  const std::vector<std::pair<const char*, bool>> toggles{
+      {"CM_TOGGLE_NAMES", false}, {"CM_TOGGLE_COORDINATES", true}, {"CM_TOGGLE_HITS", false},
+      {"CM_GRID_MODE", false},    {"CM_GROUP_MODE", false},        {"CM_TOGGLE_OUTLINE", false},
+      {"CM_OMIT_WATER", false},   {"CM_DRAW_CONNECTIONS", false}};
+  for (const auto& [name, before] : toggles) {
+    const Command& command = *FindCommand(name);
+    EXPECT_EQ(IsChecked(session.editor, command), before) << name;
+    EXPECT_TRUE(session.run(name)) << name;
+    EXPECT_EQ(IsChecked(session.editor, command), !before) << name;
+  }
+  const auto checkedOf = [&](int from, int to) {
+    std::vector<int> ids;
+    for (int id = from; id <= to; ++id) {
+      if (IsChecked(session.editor, *FindCommand(id))) ids.push_back(id);
+    }
+    return ids;
+  };
+  session.run("555");
+  session.run("580");
+  session.run("CM_MODEFLAT");
+  EXPECT_EQ(checkedOf(550, 558), std::vector{555});
+  EXPECT_EQ(checkedOf(580, 590), std::vector{580});
+  EXPECT_EQ(checkedOf(187, 189), std::vector{188});
+  session.editor.settings().scale = 0.3f;
+  EXPECT_TRUE(checkedOf(580, 590).empty());
+}
+
+}  // namespace
+}  // namespace velk

@@ -1,0 +1,176 @@
+// Commands whose effect is not told by a script's output.
+#include "commands/dispatch.h"
+#include "mapfile/map_writer.h"
+#include "support/session.h"
+
+namespace velk {
+namespace {
+
+using test::Session;
+
+TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
+  Session session;
+  FindCommand("CM_OMIT_LIGHTS")->run(session.editor);
+  EXPECT_TRUE(session.editor.settings().filter.omitLights);
+  EXPECT_EQ(session.editor.status(), "Welcome to Velk...");
+  session.run("CM_FILENEW");
+  session.run("CM_OMIT_LIGHTS");
+  session.open("a.map");
+  session.open("b.map");
+  session.run("CM_OMIT_LIGHTS");
+  for (int i = 1; i < 3; ++i) {
+    EXPECT_TRUE(session.editor.document(i)->model.at(1)->at(0)->hidden) << i;
+    EXPECT_FALSE(session.editor.document(i)->model.world()->at(0)->hidden) << i;
+  }
+}
+
+TEST(Handlers, DeselectHidesClipPointsFirst) {
+  Session session;
+  session.open();
+  session.run("CM_SELECT_ALL");
+  session.current().setCurrentEntity(session.current().at(1));
+  session.current().clip.count = 2;
+  session.run("CM_DESELECT_ALL");
+  EXPECT_EQ(session.editor.status(), "Hiding clip points");
+  EXPECT_EQ(session.current().totalSelected(), 3);
+  session.run("CM_DESELECT_ALL");
+  EXPECT_EQ(session.editor.status(), "Deselected all brushes/entities");
+  EXPECT_EQ(session.current().totalSelected(), 0);
+  EXPECT_TRUE(session.current().worldIsCurrent());
+}
+
+TEST(Handlers, HitListCommands) {
+  Session session;
+  session.open();
+  map& m = session.current();
+  brush& first = *m.world()->at(0);
+  brush& second = *m.world()->at(1);
+  first.selected = true;
+  m.hits.add(first);
+  m.hits.add(second);
+  session.run("CM_HIT_UP");
+  EXPECT_TRUE(first.selected && second.selected);
+  EXPECT_EQ(m.hits.current, 1);
+  session.run("CM_HIT_UP");
+  EXPECT_TRUE(first.selected && !second.selected);
+  session.run("CM_HIT_DOWN");
+  EXPECT_EQ(m.hits.current, 1);
+  session.run("CM_HIT_1");
+  EXPECT_FALSE(second.selected);
+  session.run("CM_HIT_7");
+  EXPECT_EQ(session.editor.status(), "Selecting hit brush # 7...");
+  session.run("CM_HIT_UP");
+  EXPECT_EQ(m.hits.current, 7) << "out of range: nothing to cycle from";
+  session.run("228");
+  EXPECT_TRUE(first.selected && second.selected);
+}
+
+TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {
+  Session session;
+  session.open();
+  session.editor.settings().lock_cameras = true;
+  session.run("CM_CAMERA_RAISE");
+  EXPECT_EQ(session.editor.planViews().planCenter.z, 0);
+  session.editor.settings().lock_cameras = false;
+  session.run("CM_CAMERA_RAISE");
+  EXPECT_EQ(session.editor.planViews().planCenter.z, 128);
+}
+
+TEST(Handlers, PlanViewsGoToTheCameraOfTheMapThatIsShown) {
+  Session session;
+  Editor& editor = session.editor;
+  const std::string start = "{\n\"classname\" \"info_player_start\"\n\"origin\" \"32 48 96\"\n}\n";
+  editor.openFile(session.home.write("start.map", test::SmallMapText() + start));
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
+  session.open();
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
+  editor.settings().lock_cameras = true;
+  editor.setCurrentIndex(0);
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
+  editor.settings().lock_cameras = false;
+  editor.closeDocument(1);
+  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
+}
+
+TEST(Handlers, WindowQualityHasTheDevicesPixels) {
+  Session session;
+  Editor& editor = session.editor;
+  editor.cameraView().clientWidth = 301;
+  editor.cameraView().clientHeight = 200;
+  editor.cameraView().deviceScale = 1.5;
+  session.run("CM_QUALITY_WINDOW");
+  EXPECT_EQ(editor.renderSize(), (RenderSize{452, 300}));
+  session.run("192");
+  EXPECT_EQ(editor.renderSize(), (RenderSize{80, 60}));
+}
+
+TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
+  struct Windowed : test::RecordingObserver {
+    bool showReplaceTexture() override { return shown = true; }
+    bool shown = false;
+  } observer;
+  test::TempFolder home;
+  test::FurnishHome(home);
+  ScriptPrompts prompts;
+  Editor editor({home.path(), home.path()}, prompts, observer);
+  editor.start();
+  editor.newMap();
+  RunCommand(editor, *FindCommand("CM_REPLACE"));
+  EXPECT_TRUE(observer.shown);
+  EXPECT_TRUE(prompts.log().empty());
+}
+
+TEST(Handlers, RedrawsOnlyWhatChanged) {
+  Session session;
+  session.open();
+  test::RecordingObserver& seen = session.observer;
+  seen.cameraRedraws = seen.planRedraws = 0;
+  session.run("CM_TOGGLE_OUTLINE");
+  EXPECT_EQ(seen.cameraRedraws, 1);
+  EXPECT_EQ(seen.planRedraws, 0);
+  session.run("CM_GRID_UP");
+  EXPECT_EQ(seen.cameraRedraws, 1);
+  EXPECT_EQ(seen.planRedraws, 1);
+}
+
+TEST(Undo, CopiesWithoutRoomLeaveTheMapAsItWas) {
+  Session session;
+  session.editor.attend();
+  session.open();
+  const auto doubled = [&] { return session.run("CM_SELECT_ALL") && session.run("CM_EDITCLONE"); };
+  for (int i = 0; i < 9; ++i) ASSERT_TRUE(doubled());
+  const std::string before = MapFileText(session.current(), {});
+  session.answer("ok");
+  doubled();
+  EXPECT_EQ(session.prompts.log().back(),
+            "message \"Velk - Cannot Copy\" \"The map has no room for the "
+            "copies.\\n\\nmap->addobject, too many brushes on entity...\" ok");
+  EXPECT_EQ(MapFileText(session.current(), {}), before);
+  EXPECT_EQ(session.current().totalSelected(), session.current().brushCount());
+}
+
+TEST(Undo, CommandsTakeTheirOwnCopiesAboveOneLevel) {
+  Session session;
+  session.open();
+  const Command& undo = *FindCommand(11844);
+  session.editor.settings().undo_levels = 5;
+  session.run("CM_SELECT_ALL");
+  EXPECT_FALSE(IsEnabled(session.editor, undo));
+  EXPECT_EQ(LabelOf(session.editor, undo), "&Undo...");
+  session.run("CM_DELETE");
+  EXPECT_EQ(LabelOf(session.editor, undo), "&Undo Delete...");
+  EXPECT_EQ(session.current().brushCount(), 0);
+  session.run("11844");
+  EXPECT_EQ(session.editor.status(), "Undo...");
+  EXPECT_EQ(session.current().brushCount(), 3);
+  session.run("CM_REDO");
+  EXPECT_EQ(session.current().brushCount(), 0);
+
+  session.editor.settings().undo_levels = 1;
+  session.run("11844");
+  session.run("CM_DELETE");
+  EXPECT_FALSE(IsEnabled(session.editor, undo));
+}
+
+}  // namespace
+}  // namespace velk

@@ -1,0 +1,68 @@
+#include "ops/make_entity.h"
+
+#include <gtest/gtest.h>
+
+#include "support/builders.h"
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+using MakeEntityTest = test::MapTest;
+
+TEST_F(MakeEntityTest, RefusesWithAnotherEntityCurrentOrWithoutASeed) {
+  settings.groupmode = true;
+  m.groups.setVisible(m.groups.add("hidden"), false);
+  cube(0).group = 1;
+  m.modified = false;
+  for (const bool hiddenSeed : {false, true}) {
+    world().at(0)->selected = hiddenSeed;
+    for (const char* classname : {"func_door", "not_a_class"}) {
+      EXPECT_EQ(MakeEntity(m, classname).outcome, EntityMaking::NeedsSeed);
+    }
+    EXPECT_TRUE(hiddenSeed || !m.modified);
+  }
+  m.setCurrentEntity(&addPoint("light", {0, 0, 0}));
+  EXPECT_EQ(MakeEntity(m, "light").outcome, EntityMaking::WorldNotCurrent);
+  EXPECT_EQ(summary(), "worldspawn * light -");
+}
+
+TEST_F(MakeEntityTest, AVariableSizeTakesTheSelection) {
+  for (int i = 0; i < 3; ++i) cube(i).selected = i != 1;
+  const MadeEntity made = MakeEntity(m, "func_door");
+  ASSERT_EQ(made.outcome, EntityMaking::Made);
+  EXPECT_EQ(m.currentEntity(), made.made);
+  EXPECT_TRUE(made.made->isModel);
+  EXPECT_EQ(summary(), "worldspawn - func_door **");
+}
+
+TEST_F(MakeEntityTest, AFixedSizeReplacesTheSelectionOrStandsAtTheCamera) {
+  m.activeCamera().origin = {100, 200, 300};
+  const MadeEntity atCamera = MakeEntity(m, "light");
+  ASSERT_EQ(atCamera.outcome, EntityMaking::Made);
+  EXPECT_EQ(atCamera.made->valueOfKey("origin"), "108 208 308");
+  EXPECT_TRUE(VecEqual(atCamera.made->at(0)->mins, {100, 200, 300}));
+  const auto again = [&] {
+    m.setCurrentEntity(m.world());
+    m.MGPerform(Method::Deselect);
+  };
+  again();
+  EXPECT_EQ(MakeEntity(m, "light", vec3{0, 0, 0}).made->valueOfKey("origin"), "8 8 8");
+  again();
+  box({0, 0, 0}, {32, 32, 32}).selected = true;
+  EXPECT_EQ(MakeEntity(m, "info_player_start").made->valueOfKey("origin"), "16 16 24");
+  EXPECT_EQ(summary(), "worldspawn  light - light - info_player_start *") << "no seed stays behind";
+}
+
+TEST_F(MakeEntityTest, AFullMapKeepsTheSelectionInItsPlace) {
+  brush& b = cube(0);
+  b.selected = true;
+  while (m.numentities() < MAX_ENTITIES) addEntity("func_door");
+  for (const char* classname : {"func_door", "light"}) {
+    EXPECT_FATAL(MakeEntity(m, classname), "map->addobject, too many brushes on entity...");
+    EXPECT_EQ(world().at(0), &b);
+  }
+}
+
+}  // namespace
+}  // namespace velk

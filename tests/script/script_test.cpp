@@ -1,0 +1,120 @@
+#include <sstream>
+
+#include "script/script_runner.h"
+#include "support/session.h"
+
+namespace velk {
+namespace {
+
+struct Failure {
+  const char* script;
+  int line;
+  const char* message;
+};
+
+TEST(Script, FailuresNameLineAndReason) {
+  const std::vector<Failure> cases{
+      {"CM_FILENEW\n\n// a comment\nCM_NOTHING\n", 4, "no such instruction or command: CM_NOTHING"},
+      {"CM_FILESAVE", 1, "CM_FILESAVE is disabled"},
+      {"24337", 1, "24337 is disabled (printing is not offered)"},
+      {"CM_FILENEW now", 1, "a command stands alone on its line"},
+      {"key Ctrl+F11", 1, "no command on the key Ctrl+F11"},
+      {"CM_FILEOPEN", 1, R"(no answer for the prompt: "Select MAP File" "Map Files (*.map)|*.map|")"},
+      {"answer maybe\nCM_ABOUT", 2, "the answer is none of the buttons of"},
+      {"answer OK\nCM_ABOUT\nanswer Cancel\nCM_ABOUT", 4, "the answer is none of the buttons of"},
+      {"press XY LEFT 1", 1, "to be written as: press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]"},
+      {"press ZZ LEFT 1 2", 1, "no such view: ZZ"},
+      {"press XY WHEEL 1 2", 1, "no such mouse button: WHEEL"},
+      {"press XY LEFT 1 2 HYPER", 1, "no such modifier: HYPER"},
+      {"size XY 0 100", 1, "a view is 1 to 16384 pixels wide and high"},
+      {"size XY ten 100", 1, "not a whole number: ten"},
+      {"size XY 5-3 100", 1, "not a whole number: 5-3"},
+      {"size XY 100 99999999999", 1, "not a whole number: 99999999999"},
+      {"CM_FILENEW\nprint pick 1 x", 2, "not a whole number: x"},
+      {"print counts", 1, "no map is open"},
+      {"map 0", 1, "no open map has the number 0"},
+      {"tick 3", 1, "to be written as: tick"},
+      {"print nonsense", 1, "nothing to print by that name: nonsense"},
+      {"print setting nonsense", 1, "no such setting: nonsense"},
+      {"CM_FILENEW\nprint face", 2, "no brush is selected"},
+      {"image XY a.png", 1, "nothing here can draw pictures"},
+      {"CM_FILENEW\nanswer \"open", 2, "EOF inside quoted token"},
+  };
+  for (const Failure& c : cases) {
+    test::Session session;
+    std::ostringstream out;
+    const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).run(c.script);
+    EXPECT_FALSE(result.ok) << c.script;
+    EXPECT_EQ(result.line, c.line) << c.script;
+    EXPECT_TRUE(result.message.starts_with(c.message)) << c.script << ": " << result.message;
+  }
+}
+
+TEST(Script, MalformedScriptRunsNothing) {
+  test::Session session;
+  std::ostringstream out;
+  ScriptRunner(session.editor, session.prompts, nullptr, out).run("CM_FILENEW\nanswer \"open");
+  EXPECT_EQ(session.editor.mapCount(), 0);
+}
+
+TEST(Script, FatalErrorsPassThrough) {
+  test::Session session;
+  std::ostringstream out;
+  ScriptRunner runner(session.editor, session.prompts, nullptr, out);
+  EXPECT_NE(test::FatalMessage([&] { runner.run("answer /nowhere/no.map\nCM_FILEOPEN"); }), "");
+}
+
+TEST(Script, ExitEndsIt) {
+  test::Session session;
+  std::ostringstream out;
+  EXPECT_TRUE(ScriptRunner(session.editor, session.prompts, nullptr, out).run("CM_FILEEXIT\nnonsense").ok);
+  EXPECT_TRUE(session.observer.exiting);
+}
+
+TEST(Script, FilesThatCannotBeRead) {
+  test::Session session;
+  std::ostringstream out;
+  for (const std::string file : {"/nowhere/script", "/", "/dev/zero"}) {
+    const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).runFile(file);
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.message, "couldn't read the script " + file);
+  }
+}
+
+struct RecordedPictures : ScriptPictures {
+  bool savePicture(ScriptView view, const std::string& file) override {
+    saved = std::to_string(static_cast<int>(view)) + " " + file;
+    return file != "bad.png";
+  }
+  std::string saved;
+};
+
+TEST(Script, Pictures) {
+  test::Session session;
+  std::ostringstream out;
+  RecordedPictures pictures;
+  ScriptRunner runner(session.editor, session.prompts, &pictures, out);
+  EXPECT_TRUE(runner.run("image yz out.png").ok);
+  EXPECT_EQ(pictures.saved, "2 out.png");
+  EXPECT_EQ(runner.run("image 3D bad.png").message, "couldn't write the picture bad.png");
+}
+
+TEST(ScriptPrompts, AnswersByKind) {
+  ScriptPrompts prompts;
+  prompts.queue({"1", "300", "-5"}, false);
+  EXPECT_EQ(prompts.chooseColour({"Colour", {}, {}}), (Colour{1, 255, 0}));
+  prompts.queue({"cancel"}, true);
+  EXPECT_EQ(prompts.input({"Name", "New name:", ""}), "cancel");
+  prompts.queue({"cancel"}, false);
+  EXPECT_EQ(prompts.input({"Name", "New name:", ""}), std::nullopt);
+  prompts.queue({"two", "words"}, false);
+  EXPECT_EQ(prompts.input({"Name", "New name:", "", 5}), "two w");
+  prompts.queue({"a", "b"}, false);
+  EXPECT_THROW(
+      prompts.chooseFile(
+          {.title = "Save", .filter = {}, .directory = {}, .fileName = {}, .kind = FileChooser::Kind::Save}),
+      ScriptFailure);
+}
+
+}  // namespace
+}  // namespace velk
