@@ -39,11 +39,11 @@ void MakeCylinder(brush& b, const vec3& at, float size) {
     return vec3{float(std::round(at.x + size * std::cos(angle))),
                 float(std::round(at.y + size * std::sin(angle))), at.z + z};
   };
-  b.faces.clear();
+  b.editFaces().clear();
   for (int i = 0; i < kSides; ++i)
-    b.faces.push_back(Face(corner(i, size), corner(i + 1, size), corner(i + 1, 0)));
-  b.faces.push_back(Face(corner(2, size), corner(1, size), corner(0, size)));
-  b.faces.push_back(Face(corner(0, 0), corner(1, 0), corner(2, 0)));
+    b.editFaces().push_back(Face(corner(i, size), corner(i + 1, size), corner(i + 1, 0)));
+  b.editFaces().push_back(Face(corner(2, size), corner(1, size), corner(0, size)));
+  b.editFaces().push_back(Face(corner(0, 0), corner(1, 0), corner(2, 0)));
   b.buildWindings();
 }
 
@@ -85,7 +85,7 @@ void BuildWindings(benchmark::State& state, Shapes shapes) {
   }
   for (const brush& b : bench.m.world()->brushes()) {
     if (b.invalid) state.SkipWithError("a brush is invalid");
-    for (const face& f : b.faces) corners += f.polygon ? f.polygon->count : 0;
+    for (const face& f : b.faces()) corners += f.polygon ? f.polygon->count : 0;
   }
   state.counters["corners"] = double(corners);
   state.counters["ns/brush"] =

@@ -33,7 +33,7 @@ bool IsShown(const RenderScene& scene, const brush& b) {
 }
 
 brush& ShownShape(const RenderScene& scene, brush& b) {
-  if (!b.selected || !scene.preview) return b;
+  if (!b.selected() || !scene.preview) return b;
   brush* copy = scene.preview(b);
   return copy ? *copy : b;
 }

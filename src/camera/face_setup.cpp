@@ -50,8 +50,8 @@ int ChannelOf(float nominal) { return std::clamp(Truncate(nominal * 255.0), 0, 2
 
 int BoxColour(const RenderAssets& assets, const brush& b) {
   if (!assets.palette) return 255;
-  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(b.color.x), ChannelOf(b.color.y),
-                             ChannelOf(b.color.z));
+  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(b.color().x), ChannelOf(b.color().y),
+                             ChannelOf(b.color().z));
 }
 
 int OutlineColour(const RenderAssets& assets, FaceState state) {
@@ -59,7 +59,7 @@ int OutlineColour(const RenderAssets& assets, FaceState state) {
   return state == FaceState::Selected ? assets.selectionOutline : assets.brushOutline;
 }
 
-const TextureRef* TextureOf(const RenderAssets& assets, face& f) {
+const TextureRef* TextureOf(const RenderAssets& assets, const face& f) {
   if (!f.cache && assets.makeTextureRef) f.cache = assets.makeTextureRef(f.texture.name);
   const TextureRef* texture = f.cache.get();
   return texture && texture->pixels && texture->width > 0 && texture->height > 0 ? texture : nullptr;
@@ -96,12 +96,12 @@ void FaceList::addBrush(BrushDraw& draw) {
   draw.isSetUp = true;
   draw.firstFace = count();
   const BrushLook look = lookOf(b);
-  const FaceState state = b.selected ? FaceState::Selected : FaceState::Plain;
+  const FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
   // A previewed copy shows the current face of the brush that it stands for.
   const bool isCurrent =
       !look.fixedColour && currentBrush_ && (&b == currentBrush_ || b.source == currentBrush_);
   for (int i = 0; i < b.numfaces(); ++i) {
-    const FaceState faceState = isCurrent && i == b.currentFace ? FaceState::CurrentFace : state;
+    const FaceState faceState = isCurrent && i == b.currentFace() ? FaceState::CurrentFace : state;
     addFace(b, i, faceState, look, draw.rank + std::uint32_t(i), draw.onBorder);
   }
   draw.faceCount = count() - draw.firstFace;
@@ -109,7 +109,7 @@ void FaceList::addBrush(BrushDraw& draw) {
 
 void FaceList::addFace(brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
                        bool onBorder) {
-  face& f = b.faces[size_t(index)];
+  const face& f = b.faces()[size_t(index)];
   if (!VisiblePolygon(*view_, f, onBorder, polygon_, scratch_)) return;
   FaceDraw draw;
   if (!MakeOutline(view_->projection, polygon_, edges_, draw.outline)) return;
@@ -128,7 +128,7 @@ const std::uint8_t* FaceList::shadesOf(const face& f, const BrushLook& look) con
   return scene_->assets.colormap + std::clamp(row, 0, 63) * kColours;
 }
 
-Paint FaceList::paintOf(face& f, FaceState state, const BrushLook& look) const {
+Paint FaceList::paintOf(const face& f, FaceState state, const BrushLook& look) const {
   Paint paint;
   paint.shades = shadesOf(f, look);
   paint.outlined = state != FaceState::Plain || scene_->settings.outline;

@@ -34,7 +34,7 @@ class FaceList {
   FaceDraw& operator[](std::uint32_t number) { return faces_[number]; }
 
  private:
-  Paint paintOf(face& f, FaceState state, const BrushLook& look) const;
+  Paint paintOf(const face& f, FaceState state, const BrushLook& look) const;
   const std::uint8_t* shadesOf(const face& f, const BrushLook& look) const;
 
   const RenderScene* scene_ = nullptr;

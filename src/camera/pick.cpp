@@ -17,7 +17,7 @@ class Picker {
     if (!culler_.place(b, draw)) return;
     if (px_ < draw.left || px_ >= draw.right || py_ < draw.top || py_ >= draw.bottom) return;
     for (int i = 0; i < b.numfaces(); ++i) {
-      const std::optional<float> w = depthAt(b.faces[size_t(i)], draw.onBorder);
+      const std::optional<float> w = depthAt(b.faces()[size_t(i)], draw.onBorder);
       if (!w || !(best_ <= *w)) continue;
       best_ = *w;
       pick_ = {&b, i};

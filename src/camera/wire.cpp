@@ -122,7 +122,7 @@ class WirePlotter {
 };
 
 void DrawBrush(Canvas& canvas, WirePlotter& plotter, const brush& b, Colour colour) {
-  for (const face& f : b.faces) {
+  for (const face& f : b.faces()) {
     if (!f.polygon) continue;
     const std::vector<Pixel>& outline = plotter.plot(*f.polygon);
     if (outline.size() >= 3) canvas.devicePolygon({colour, 1}, outline);
@@ -161,7 +161,7 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Setting
     const Colour colour = selected ? settings.colours.color_selection : settings.colours.fgcolor;
     for (const entity& e : m.entities()) {
       for (const brush& b : e.brushes()) {
-        if (b.selected == selected && IsDrawn(m, b)) DrawBrush(canvas, plotter, b, colour);
+        if (b.selected() == selected && IsDrawn(m, b)) DrawBrush(canvas, plotter, b, colour);
       }
     }
   }
@@ -183,7 +183,7 @@ brush* PickWireBrush(RenderSize canvasSize, map& m, const Settings& settings, co
     for (brush& b : e.brushes()) {
       if (!IsDrawn(m, b)) continue;
       double distance = std::numeric_limits<double>::infinity();
-      for (const face& f : b.faces) {
+      for (const face& f : b.faces()) {
         if (f.polygon) distance = std::min(distance, DistanceTo(at, plotter.plot(*f.polygon)));
       }
       const double depth = DistanceFromEye(m, b);

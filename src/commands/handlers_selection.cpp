@@ -27,9 +27,9 @@ void cycleHit(Editor& editor, int step, const char* text) {
   HitList& hits = m->hits;
   if (hits.current >= 0 && hits.current < hits.count) {
     const auto old = static_cast<size_t>(hits.current);
-    hits.brushes[old]->selected = hits.saved[old];
+    hits.brushes[old]->select(hits.saved[old]);
     hits.current = (hits.current + step + hits.count) % hits.count;
-    hits.brushes[static_cast<size_t>(hits.current)]->selected = true;
+    hits.brushes[static_cast<size_t>(hits.current)]->select(true);
   }
   editor.flagAllViews();
   editor.postStatus(text);
@@ -91,7 +91,7 @@ void toggleHitBrush(Editor& editor, int number) {
   if (!m) return;
   if (number < m->hits.count) {
     brush& hit = *m->hits.brushes[static_cast<size_t>(number)];
-    hit.selected = !hit.selected;
+    hit.select(!hit.selected());
   }
   m->hits.current = number;
   editor.flagAllViews();
@@ -101,7 +101,7 @@ void toggleHitBrush(Editor& editor, int number) {
 void selectAllHits(Editor& editor) {
   map* m = editor.currentMap();
   if (!m) return;
-  for (int i = 0; i < m->hits.count; ++i) m->hits.brushes[static_cast<size_t>(i)]->selected = true;
+  for (int i = 0; i < m->hits.count; ++i) m->hits.brushes[static_cast<size_t>(i)]->select(true);
   editor.flagAllViews();
   editor.postStatus("Selecting all hit brushes...");
 }

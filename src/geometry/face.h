@@ -15,11 +15,11 @@ struct face {
   vec3 planepts[3];
   texturedef texture;
 
-  plane facePlane;                    // derived; its normal points out of the brush
-  float shade = 0;                    // derived, 0..1
-  const winding* polygon = nullptr;   // derived, in the brush's store; none when degenerate, repeated or
-                                      // clipped away
-  std::unique_ptr<TextureRef> cache;  // filled by the camera view, dropped with the polygon
+  plane facePlane;                   // derived; its normal points out of the brush
+  float shade = 0;                   // derived, 0..1
+  const winding* polygon = nullptr;  // derived, in the brush's store; none when degenerate, repeated or
+                                     // clipped away
+  mutable std::unique_ptr<TextureRef> cache;  // filled by the camera view, dropped with the polygon
 
   // What projecting the texture leaves in the face: the shade, and 1 in place of a scale of 0.
   void takeProjection(float axesShade) {

@@ -79,11 +79,11 @@ void FitToClass(entity& e, MapText& text) {
   }
   if (entityClass.fixedSize) {
     e.makeClassBox(origin);
-    e.at(0)->group = CapturedGroup(text, e.parent());
+    e.at(0)->setGroup(CapturedGroup(text, e.parent()));
   } else {
     e.isModel = true;
   }
-  for (brush& b : e.brushes()) b.color = {entityClass.color[0], entityClass.color[1], entityClass.color[2]};
+  for (brush& b : e.brushes()) b.setColor({entityClass.color[0], entityClass.color[1], entityClass.color[2]});
 }
 
 // Nothing of a file may go unnoticed: text ends at its first NUL byte, so only NULs may follow it.
@@ -178,7 +178,7 @@ void ReadEntities(map& m, MapText& text, const std::string& name) {
 }
 
 void SelectBrushes(entity& e) {
-  for (brush& b : e.brushes()) b.selected = true;
+  for (brush& b : e.brushes()) b.select(true);
 }
 
 // Moves the brushes of a merged file's world into the map's, in their order.
@@ -189,7 +189,7 @@ void MoveBrushes(entity& from, entity& world) {
   for (brush* b : order) {
     std::unique_ptr<brush> moved = from.removeObject(b, nullptr);
     moved->owner = &world;
-    moved->color = {worldClass.color[0], worldClass.color[1], worldClass.color[2]};
+    moved->setColor({worldClass.color[0], worldClass.color[1], worldClass.color[2]});
     world.addobject(std::move(moved));
   }
 }
@@ -224,8 +224,8 @@ void Report(const MapReadOptions& options, const char* format, const std::string
 
 void initFromTokens(brush& b, entity& owner, MapText& text) {
   b.owner = &owner;
-  b.faces.clear();
-  b.faces.reserve(kFacesOfABox);
+  b.editFaces().clear();
+  b.editFaces().reserve(kFacesOfABox);
   Tokenizer& tokens = text.tokens;
   int faceLine = 0;
   for (;;) {
@@ -235,10 +235,10 @@ void initFromTokens(brush& b, entity& owner, MapText& text) {
     }
     if (IsMark(tokens, '}')) break;
     if (IsZeroAfterFace(tokens, faceLine)) continue;
-    b.group = CapturedGroup(text, owner.parent());
+    b.setGroup(CapturedGroup(text, owner.parent()));
     if (!IsMark(tokens, '(')) Error("parsing map file");
     if (b.numfaces() == MAX_FACES) Error("Line %i: brush with more than %i faces", tokens.line(), MAX_FACES);
-    text.result.cutPoints += ReadFace(tokens, b.faces.emplace_back());
+    text.result.cutPoints += ReadFace(tokens, b.editFaces().emplace_back());
     faceLine = tokens.line();
   }
   if (text.options.build) b.buildWindings();

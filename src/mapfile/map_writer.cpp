@@ -95,7 +95,7 @@ void WriteBrushes(entity& e, TextOut& out, bool withGroup, Wanted&& wanted) {
 }
 
 bool InGroup(const map& m, const brush& b, int group) {
-  return group < 0 ? m.groups.passes(b.group) : b.group == group;
+  return group < 0 ? m.groups.passes(b.group()) : b.group() == group;
 }
 
 void ExportEntity(entity& e, int group, TextOut& out) {
@@ -119,19 +119,19 @@ MapWriteResult Replace(const Paths& paths, const std::string& name, const std::s
 
 void write(const brush& b, TextOut& out, bool withGroup) {
   out.line("{");
-  if (withGroup) WriteGroup(b.group, out);
-  for (const face& f : b.faces) WriteFace(f, out);
+  if (withGroup) WriteGroup(b.group(), out);
+  for (const face& f : b.faces()) WriteFace(f, out);
   out.line("}");
 }
 
 void write(entity& e, TextOut& out, const MapWriteOptions& options) {
-  const auto wanted = [&](const brush& b) { return !options.selectedOnly || b.selected; };
+  const auto wanted = [&](const brush& b) { return !options.selectedOnly || b.selected(); };
   if (options.selectedOnly && !AnyBrush(e, wanted)) {
     if (e.isWorld()) out.add("{\r\n}\r\n");
     return;
   }
   out.line("{");
-  if (const brush* box = BoxOf(e); box != nullptr && options.comments) WriteGroup(box->group, out);
+  if (const brush* box = BoxOf(e); box != nullptr && options.comments) WriteGroup(box->group(), out);
   UpdateOrigin(e);
   if (options.comments || !e.isWorld()) WritePairs(e, out);
   WriteBrushes(e, out, options.comments, wanted);

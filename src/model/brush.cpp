@@ -48,17 +48,17 @@ brush::brush(ObjectCounters* counters) : counters_(counters) {
 }
 
 brush::brush(const brush& other)
-    : selected(other.selected),
-      invalid(other.invalid),
+    : invalid(other.invalid),
       hidden(other.hidden),
       owner(other.owner),
       mins(other.mins),
       maxs(other.maxs),
-      color(other.color),
-      currentFace(other.currentFace),
-      group(other.group),
-      faces(other.faces),
       source(&other),
+      selected_(other.selected_),
+      currentFace_(other.currentFace_),
+      group_(other.group_),
+      color_(other.color_),
+      faces_(other.faces_),
       counters_(other.counters_) {
   if (counters_) ++counters_->brushesConstructed;
 }
@@ -70,12 +70,12 @@ brush::~brush() {
 
 const texturedef& brush::brushTexture() const {
   static const texturedef none;
-  return faces.empty() ? none : faces.front().texture;
+  return faces_.empty() ? none : faces_.front().texture;
 }
 
 void brush::initBox(entity& boxOwner, const vec3& boxMins, const vec3& boxMaxs, const texturedef& texture) {
   owner = &boxOwner;
-  color = ClassColour(boxOwner);
+  setColor(ClassColour(boxOwner));
   setBox(boxMins, boxMaxs, texture);
 }
 
@@ -84,15 +84,21 @@ std::weak_ptr<const void> brush::identity() {
   return identity_;
 }
 
+void brush::setColor(const vec3& color) {
+  if (VecEqual(color_, color)) return;
+  touch();
+  color_ = color;
+}
+
 void brush::setBox(const vec3& boxMins, const vec3& boxMaxs, const texturedef& texture) {
   if (boxMaxs.x - boxMins.x <= 0 || boxMaxs.y - boxMins.y <= 0 || boxMaxs.z - boxMins.z <= 0) {
     mins = boxMins;
     maxs = boxMaxs;
     invalid = true;
-    faces.clear();
+    editFaces().clear();
     return;
   }
-  faces = BoxFaces(boxMins, boxMaxs, texture);
+  editFaces() = BoxFaces(boxMins, boxMaxs, texture);
   buildWindings();
 }
 
@@ -100,49 +106,49 @@ void brush::setTexturedef(const texturedef& texture, int faceNumber) {
   if (faceNumber < 0 || faceNumber >= numfaces()) {
     Error("setTexturedef:forFace: bad face number %i", faceNumber);
   }
-  faces[static_cast<size_t>(faceNumber)].texture = texture;
+  editFaces()[static_cast<size_t>(faceNumber)].texture = texture;
   buildWindings();
 }
 
 void brush::setAllTexturedefs(const texturedef& texture) {
-  const texturedef taken = texture;  // it may be that of one of these faces
-  for (face& f : faces) f.texture = taken;
+  const texturedef taken = texture;  // it may be that of one of these faces_
+  for (face& f : editFaces()) f.texture = taken;
   buildWindings();
 }
 
 bool brush::addFace(const face& added) {
   if (numfaces() >= MAX_FACES) Error("addFace: numfaces == MAX_FACES");
   face taken = added;
-  if (!faces.empty()) taken.texture = faces.front().texture;
-  faces.push_back(std::move(taken));
+  if (!faces_.empty()) taken.texture = faces_.front().texture;
+  editFaces().push_back(std::move(taken));
   buildWindings();
-  std::erase_if(faces, [](const face& f) { return !f.polygon; });
-  currentFace = std::max(std::min(currentFace, numfaces() - 1), 0);
-  if (faces.size() < kFewestFaces) invalid = true;
-  return faces.size() >= kFewestFaces;
+  std::erase_if(faces_, [](const face& f) { return !f.polygon; });
+  currentFace_ = std::max(std::min(currentFace_, numfaces() - 1), 0);
+  if (faces_.size() < kFewestFaces) invalid = true;
+  return faces_.size() >= kFewestFaces;
 }
 
 void brush::reverseFaces() {
-  for (face& f : faces) std::swap(f.planepts[0], f.planepts[2]);
+  for (face& f : editFaces()) std::swap(f.planepts[0], f.planepts[2]);
   buildWindings();
 }
 
 void brush::translate(const vec3& offset) {
-  for (face& f : faces) {
+  for (face& f : editFaces()) {
     for (vec3& p : f.planepts) p = add(p, offset);
   }
   buildWindings();
 }
 
 void brush::transform(const float m[3][3], const vec3& centre) {
-  for (face& f : faces) {
+  for (face& f : editFaces()) {
     for (vec3& p : f.planepts) p = Transformed(p, m, centre);
   }
   buildWindings();
 }
 
 void brush::deselect() {
-  selected = false;
+  select(false);
   if (invalid) std::printf("WARNING: deselected invalid brush\n");
   if (!owner) return;
   owner->parent().setWorkLow(mins);

@@ -25,23 +25,37 @@ struct brush {
   // Takes the brush out of the hit list. It must have left its owner's list before.
   ~brush();
 
-  bool selected = false;
   bool invalid = false;     // no valid solid; see buildWindings
   bool hidden = false;      // left out by the view filter
   entity* owner = nullptr;  // the entity that holds this brush
   vec3 mins;                // bounds of all polygons, world units
   vec3 maxs;
-  vec3 color;           // of the owner's entity class, channels nominally 0..1
-  int currentFace = 0;  // 0..numfaces-1
-  int group = 0;
-  std::vector<face> faces;                 // at most MAX_FACES
   const brush* source = nullptr;           // in an undo copy: the live brush
   HitList* hits = nullptr;                 // the hit list that holds this brush, if any
   std::shared_ptr<const BrushShape> kept;  // of the last snapshot; may be out of date
   // Expires with the brush; made when first asked for.
   std::weak_ptr<const void> identity();
 
-  int numfaces() const { return static_cast<int>(faces.size()); }
+  bool selected() const { return selected_; }
+  void select(bool on = true) { set(selected_, on); }
+  int group() const { return group_; }
+  void setGroup(int group) { set(group_, group); }
+  int currentFace() const { return currentFace_; }  // 0..numfaces-1
+  void setCurrentFace(int face) { set(currentFace_, face); }
+  // Of the owner's entity class, channels nominally 0..1.
+  const vec3& color() const { return color_; }
+  void setColor(const vec3& color);
+
+  // At most MAX_FACES.
+  const std::vector<face>& faces() const { return faces_; }
+  // To change points, textures or the list; run buildWindings afterwards.
+  std::vector<face>& editFaces() {
+    touch();
+    return faces_;
+  }
+  int numfaces() const { return static_cast<int>(faces_.size()); }
+  // Something that a snapshot keeps is about to change.
+  void touch() {}
   // The texture of face 0; an empty definition when there is no face.
   const texturedef& brushTexture() const;
 
@@ -90,12 +104,23 @@ struct brush {
   RayClip clipRay(const vec3& start, const vec3& end) const;
 
  private:
+  template <typename T>
+  void set(T& field, T value) {
+    if (field == value) return;
+    touch();
+    field = value;
+  }
   int alignment() const;
   // Makes room in the store for polygons of so many bytes; what it held is gone.
   std::byte* polygonStore(size_t bytes);
 
   std::unique_ptr<std::byte[]> store_;  // one block with the polygons of all faces, kept for the next build
   size_t storeSize_ = 0;
+  bool selected_ = false;
+  int currentFace_ = 0;
+  int group_ = 0;
+  vec3 color_;
+  std::vector<face> faces_;
   ObjectCounters* counters_ = nullptr;
   std::shared_ptr<const int> identity_;
 };

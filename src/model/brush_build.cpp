@@ -134,9 +134,9 @@ struct Cuttings {
 };
 
 // Ends in the error that stopped the face's polygon, by the functions that report it.
-void Fail(face& f, const brush& b, int alignment) {
+void Fail(face& f, const std::vector<face>& faces, int alignment) {
   WindingPtr w = BasePolyForPlane(f, alignment);
-  for (const face& other : b.faces) {
+  for (const face& other : faces) {
     if (&other != &f && w) w = ClipWinding(std::move(w), Turned(other.facePlane));
   }
 }
@@ -175,12 +175,12 @@ size_t TotalSize(const Cuttings& cuttings) {
 
 // Hands the polygons over to the faces, one after the other in `store`, and widens the bounds; false at the
 // first that is not acceptable.
-bool HandOver(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bounds& bounds) {
+bool HandOver(Cuttings& cuttings, std::vector<face>& faces, std::byte* store, int alignment, Bounds& bounds) {
   for (int i = 0; i < cuttings.count; ++i) {
     Cutting& c = cuttings.all[i];
-    face& f = b.faces[size_t(c.face)];
+    face& f = faces[size_t(c.face)];
     f.takeProjection(c.shade);
-    if (c.fatal) Fail(f, b, alignment);
+    if (c.fatal) Fail(f, faces, alignment);
     if (c.count == 0) continue;
 
     winding* w = new (store) winding{c.count};
@@ -195,9 +195,9 @@ bool HandOver(Cuttings& cuttings, brush& b, std::byte* store, int alignment, Bou
   return true;
 }
 
-void FinishCuttings(Cuttings& cuttings, brush& b, std::byte* store, int alignment) {
+void FinishCuttings(Cuttings& cuttings, brush& b, std::vector<face>& faces, std::byte* store, int alignment) {
   Bounds bounds;
-  const bool acceptable = HandOver(cuttings, b, store, alignment, bounds);
+  const bool acceptable = HandOver(cuttings, faces, store, alignment, bounds);
   b.mins = Vector(bounds.mins);
   b.maxs = Vector(bounds.maxs);
   if (!acceptable || b.mins.x == kNoBound) {
@@ -207,10 +207,10 @@ void FinishCuttings(Cuttings& cuttings, brush& b, std::byte* store, int alignmen
 }
 
 // The same for a box, whose polygons are always acceptable.
-void FinishBox(AxialBox& box, brush& b, std::byte* store, int alignment) {
+void FinishBox(AxialBox& box, brush& b, std::vector<face>& faces, std::byte* store, int alignment) {
   LastTurn turn;
   for (int i = 0; i < AxialBox::kFaces; ++i) {
-    face& f = b.faces[size_t(i)];
+    face& f = faces[size_t(i)];
     const TextureAxes axes = TextureAxisFromPlane(f.facePlane.normal, alignment);
     f.takeProjection(axes.shade);
     box.project(i, f.texture, axes, turn.of(f.texture.rotate));
@@ -220,7 +220,7 @@ void FinishBox(AxialBox& box, brush& b, std::byte* store, int alignment) {
     winding* w = new (store) winding{4};
     store += StoredSize(4);
     box.store(i, w->points());
-    b.faces[size_t(i)].polygon = w;
+    faces[size_t(i)].polygon = w;
   }
   b.mins = box.mins();
   b.maxs = box.maxs();
@@ -239,21 +239,21 @@ std::byte* brush::polygonStore(size_t bytes) {
 void brush::buildWindings() {
   if (numfaces() > MAX_FACES) Error("addFace: numfaces == MAX_FACES");
   invalid = false;
-  currentFace = std::max(std::min(currentFace, numfaces() - 1), 0);
-  for (face& f : faces) {
+  currentFace_ = std::max(std::min(currentFace_, numfaces() - 1), 0);
+  for (face& f : faces_) {
     f.polygon = nullptr;
     f.cache.reset();
   }
   BrushPlanes planes;
-  MakePlanes(faces, planes);
-  if (AxialBox box; box.take(faces)) {
-    FinishBox(box, *this, polygonStore(AxialBox::kFaces * StoredSize(4)), alignment());
+  MakePlanes(faces_, planes);
+  if (AxialBox box; box.take(faces_)) {
+    FinishBox(box, *this, faces_, polygonStore(AxialBox::kFaces * StoredSize(4)), alignment());
   } else {
-    PrepareCuts(faces, planes);
+    PrepareCuts(faces_, planes);
     Cuttings cuttings;
-    cuttings.addAll(faces, planes, alignment());
+    cuttings.addAll(faces_, planes, alignment());
     cuttings.cutAll(planes);
-    FinishCuttings(cuttings, *this, polygonStore(TotalSize(cuttings)), alignment());
+    FinishCuttings(cuttings, *this, faces_, polygonStore(TotalSize(cuttings)), alignment());
   }
 }
 

@@ -15,7 +15,7 @@ vec3 Between(const vec3& from, const vec3& to, double fraction) {
 brush::RayClip brush::clipRay(const vec3& start, const vec3& end) const {
   RayClip ray{start, end};
   for (int i = 0; i < numfaces(); ++i) {
-    const face& f = faces[static_cast<size_t>(i)];
+    const face& f = faces_[static_cast<size_t>(i)];
     if (!f.polygon) continue;
     const double d1 = distanceTo(f.facePlane, ray.p1);
     const double d2 = distanceTo(f.facePlane, ray.p2);

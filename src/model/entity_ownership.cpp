@@ -29,7 +29,7 @@ void MoveToEntity(brush& b, entity& target) {
   // A brush that is its target's only one must not take the target with it.
   std::unique_ptr<brush> moved = TakeOut(b, b.owner != &target);
   if (!moved) return;
-  moved->color = ClassColour(target);
+  moved->setColor(ClassColour(target));
   target.addobject(std::move(moved)).buildWindings();
 }
 

@@ -13,7 +13,7 @@ void HitList::clear() {
 void HitList::add(brush& b) {
   if (count == kMax) return;
   brushes[size_t(count)] = &b;
-  saved[size_t(count)] = b.selected;
+  saved[size_t(count)] = b.selected();
   ++count;
   b.hits = this;
 }

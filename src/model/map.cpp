@@ -65,7 +65,7 @@ void map::setCurrentEntity(entity* e) {
 brush* map::firstSelected() {
   const auto selectedOf = [](const entity& e) -> brush* {
     for (brush& b : e.brushes()) {
-      if (b.selected) return &b;
+      if (b.selected()) return &b;
     }
     return nullptr;
   };
@@ -102,7 +102,7 @@ vec3 map::selectionCentre() {
   vec3 high{-kNoBound, -kNoBound, -kNoBound};
   for (const entity& e : entities()) {
     for (const brush& b : e.brushes()) {
-      if (!passesGroupFilter(b) || (selectedOnly && !b.selected)) continue;
+      if (!passesGroupFilter(b) || (selectedOnly && !b.selected())) continue;
       WidenBounds(low, high, b);
     }
   }

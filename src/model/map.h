@@ -129,7 +129,7 @@ class map {
   void setWorkRange(const vec3& low, const vec3& high);
 
   // In group mode, whether the brush's group is visible; otherwise true.
-  bool passesGroupFilter(const brush& b) const { return !settings_.groupmode || groups.passes(b.group); }
+  bool passesGroupFilter(const brush& b) const { return !settings_.groupmode || groups.passes(b.group()); }
   // What the view filter says of the brush.
   bool isFiltered(const brush& b) const;
 

@@ -37,7 +37,7 @@ void Run(Method method, map& m, brush& b) {
   PerformValues& v = m.perform;
   switch (method) {
     case Method::Deselect:
-      b.selected = false;
+      b.select(false);
       break;
     case Method::WidenBounds:
       if (b.numfaces() > 3) WidenBounds(v.boundsMins, v.boundsMaxs, b);
@@ -55,10 +55,10 @@ void Run(Method method, map& m, brush& b) {
       DestroyBrush(b);
       break;
     case Method::SelectInside:
-      if (Inside(b, v)) b.selected = true;
+      if (Inside(b, v)) b.select(true);
       break;
     case Method::SelectTouching:
-      if (Overlaps(b, v)) b.selected = true;
+      if (Overlaps(b, v)) b.select(true);
       break;
     case Method::Cut:
       RunCutting(v.cut, b);
@@ -70,7 +70,7 @@ void Run(Method method, map& m, brush& b) {
       RunOther(v.floorSearch, b);
       break;
     case Method::Select:
-      b.selected = true;
+      b.select(true);
       break;
     case Method::Draw:
       RunOther(v.draw, b);
@@ -110,11 +110,11 @@ void map::performOver(Method method, const char* dispatcher, Filter&& filter) {
 }
 
 void map::MUSPerform(Method method) {
-  performOver(method, "MUSPerform", [this](const brush& b) { return !b.selected && passesGroupFilter(b); });
+  performOver(method, "MUSPerform", [this](const brush& b) { return !b.selected() && passesGroupFilter(b); });
 }
 
 void map::MSPerform(Method method) {
-  performOver(method, "MSPerform", [this](const brush& b) { return b.selected && passesGroupFilter(b); });
+  performOver(method, "MSPerform", [this](const brush& b) { return b.selected() && passesGroupFilter(b); });
 }
 
 void map::MAPerform(Method method) {

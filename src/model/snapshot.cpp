@@ -19,8 +19,8 @@ bool same(const face& a, const face& b) {
 }
 
 bool same(const brush& b, const BrushShape& shape) {
-  return b.group == shape.group && VecEqual(b.color, shape.color) &&
-         std::equal(b.faces.begin(), b.faces.end(), shape.faces.begin(), shape.faces.end(),
+  return b.group() == shape.group && VecEqual(b.color(), shape.color) &&
+         std::equal(b.faces().begin(), b.faces().end(), shape.faces.begin(), shape.faces.end(),
                     [](const face& x, const face& y) { return same(x, y); });
 }
 
@@ -58,12 +58,12 @@ bool same(const group& a, const group& b) {
 
 std::shared_ptr<const BrushShape> shapeOf(brush& b) {
   if (!b.kept || !same(b, *b.kept)) {
-    b.kept = std::make_shared<BrushShape>(BrushShape{b.faces, b.color, b.group});
+    b.kept = std::make_shared<BrushShape>(BrushShape{b.faces(), b.color(), b.group()});
   }
   return b.kept;
 }
 
-KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace, b.selected, b.hidden}; }
+KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected(), b.hidden}; }
 
 // The value itself, or the earlier one when that is equal, so that both snapshots share it.
 template <typename T>
@@ -110,8 +110,8 @@ std::unique_ptr<brush> fromPool(BrushPool& pool, const KeptBrush& kept, entity& 
   if (found == pool.end()) return RestoreBrush(owner, kept);
   std::unique_ptr<brush> unchanged = std::move(found->second);
   pool.erase(found);
-  unchanged->currentFace = kept.currentFace;
-  unchanged->selected = kept.selected;
+  unchanged->setCurrentFace(kept.currentFace);
+  unchanged->select(kept.selected);
   unchanged->hidden = kept.hidden;
   return unchanged;
 }
@@ -137,12 +137,12 @@ KeptEntity KeepBrush(const entity& owner, brush& b) {
 std::unique_ptr<brush> RestoreBrush(entity& owner, const KeptBrush& kept) {
   auto made = std::make_unique<brush>(owner.parent().counters());
   made->owner = &owner;
-  made->faces = kept.shape->faces;
-  made->color = kept.shape->color;
-  made->group = kept.shape->group;
+  made->editFaces() = kept.shape->faces;
+  made->setColor(kept.shape->color);
+  made->setGroup(kept.shape->group);
   made->kept = kept.shape;
-  made->currentFace = kept.currentFace;
-  made->selected = kept.selected;
+  made->setCurrentFace(kept.currentFace);
+  made->select(kept.selected);
   made->hidden = kept.hidden;
   made->buildWindings();
   return made;

@@ -32,7 +32,7 @@ std::unique_ptr<brush> copyInto(entity& owner, const brush& b, const vec3& offse
 
 bool anySelected(const entity& e) {
   const auto brushes = e.brushes();
-  return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected; });
+  return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected(); });
 }
 
 bool hasTarget(map& m, const entity& except, const std::string& name) {
@@ -67,11 +67,11 @@ void CopySelection(map& from, map& clipboard) {
   clipboard.addobject(std::move(world));
   for (int i = from.world()->numbrushes(); i-- > 0;) {
     const brush& b = *from.world()->at(i);
-    if (b.selected) clipboard.world()->addobject(copyInto(*clipboard.world(), b, {}));
+    if (b.selected()) clipboard.world()->addobject(copyInto(*clipboard.world(), b, {}));
   }
   for (int i = 1; i < from.numentities(); ++i) {
     const entity& e = *from.at(i);
-    if (e.at(0) && e.at(0)->selected) clipboard.addobject(e.copy(clipboard, entity::Copy::Rebuilt));
+    if (e.at(0) && e.at(0)->selected()) clipboard.addobject(e.copy(clipboard, entity::Copy::Rebuilt));
   }
   clipboard.MGPerform(Method::Select);
   clipboard.setCurrentEntity(clipboard.world());
@@ -84,16 +84,16 @@ void PasteClipboard(map& to, map& clipboard, int group, const vec3& offset) {
   const std::int64_t base = 1 + largestTargetNumber(to);
   for (const brush& b : clipboard.world()->brushes()) {
     brush& pasted = to.world()->addobject(copyInto(*to.world(), b, offset));
-    pasted.selected = true;
-    pasted.group = group;
+    pasted.select(true);
+    pasted.setGroup(group);
   }
   for (int i = 1; i < clipboard.numentities(); ++i) {
     entity& pasted = to.addobject(clipboard.at(i)->copy(to, entity::Copy::Rebuilt));
     renumber(pasted, "targetname", base);
     renumber(pasted, "target", base);
     for (brush& b : pasted.brushes()) {
-      b.selected = true;
-      b.group = group;
+      b.select(true);
+      b.setGroup(group);
       b.translate(offset);
     }
   }
@@ -106,10 +106,10 @@ void CloneSelection(map& m, const vec3& offset) {
   const int brushes = m.world()->numbrushes();
   for (int i = 0; i < brushes; ++i) {
     brush& b = *m.world()->at(i);
-    if (!b.selected) continue;
+    if (!b.selected()) continue;
     brush& clone = m.world()->addobject(copyInto(*m.world(), b, offset));
-    clone.selected = true;
-    b.selected = false;
+    clone.select(true);
+    b.select(false);
     current = m.world();
   }
   entity* last = nullptr;
@@ -118,9 +118,9 @@ void CloneSelection(map& m, const vec3& offset) {
     entity& e = *m.at(i);
     if (!anySelected(e)) continue;
     last = &m.addobject(e.copy(m, entity::Copy::Rebuilt));
-    for (brush& b : e.brushes()) b.selected = false;
+    for (brush& b : e.brushes()) b.select(false);
     for (brush& b : last->brushes()) {
-      b.selected = true;
+      b.select(true);
       b.translate(offset);
     }
   }

@@ -16,19 +16,20 @@ void ForEachBrush(map& m, Visit&& visit) {
   }
 }
 
+bool UsesTexture(const brush& b, std::string_view name) {
+  return std::ranges::any_of(b.faces(), [&](const face& f) { return EqualNoCase(f.texture.name, name); });
+}
+
 int RenameFaces(brush& b, std::string_view from, const std::string& to) {
+  if (!UsesTexture(b, from)) return 0;
   int renamed = 0;
-  for (face& f : b.faces) {
+  for (face& f : b.editFaces()) {
     if (!EqualNoCase(f.texture.name, from)) continue;
     f.texture.name = to;
     ++renamed;
   }
-  if (renamed > 0) b.buildWindings();
+  b.buildWindings();
   return renamed;
-}
-
-bool UsesTexture(const brush& b, std::string_view name) {
-  return std::ranges::any_of(b.faces, [&](const face& f) { return EqualNoCase(f.texture.name, name); });
 }
 
 }  // namespace
@@ -36,8 +37,8 @@ bool UsesTexture(const brush& b, std::string_view name) {
 bool SetFaceTexture(map& m, const texturedef& definition) {
   brush* b = m.firstSelected();
   if (!b) return false;
-  if (b->currentFace >= b->numfaces()) Error("BnSetFaceTexture:  Bad face %i", b->currentFace);
-  b->setTexturedef(definition, b->currentFace);
+  if (b->currentFace() >= b->numfaces()) Error("BnSetFaceTexture:  Bad face %i", b->currentFace());
+  b->setTexturedef(definition, b->currentFace());
   m.modified = true;
   return true;
 }
@@ -45,7 +46,7 @@ bool SetFaceTexture(map& m, const texturedef& definition) {
 int SetBrushTexture(map& m, const texturedef& definition) {
   int changed = 0;
   ForEachBrush(m, [&](brush& b) {
-    if (!b.selected) return;
+    if (!b.selected()) return;
     b.setAllTexturedefs(definition);
     ++changed;
   });
@@ -56,14 +57,14 @@ int SetBrushTexture(map& m, const texturedef& definition) {
 bool StepCurrentFace(map& m, int direction) {
   brush* b = m.firstSelected();
   if (!b || b->numfaces() == 0) return false;
-  b->currentFace = (b->currentFace + direction + b->numfaces()) % b->numfaces();
+  b->setCurrentFace((b->currentFace() + direction + b->numfaces()) % b->numfaces());
   return true;
 }
 
 bool ChooseCurrentFace(map& m, int index) {
   brush* b = m.firstSelected();
   if (!b || b->numfaces() == 0) return false;
-  b->currentFace = std::clamp(index, 0, b->numfaces() - 1);
+  b->setCurrentFace(std::clamp(index, 0, b->numfaces() - 1));
   return true;
 }
 
@@ -83,15 +84,15 @@ ReplacedTextures ReplaceTexture(map& m, std::string_view from, std::string_view 
 int SelectByTexture(map& m, std::string_view name) {
   int found = 0;
   ForEachBrush(m, [&](brush& b) {
-    if (b.selected || !m.passesGroupFilter(b) || !UsesTexture(b, name)) return;
-    b.selected = true;
+    if (b.selected() || !m.passesGroupFilter(b) || !UsesTexture(b, name)) return;
+    b.select(true);
     ++found;
   });
   return found;
 }
 
 std::string FaceListLine(const brush& b, int index) {
-  const texturedef& t = b.faces[static_cast<size_t>(index)].texture;
+  const texturedef& t = b.faces()[static_cast<size_t>(index)].texture;
   return Format("(%i)\t%s\t%i/%i\t%i\t%2.1f/%2.1f", index, t.name.c_str(), Truncate(t.shift[0]),
                 Truncate(t.shift[1]), Truncate(t.rotate), static_cast<double>(t.scale[0]),
                 static_cast<double>(t.scale[1]));

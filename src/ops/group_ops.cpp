@@ -16,14 +16,14 @@ void ForEachBrush(map& m, Action&& action) {
 
 void MoveBrushes(map& m, int from, int to) {
   ForEachBrush(m, [&](brush& b) {
-    if (b.group == from) b.group = to;
+    if (b.group() == from) b.setGroup(to);
   });
 }
 
 }  // namespace
 
 void ClearGroups(map& m) {
-  if (m.groups.count() > 1) ForEachBrush(m, [](brush& b) { b.group = 0; });
+  if (m.groups.count() > 1) ForEachBrush(m, [](brush& b) { b.setGroup(0); });
   m.groups.clear();
 }
 
@@ -42,14 +42,14 @@ void ReassignGroup(map& m, int from, int to) {
 void SelectAllInGroup(map& m, int index) {
   if (!Has(m, index)) return;
   ForEachBrush(m, [&](brush& b) {
-    if (b.group == index) b.selected = true;
+    if (b.group() == index) b.select(true);
   });
 }
 
 void CountGroupBrushes(map& m) {
   std::vector<int> counts(size_t(m.groups.count()));
   ForEachBrush(m, [&](const brush& b) {
-    if (Has(m, b.group)) ++counts[size_t(b.group)];
+    if (Has(m, b.group())) ++counts[size_t(b.group())];
   });
   for (int i = 0; i < m.groups.count(); ++i) m.groups.setBrushCount(i, counts[size_t(i)]);
 }
@@ -57,7 +57,7 @@ void CountGroupBrushes(map& m) {
 void map::assignGroupOfSelected(int index) {
   if (!Has(*this, index)) return;
   ForEachBrush(*this, [&](brush& b) {
-    if (b.selected) b.group = index;
+    if (b.selected()) b.setGroup(index);
   });
 }
 

@@ -10,7 +10,7 @@ void AddSeed(map& m, const vec3& at) {
   texture.name = "entity";
   auto seed = std::make_unique<brush>(m.counters());
   seed->initBox(*m.world(), at, add(at, {kSeedSize, kSeedSize, kSeedSize}), texture);
-  seed->selected = true;
+  seed->select(true);
   m.world()->addobject(std::move(seed));
 }
 
@@ -36,7 +36,7 @@ MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> se
   m.modified = true;
   if (fixedSize) {
     m.MSPerform(Method::Delete);
-    made->at(0)->selected = true;
+    made->at(0)->select(true);
   } else {
     TakeSelection(m, *made);
     // In group mode all of the selection may be out of reach.

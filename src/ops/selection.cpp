@@ -74,17 +74,17 @@ RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFir
   if (!best.hit) return {};
   brush& b = *best.hit;
   m.modified = true;
-  b.currentFace = best.face;
+  b.setCurrentFace(best.face);
   if (b.owner != m.currentEntity()) {
     if (!m.settings().multi_select) m.MGPerform(Method::Deselect);
     m.setCurrentEntity(b.owner);
   }
   RayPick pick{&b, best.face, false};
-  if (b.selected) {
+  if (b.selected()) {
     b.deselect();
   } else {
     pick.firstOfSelection = m.totalSelected() == 0;
-    b.selected = true;
+    b.select(true);
   }
   return pick;
 }

@@ -19,7 +19,9 @@ constexpr int kIndexHeight = 12;     // of the numbers of hit brushes
 
 int channel(float value) { return std::clamp(Truncate(double(value) * 255), 0, 255); }
 
-Colour classColour(const brush& b) { return {channel(b.color.x), channel(b.color.y), channel(b.color.z)}; }
+Colour classColour(const brush& b) {
+  return {channel(b.color().x), channel(b.color().y), channel(b.color().z)};
+}
 
 vec3 middle(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
 
@@ -51,7 +53,7 @@ class BrushPainter {
   void drawBrush(const entity& owner, const brush& b) {
     if (!shown(map_, b)) return;
     const brush* drawn = &b;
-    if (b.selected && p_.scene.preview) {
+    if (b.selected() && p_.scene.preview) {
       if (const brush* preview = p_.scene.preview(b)) drawn = preview;
     }
     // An invalid brush has no bounds but may still have polygons.
@@ -66,16 +68,16 @@ class BrushPainter {
 
   Pen penOf(const entity& owner, const brush& b) const {
     const ViewColours& colours = p_.colours;
-    if (b.selected) return {colours.color_selection, kSelectionWidth};
+    if (b.selected()) return {colours.color_selection, kSelectionWidth};
     if (&owner == current_) {
-      return {p_.settings.groupmode ? map_.groups.colour(b.group) : colours.fgcolor, 1};
+      return {p_.settings.groupmode ? map_.groups.colour(b.group()) : colours.fgcolor, 1};
     }
     if (!worldIsCurrent_) return {colours.color_otherbrush, 1};
     return {classColour(b), 1};
   }
 
   void drawTurnedFaces(const brush& b, const Pen& pen) {
-    for (const face& f : b.faces) {
+    for (const face& f : b.faces()) {
       if (!f.polygon || f.facePlane.normal[p_.view.axisDepth] * towards_ > kFacing) continue;
       p_.outline(pen, f.polygon->points(), f.polygon->count);
     }
@@ -84,15 +86,15 @@ class BrushPainter {
   // Every face, the current one on top.
   void drawWhole(const brush& b, const Pen& pen) {
     for (int i = 0; i < b.numfaces(); ++i) {
-      if (i != b.currentFace) drawFace(b, i, pen);
+      if (i != b.currentFace()) drawFace(b, i, pen);
     }
-    if (b.currentFace < b.numfaces()) {
-      drawFace(b, b.currentFace, {p_.colours.color_curfacecolor, kSelectionWidth});
+    if (b.currentFace() < b.numfaces()) {
+      drawFace(b, b.currentFace(), {p_.colours.color_curfacecolor, kSelectionWidth});
     }
   }
 
   void drawFace(const brush& b, int index, const Pen& pen) {
-    const face& f = b.faces[static_cast<size_t>(index)];
+    const face& f = b.faces()[static_cast<size_t>(index)];
     if (f.polygon) p_.outline(pen, f.polygon->points(), f.polygon->count);
   }
 
@@ -140,7 +142,7 @@ void drawHits(ViewPainter& painter) {
   for (int i = 0; i < m.hits.count; ++i) {
     const brush* hit = m.hits.brushes[static_cast<size_t>(i)];
     if (!hit || !painter.sees(hit->mins, hit->maxs)) continue;
-    for (const face& f : hit->faces) {
+    for (const face& f : hit->faces()) {
       if (f.polygon) painter.outline(pen, f.polygon->points(), f.polygon->count);
     }
     const Pixel at = painter.projection.worldToScreen(middle(*hit));

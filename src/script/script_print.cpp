@@ -53,7 +53,7 @@ Lines selectionLines(const map& m) {
   Lines lines;
   for (const entity& e : m.entities()) {
     for (const brush& b : e.brushes()) {
-      if (!b.selected) continue;
+      if (!b.selected()) continue;
       lines.push_back(Format("%d %d %s %s %d %s", m.indexOf(&e), e.indexOf(&b), vectorText(b.mins).c_str(),
                              vectorText(b.maxs).c_str(), b.numfaces(), b.brushTexture().name.c_str()));
     }
@@ -68,10 +68,10 @@ std::string eyeText(const map& m) {
 }
 
 std::string faceText(const brush& b) {
-  if (b.currentFace < 0 || b.currentFace >= b.numfaces())
+  if (b.currentFace() < 0 || b.currentFace() >= b.numfaces())
     throw ScriptFailure("the brush has no current face");
-  return Format("%d %s", b.currentFace,
-                textureText(b.faces[static_cast<size_t>(b.currentFace)].texture).c_str());
+  return Format("%d %s", b.currentFace(),
+                textureText(b.faces()[static_cast<size_t>(b.currentFace())].texture).c_str());
 }
 
 std::string pickText(Editor& editor, Pixel at) {
@@ -147,10 +147,10 @@ Lines groupLines(const map& m) {
   std::vector<Count> counts(static_cast<size_t>(m.groups.count()));
   for (const entity& e : m.entities()) {
     for (const brush& b : e.brushes()) {
-      if (b.group < 0 || b.group >= m.groups.count()) continue;
-      Count& count = counts[static_cast<size_t>(b.group)];
+      if (b.group() < 0 || b.group() >= m.groups.count()) continue;
+      Count& count = counts[static_cast<size_t>(b.group())];
       ++count.brushes;
-      count.selected += b.selected ? 1 : 0;
+      count.selected += b.selected() ? 1 : 0;
     }
   }
   Lines lines;

@@ -146,7 +146,7 @@ void CountUses(const map& m, TextureSet& set) {
   for (int i = 0; i < set.count(); ++i) set.at(i).useCount = 0;
   for (const entity& e : m.entities()) {
     for (const brush& b : e.brushes()) {
-      for (const face& f : b.faces) {
+      for (const face& f : b.faces()) {
         const int place = set.indexOf(f.texture.name);
         if (place >= 0) ++set.at(place).useCount;
       }
@@ -177,7 +177,7 @@ void recalculateFrequents(const map& m, TextureSet& set) {
 void DropTextureCaches(map& m) {
   for (entity& e : m.entities()) {
     for (brush& b : e.brushes()) {
-      for (face& f : b.faces) f.cache.reset();
+      for (const face& f : b.faces()) f.cache.reset();
     }
   }
 }

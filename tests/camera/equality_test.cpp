@@ -70,15 +70,15 @@ class RandomScene : public TestScene {
     } else {
       made = &boxIn(below(6) ? world() : *door_, low, high, texture);
     }
-    made->selected = below(10) == 0;
-    made->currentFace = below(5);
+    made->select(below(10) == 0);
+    made->setCurrentFace(below(5));
     texturedef definition = test::Texture(texture);
     definition.rotate = float(below(4)) * 30;
     definition.scale[0] = float(below(5) - 2) / 2;
     definition.scale[1] = float(below(5) - 2) / 2;
     definition.shift[0] = float(below(100000) - 50000) * (below(3) ? 1.0f : 40000.0f);
     made->setAllTexturedefs(definition);
-    if (below(20) == 0) made->faces[size_t(below(5))].polygon = nullptr;
+    if (below(20) == 0) made->editFaces()[size_t(below(5))].polygon = nullptr;
   }
 
   std::mt19937 random_;

@@ -91,7 +91,7 @@ TEST(Movement, GoesToTheNextFloor) {
   for (const float top : {128.0f, 0.0f, 64.0f}) t.box({-64, -64, top - 8}, {64, 64, top});
   t.box({100, 100, 80}, {200, 200, 90});
   t.settings.groupmode = true;
-  t.box({-64, -64, 10}, {64, 64, 20}).group = 9;
+  t.box({-64, -64, 10}, {64, 64, 20}).setGroup(9);
   t.m.modified = false;
   for (const auto& c : cases) {
     t.m.activeCamera().origin = {0, 0, c.eye};

@@ -82,11 +82,11 @@ void ReferenceRenderer::renderFrame(const RenderScene& scene, RenderSize size) {
 
 void ReferenceRenderer::renderBrush(const RenderScene& scene, brush& b) {
   if (scene.model.isFiltered(b) || !scene.model.passesGroupFilter(b)) return;
-  brush* shape = b.selected && scene.preview ? scene.preview(b) : nullptr;
+  brush* shape = b.selected() && scene.preview ? scene.preview(b) : nullptr;
   if (!shape) shape = &b;
   for (int i = 0; i < shape->numfaces(); ++i) {
-    FaceState state = b.selected ? FaceState::Selected : FaceState::Plain;
-    const bool isCurrent = &b == scene.model.firstSelected() && i == shape->currentFace;
+    FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
+    const bool isCurrent = &b == scene.model.firstSelected() && i == shape->currentFace();
     if (isCurrent && b.owner->isModel) state = FaceState::CurrentFace;
     renderFace(scene, *shape, i, state);
   }
@@ -94,7 +94,7 @@ void ReferenceRenderer::renderBrush(const RenderScene& scene, brush& b) {
 
 void ReferenceRenderer::renderFace(const RenderScene& scene, brush& b, int index, FaceState state) {
   aim(scene);
-  face& f = b.faces[size_t(index)];
+  face& f = b.editFaces()[size_t(index)];
   if (!f.polygon || !(dot(eye_.origin, f.facePlane.normal) > f.facePlane.dist)) return;
   WindingPtr w = CopyWinding(*f.polygon);
   for (int i = 0; i < w->count; ++i) {
@@ -128,7 +128,7 @@ ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, bru
   if (!fill.texture) fill.flat = true;
   fill.flatColour = fill.texture ? fill.texture->paletteIndex : 255;
   if (isBox) {
-    const Colour colour{int(b.color.x * 255.0), int(b.color.y * 255.0), int(b.color.z * 255.0)};
+    const Colour colour{int(b.color().x * 255.0), int(b.color().y * 255.0), int(b.color().z * 255.0)};
     fill.flatColour = assets.palette
                           ? nearestPaletteIndex(assets.palette, 256, colour.red, colour.green, colour.blue)
                           : 255;

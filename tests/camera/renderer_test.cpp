@@ -53,8 +53,8 @@ TEST_F(RendererTest, LeavesOutFacesThatReachBeyondTheRows) {
 
 TEST_F(RendererTest, FiltersGroupsAndPreviews) {
   brush& b = box({4, -2, -1}, {8, 2, 1}, "1");
-  b.group = m.groups.add("attic");
-  m.groups.setVisible(b.group, false);
+  b.setGroup(m.groups.add("attic"));
+  m.groups.setVisible(b.group(), false);
   for (const bool groups : {true, false}) {
     settings.groupmode = groups;
     EXPECT_EQ(draw()[1], groups ? "........" : "..1111..");
@@ -67,7 +67,8 @@ TEST_F(RendererTest, FiltersGroupsAndPreviews) {
   copy.setBox({4, -3, -1}, {8, -1, 1}, test::Texture("2"));
   preview = [&](brush&) { return &copy; };
   EXPECT_EQ(draw()[1], "..1111..");
-  b.selected = copy.selected = true;
+  copy.select();
+  b.select();
   assets.selectionOutline = 4;
   assets.faceOutline = 3;  // the copy's current face is the one seen
   EXPECT_EQ(draw()[1], "....433.");

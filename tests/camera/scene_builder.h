@@ -58,10 +58,10 @@ struct TestScene : TestMap {
       const auto& [y, z] = outline[i % outline.size()];
       return vec3{x + dx, y, z};
     };
-    made->faces.push_back(Face(at(0, 0), at(1, 0), at(2, 0), texture));
-    made->faces.push_back(Face(at(2, depth), at(1, depth), at(0, depth), texture));
+    made->editFaces().push_back(Face(at(0, 0), at(1, 0), at(2, 0), texture));
+    made->editFaces().push_back(Face(at(2, depth), at(1, depth), at(0, depth), texture));
     for (size_t i = 0; i < outline.size(); ++i) {
-      made->faces.push_back(Face(at(i, 0), at(i, depth), at(i + 1, 0), texture));
+      made->editFaces().push_back(Face(at(i, 0), at(i, depth), at(i + 1, 0), texture));
     }
     made->owner = &world();
     made->buildWindings();

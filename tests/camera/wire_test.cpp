@@ -27,7 +27,7 @@ struct WireTest : testing::Test, test::TestScene {
 TEST_F(WireTest, DrawsEveryFaceFromBothSidesAndShowsTheSelection) {
   settings.colours.bgcolor = {1, 2, 3};
   settings.colours.color_selection = {4, 5, 6};
-  box({100, -20, -10}, {200, 20, 30}).selected = true;
+  box({100, -20, -10}, {200, 20, 30}).select(true);
   box({100, 30, -10}, {200, 40, 30}).hidden = true;
   const auto faces = draw();
   ASSERT_EQ(faces.size(), 6u);

@@ -45,24 +45,24 @@ TEST(Handlers, HitListCommands) {
   map& m = session.current();
   brush& first = *m.world()->at(0);
   brush& second = *m.world()->at(1);
-  first.selected = true;
+  first.select(true);
   m.hits.add(first);
   m.hits.add(second);
   session.run("CM_HIT_UP");
-  EXPECT_TRUE(first.selected && second.selected);
+  EXPECT_TRUE(first.selected() && second.selected());
   EXPECT_EQ(m.hits.current, 1);
   session.run("CM_HIT_UP");
-  EXPECT_TRUE(first.selected && !second.selected);
+  EXPECT_TRUE(first.selected() && !second.selected());
   session.run("CM_HIT_DOWN");
   EXPECT_EQ(m.hits.current, 1);
   session.run("CM_HIT_1");
-  EXPECT_FALSE(second.selected);
+  EXPECT_FALSE(second.selected());
   session.run("CM_HIT_7");
   EXPECT_EQ(session.editor.status(), "Selecting hit brush # 7...");
   session.run("CM_HIT_UP");
   EXPECT_EQ(m.hits.current, 7) << "out of range: nothing to cycle from";
   session.run("228");
-  EXPECT_TRUE(first.selected && second.selected);
+  EXPECT_TRUE(first.selected() && second.selected());
 }
 
 TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {

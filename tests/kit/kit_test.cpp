@@ -131,7 +131,7 @@ TEST_F(KitTextures, MapIsSound) {
     start = start || e.valueOfKey("classname") == "info_player_start";
     for (const brush& b : e.brushes()) {
       EXPECT_FALSE(b.invalid);
-      for (const face& f : b.faces) {
+      for (const face& f : b.faces()) {
         EXPECT_TRUE(f.polygon);
         EXPECT_TRUE(!e.isModel || set.findTexture(f.texture.name)) << f.texture.name;
       }

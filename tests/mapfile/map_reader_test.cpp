@@ -37,10 +37,10 @@ TEST(MapReader, ReadsEntitiesWithTheirBrushesAndBoxes) {
   EXPECT_FALSE(m.modified);
   EXPECT_TRUE(m.world()->isModel && !m.at(1)->isModel && m.at(2)->isModel);
   EXPECT_EQ(m.at(1)->at(0)->mins.z, 16);
-  EXPECT_EQ(m.at(1)->at(0)->color.y, 1);
+  EXPECT_EQ(m.at(1)->at(0)->color().y, 1);
   EXPECT_EQ(m.at(2)->at(1)->mins.x, 128);
   EXPECT_EQ(m.at(2)->at(1)->numfaces(), 6);
-  EXPECT_EQ(m.at(2)->at(1)->color.y, 0.5f);
+  EXPECT_EQ(m.at(2)->at(1)->color().y, 0.5f);
   EXPECT_EQ(m.at(2)->valueOfKey("speed"), "100");
 }
 
@@ -59,7 +59,7 @@ TEST(MapReader, GroupCommentsReachTheirBrushes) {
                    "}\n{\n//\"0001\"\n\"classname\" \"light\"\n}\n");
   std::vector<int> groups;
   for (entity& e : sample.m.entities()) {
-    for (const brush& b : e.brushes()) groups.push_back(b.group);
+    for (const brush& b : e.brushes()) groups.push_back(b.group());
   }
   EXPECT_EQ(groups, (std::vector<int>{1, 1, 0, 2, 1}));
 }

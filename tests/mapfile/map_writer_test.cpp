@@ -52,8 +52,8 @@ TEST(MapWriter, WritesEntitiesAndBrushesAndTheThirdSaveEqualsTheFirst) {
 TEST(MapWriter, TruncatesPointsAndQuotesWhatNeedsIt) {
   SampleMap sample(kMap);
   brush& b = *sample.m.world()->at(0);
-  b.faces = {test::Face({-0.9f, 15.99f, 64}, {0.5f, -0.5f, -1e20f}, {1, 2, 3})};
-  texturedef& texture = b.faces[0].texture;
+  b.editFaces() = {test::Face({-0.9f, 15.99f, 64}, {0.5f, -0.5f, -1e20f}, {1, 2, 3})};
+  texturedef& texture = b.editFaces()[0].texture;
   texture.rotate = 89.9f;
   texture.scale[0] = 0.5f;
   texture.scale[1] = 1;
@@ -83,11 +83,11 @@ TEST(MapWriter, LeavesOutInvalidBrushesAndKeepsLostOrigins) {
 
 TEST(MapWriter, WritesSelectionsAsMergeFiles) {
   SampleMap sample(kMap);
-  sample.m.at(1)->at(0)->selected = true;
+  sample.m.at(1)->at(0)->select(true);
   EXPECT_EQ(sample.text(false, true),
             WithCrLf("{\n}\n{\n\"classname\"\t\"light\"\n\"origin\"\t\"8 16 24\"\n}\n"));
-  sample.m.at(1)->at(0)->selected = false;
-  sample.m.world()->at(1)->selected = true;
+  sample.m.at(1)->at(0)->select(false);
+  sample.m.world()->at(1)->select(true);
   EXPECT_EQ(sample.text(false, true), WithCrLf("{\n" + Cube(1) + "}\n"));
 }
 
@@ -96,7 +96,7 @@ TEST(MapWriter, ExportsGroupsWithAPlayerStart) {
   const std::string start = WithCrLf("{\n\"classname\"\t\"info_player_start\"\n\"origin\"\t\"0 0 0\"\n}\n");
   const std::string world = "{\n\"classname\"\t\"worldspawn\"\n";
   const std::string light = "{\n\"classname\"\t\"light\"\n\"origin\"\t\"8 16 24\"\n}\n";
-  for (int i : {3, 4}) sample.m.at(i)->at(0)->group = 0;
+  for (int i : {3, 4}) sample.m.at(i)->at(0)->setGroup(0);
   EXPECT_EQ(GroupExportText(sample.m, 1), WithCrLf(world + Cube(1) + "}\n" + light +
                                                    "{\n\"classname\"\t\"func_door\"\n" + Cube(2) + "}\n") +
                                               start);

@@ -19,7 +19,7 @@ void ExpectBounds(const brush& b, const vec3& mins, const vec3& maxs) {
 }
 
 int Polygons(const brush& b) {
-  return int(std::ranges::count_if(b.faces, [](const face& f) { return bool(f.polygon); }));
+  return int(std::ranges::count_if(b.faces(), [](const face& f) { return bool(f.polygon); }));
 }
 
 TEST_F(BoxTest, HasSixSquareFacesInOrderUnlessItHasNoExtent) {
@@ -27,13 +27,13 @@ TEST_F(BoxTest, HasSixSquareFacesInOrderUnlessItHasNoExtent) {
   ASSERT_EQ(b.numfaces(), 6);
   const vec3 normals[] = {{-1, 0, 0}, {0, 1, 0}, {1, 0, 0}, {0, -1, 0}, {0, 0, 1}, {0, 0, -1}};
   for (size_t i = 0; i < 6; ++i) {
-    EXPECT_TRUE(VecEqual(b.faces[i].facePlane.normal, normals[i])) << i;
-    ASSERT_TRUE(b.faces[i].polygon);
-    EXPECT_EQ(b.faces[i].polygon->count, 4);
+    EXPECT_TRUE(VecEqual(b.faces()[i].facePlane.normal, normals[i])) << i;
+    ASSERT_TRUE(b.faces()[i].polygon);
+    EXPECT_EQ(b.faces()[i].polygon->count, 4);
   }
   ExpectBounds(b, {0, 0, 0}, {64, 64, 64});
-  EXPECT_TRUE(VecEqual(b.faces[0].planepts[0], {0, 64, 64}));
-  EXPECT_TRUE(VecEqual(b.faces[5].planepts[0], {64, 64, 0}));
+  EXPECT_TRUE(VecEqual(b.faces()[0].planepts[0], {0, 64, 64}));
+  EXPECT_TRUE(VecEqual(b.faces()[5].planepts[0], {64, 64, 0}));
 
   const brush& flat = box({0, 0, 0}, {64, 0, 64});
   EXPECT_TRUE(flat.invalid);
@@ -44,14 +44,14 @@ TEST_F(BoxTest, HasSixSquareFacesInOrderUnlessItHasNoExtent) {
 
 TEST_F(BuildTest, LeavesOutDegenerateAndRepeatedFaces) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
-  b.faces.insert(b.faces.begin() + 1, b.faces[0]);
-  b.faces.insert(b.faces.begin() + 3, Face({0, 0, 0}, {1, 1, 1}, {2, 2, 2}));
+  b.editFaces().insert(b.editFaces().begin() + 1, b.editFaces()[0]);
+  b.editFaces().insert(b.editFaces().begin() + 3, Face({0, 0, 0}, {1, 1, 1}, {2, 2, 2}));
   b.buildWindings();
   EXPECT_FALSE(b.invalid);
   EXPECT_EQ(b.numfaces(), 8);
   EXPECT_EQ(Polygons(b), 6);
-  EXPECT_FALSE(b.faces[1].polygon);
-  EXPECT_FALSE(b.faces[3].polygon);
+  EXPECT_FALSE(b.faces()[1].polygon);
+  EXPECT_FALSE(b.faces()[3].polygon);
   ExpectBounds(b, {0, 0, 0}, {64, 64, 64});
 }
 
@@ -69,11 +69,11 @@ TEST_F(BuildTest, SettlesCornersNearWholeNumbers) {
 
 TEST_F(BuildTest, PlanesThatEncloseNothingMakeTheBrushInvalid) {
   brush& b = box({8, 8, 8}, {64, 64, 64});
-  b.currentFace = 9;
+  b.setCurrentFace(9);
   b.reverseFaces();
   EXPECT_TRUE(b.invalid);
   EXPECT_EQ(Polygons(b), 0);
-  EXPECT_EQ(b.currentFace, 5);
+  EXPECT_EQ(b.currentFace(), 5);
   ExpectBounds(b, {0, 0, 0}, {0, 0, 0});
   b.reverseFaces();
   EXPECT_FALSE(b.invalid);
@@ -89,9 +89,9 @@ TEST_F(BuildTest, CornersOutOfRangeMakeTheBrushInvalid) {
 
 TEST_F(AddFaceTest, TooFewFacesLeftMakeTheBrushInvalidAndTooManyAreRefused) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
-  while (b.numfaces() < MAX_FACES) b.faces.push_back(b.faces[0]);
+  while (b.numfaces() < MAX_FACES) b.editFaces().push_back(b.editFaces()[0]);
   b.buildWindings();
-  EXPECT_FATAL(b.addFace(b.faces[0]), "addFace: numfaces == MAX_FACES");
+  EXPECT_FATAL(b.addFace(b.faces()[0]), "addFace: numfaces == MAX_FACES");
   brush& cutAway = box({0, 0, 0}, {64, 64, 64});
   EXPECT_FALSE(cutAway.addFace(Face({0, 0, -8}, {0, 64, -8}, {64, 64, -8})));
   EXPECT_TRUE(cutAway.invalid);
@@ -99,23 +99,23 @@ TEST_F(AddFaceTest, TooFewFacesLeftMakeTheBrushInvalidAndTooManyAreRefused) {
 
 TEST_F(AddFaceTest, CutsAndDropsEmptyFaces) {
   brush& b = box({0, 0, 0}, {64, 64, 64}, "metal");
-  b.currentFace = 5;
+  b.setCurrentFace(5);
   // A slope that leaves the half below z = x; the top and the side at -x go.
   EXPECT_TRUE(b.addFace(Face({0, 64, 0}, {64, 64, 64}, {64, 0, 64}, "other")));
   EXPECT_EQ(b.numfaces(), 5);
-  EXPECT_EQ(b.currentFace, 4);
-  EXPECT_EQ(b.faces.back().texture.name, "metal");
+  EXPECT_EQ(b.currentFace(), 4);
+  EXPECT_EQ(b.faces().back().texture.name, "metal");
   EXPECT_EQ(Polygons(b), 5);
   ExpectBounds(b, {0, 0, 0}, {64, 64, 64});
 }
 
 TEST_F(BrushTest, AnotherTextureDropsTheOldReference) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
-  b.faces[2].cache = std::make_unique<TextureRef>();
+  b.faces()[2].cache = std::make_unique<TextureRef>();
   b.setTexturedef(Texture("door"), 2);
-  EXPECT_FALSE(b.faces[2].cache);
-  b.setAllTexturedefs(b.faces[2].texture);
-  EXPECT_EQ(b.faces[5].texture.name, "door");
+  EXPECT_FALSE(b.faces()[2].cache);
+  b.setAllTexturedefs(b.faces()[2].texture);
+  EXPECT_EQ(b.faces()[5].texture.name, "door");
   EXPECT_FATAL(b.setTexturedef(Texture("door"), 6), "setTexturedef:forFace: bad face number 6");
 }
 
@@ -130,25 +130,25 @@ TEST_F(BrushTest, TranslatesAndTransforms) {
 
 TEST_F(BrushTest, ACopyCarriesEverythingButPolygons) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
-  b.selected = true;
-  b.group = 3;
+  b.select(true);
+  b.setGroup(3);
   m.hits.add(b);
   brush copy(b);
   EXPECT_EQ(copy.source, &b);
   EXPECT_EQ(copy.hits, nullptr);
   EXPECT_EQ(Polygons(copy), 0);
-  EXPECT_EQ(copy.group, 3);
-  EXPECT_TRUE(copy.selected);
-  EXPECT_EQ(copy.faces[4].facePlane, b.faces[4].facePlane);
-  EXPECT_EQ(copy.faces[4].shade, 1.0f);
+  EXPECT_EQ(copy.group(), 3);
+  EXPECT_TRUE(copy.selected());
+  EXPECT_EQ(copy.faces()[4].facePlane, b.faces()[4].facePlane);
+  EXPECT_EQ(copy.faces()[4].shade, 1.0f);
   ExpectBounds(copy, {0, 0, 0}, {64, 64, 64});
 }
 
 TEST_F(BrushTest, DeselectingLeavesTheDepthAsWorkRange) {
   brush& b = box({3, 0, -100}, {61, 64, 5000});
-  b.selected = true;
+  b.select(true);
   b.deselect();
-  EXPECT_FALSE(b.selected);
+  EXPECT_FALSE(b.selected());
   EXPECT_TRUE(VecEqual(m.workLow(), {0, 0, -104}));
   EXPECT_TRUE(VecEqual(m.workHigh(), {64, 64, 80})) << "beyond 2048 the old value stays";
 

@@ -126,7 +126,7 @@ TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
   brush& b = cube(0);
   MoveToEntity(b, door);
   EXPECT_EQ(b.owner, &door);
-  EXPECT_EQ(b.color.z, 0.8f);
+  EXPECT_EQ(b.color().z, 0.8f);
   EXPECT_EQ(door.at(0), &b);
   MoveToEntity(b, door);
   EXPECT_EQ(m.indexOf(&door), 1) << "moving its only brush to itself keeps the door";
@@ -160,7 +160,7 @@ TEST_F(EntityCopyTest, ThreeKinds) {
     if (c.brushes == 0) continue;
     EXPECT_EQ(copy->at(0)->owner, copy.get());
     EXPECT_EQ(copy->at(0)->source, door.at(0));
-    EXPECT_EQ(copy->at(0)->faces[0].polygon != nullptr, c.built);
+    EXPECT_EQ(copy->at(0)->faces()[0].polygon != nullptr, c.built);
   }
 }
 
@@ -180,7 +180,7 @@ TEST_F(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
   start.setClass("info_player_start");
   EXPECT_EQ(start.valueOfKey("origin"), "0 0 0") << "nothing is selected";
 
-  box({0.75f, -0.75f, 0}, {32, 32, 32}).selected = true;
+  box({0.75f, -0.75f, 0}, {32, 32, 32}).select(true);
   entity placed(m);
   placed.setClass("info_player_start");
   EXPECT_FALSE(placed.isModel);
@@ -190,7 +190,7 @@ TEST_F(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
   EXPECT_TRUE(VecEqual(box.mins, {0, -1, 0}));
   EXPECT_TRUE(VecEqual(box.maxs, {32, 31, 56}));
   EXPECT_EQ(box.brushTexture().name, "entity");
-  EXPECT_TRUE(VecEqual(box.color, {1, 0, 0}));
+  EXPECT_TRUE(VecEqual(box.color(), {1, 0, 0}));
 
   placed.at(0)->translate({8, 0, 0});
   placed.updateOriginFromBox();

@@ -22,20 +22,20 @@ using test::TestMap;
 bool BuildByWindings(brush& b, std::vector<WindingPtr>& made) {
   bool valid = false;
   std::vector<bool> usable;
-  for (size_t i = 0; i < b.faces.size(); ++i) {
-    face& f = b.faces[i];
+  for (size_t i = 0; i < b.faces().size(); ++i) {
+    face& f = b.editFaces()[i];
     f.polygon = nullptr;
     bool use = PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], f.facePlane);
     if (!use) f.facePlane = {};
-    for (size_t k = 0; k < i && use; ++k) use = !(b.faces[k].facePlane == f.facePlane);
+    for (size_t k = 0; k < i && use; ++k) use = !(b.faces()[k].facePlane == f.facePlane);
     usable.push_back(use);
   }
-  for (size_t i = 0; i < b.faces.size(); ++i) {
+  for (size_t i = 0; i < b.faces().size(); ++i) {
     if (!usable[i]) continue;
-    face& f = b.faces[i];
+    face& f = b.editFaces()[i];
     WindingPtr w = BasePolyForPlane(f, b.owner->parent().settings().texture_alignment);
-    for (size_t k = 0; k < b.faces.size() && w; ++k) {
-      const plane& p = b.faces[k].facePlane;
+    for (size_t k = 0; k < b.faces().size() && w; ++k) {
+      const plane& p = b.faces()[k].facePlane;
       if (k == i || VecEqual(p.normal, {})) continue;
       w = ClipWinding(std::move(w), {{-p.normal.x, -p.normal.y, -p.normal.z}, -p.dist});
     }
@@ -72,7 +72,7 @@ void ExpectSameFace(const face& made, const face& expected) {
 void ExpectBoundsOfPolygons(const brush& b) {
   vec3 mins{1e6f, 1e6f, 1e6f};
   vec3 maxs{-1e6f, -1e6f, -1e6f};
-  for (const face& f : b.faces) {
+  for (const face& f : b.faces()) {
     for (int i = 0; f.polygon && i < f.polygon->count; ++i) {
       for (int axis = 0; axis < 3; ++axis) {
         mins[axis] = std::min(mins[axis], (*f.polygon)[i][axis]);
@@ -91,9 +91,9 @@ void ExpectSameBuild(brush& b) {
   ASSERT_EQ(FatalMessage([&] { b.buildWindings(); }), expectedFatal);
   if (!expectedFatal.empty()) return;
   EXPECT_EQ(b.invalid, !valid);
-  for (size_t i = 0; i < b.faces.size(); ++i) {
+  for (size_t i = 0; i < b.faces().size(); ++i) {
     SCOPED_TRACE(i);
-    ExpectSameFace(b.faces[i], expected.faces[i]);
+    ExpectSameFace(b.faces()[i], expected.faces()[i]);
   }
   if (valid) ExpectBoundsOfPolygons(b);
 }
@@ -105,7 +105,7 @@ class RandomBrushes {
   vec3 point(int reach) { return {whole(-reach, reach), whole(-reach, reach), whole(-reach, reach)}; }
 
   void textureAll(brush& b) {
-    for (face& f : b.faces) {
+    for (face& f : b.editFaces()) {
       f.texture.rotate = oneIn(3) ? whole(-360, 360) / 2 : 0;
       for (int i = 0; i < 2; ++i) {
         f.texture.shift[i] = whole(-200, 200);
@@ -136,12 +136,12 @@ class RandomBrushes {
     const vec3 mins = scale(point(oneIn(20) ? 8192 : 4096), grain);
     const int longest = oneIn(3) ? 7000 : 900;
     b.setBox(mins, add(mins, scale({whole(1, longest), whole(1, longest), whole(1, longest)}, grain)), {});
-    std::shuffle(b.faces.begin(), b.faces.end(), random_);
+    std::shuffle(b.editFaces().begin(), b.editFaces().end(), random_);
     if (oneIn(10)) {
-      b.faces.back() = Face(b.faces[0].planepts[1], b.faces[0].planepts[2], b.faces[0].planepts[0]);
+      b.editFaces().back() = Face(b.editFaces()[0].planepts[1], b.editFaces()[0].planepts[2], b.editFaces()[0].planepts[0]);
     }
     if (oneIn(4)) {  // so little that the normal's largest component may still be 1
-      vec3& corner = b.faces[0].planepts[0];
+      vec3& corner = b.editFaces()[0].planepts[0];
       corner = add(corner, scale(point(1), grain));
     }
   }
@@ -174,9 +174,9 @@ TEST(FastPathTest, BuildsWhatTheWindingFunctionsBuild) {
     SCOPED_TRACE(round);
     t.settings.texture_alignment = round % 2;
     if (round % 3 == 0) {
-      b.faces = random.soup(int(random.whole(4, 24)), round % 2 ? 40 : 700);
+      b.editFaces() = random.soup(int(random.whole(4, 24)), round % 2 ? 40 : 700);
     } else if (round % 3 == 1) {
-      b.faces = random.prism(int(random.whole(3, 24)), random.whole(8, 500), random.whole(8, 100));
+      b.editFaces() = random.prism(int(random.whole(3, 24)), random.whole(8, 500), random.whole(8, 100));
     } else {
       random.box(b);
     }
@@ -196,7 +196,7 @@ TEST(FastPathTest, StopsWhereTheWindingFunctionsStop) {
     const char* message;
   } cases[] = {{61, ""}, {62, "NewWinding: 65 points"}};
   for (const auto& c : cases) {
-    b.faces = random.prism(c.sides, 4000, 64);
+    b.editFaces() = random.prism(c.sides, 4000, 64);
     ExpectSameBuild(b);
     EXPECT_EQ(FatalMessage([&] { b.buildWindings(); }), c.message);
   }

@@ -42,11 +42,11 @@ TEST_F(SelectionTest, TheCurrentBrushComesFromTheCurrentEntityFirst) {
   EXPECT_EQ(m.firstSelected(), nullptr);
   brush* const brushes[] = {&cube(0), &boxIn(a, {0, 0, 0}, {8, 8, 8}),
                             &boxIn(addEntity("func_door"), {0, 0, 0}, {8, 8, 8})};
-  for (brush* b : brushes) b->selected = true;
+  for (brush* b : brushes) b->select(true);
   EXPECT_EQ(m.firstSelected(), brushes[0]);
   EXPECT_EQ(m.selectedCount(), 1);
   EXPECT_EQ(m.totalSelected(), 3);
-  brushes[0]->selected = false;
+  brushes[0]->select(false);
   EXPECT_EQ(m.firstSelected(), brushes[2]) << "from the last entity on";
   m.setCurrentEntity(&a);
   EXPECT_EQ(m.firstSelected(), brushes[1]);
@@ -57,11 +57,11 @@ TEST_F(SelectionTest, CentreIsThatOfTheSelectionOrOfAll) {
   cube(0);
   brush& far = cube(4);
   EXPECT_TRUE(VecEqual(m.selectionCentre(), {72, 8, 8}));
-  far.selected = true;
+  far.select(true);
   EXPECT_TRUE(VecEqual(m.selectionCentre(), {136, 8, 8}));
   settings.groupmode = true;
-  far.selected = false;
-  far.group = 5;
+  far.select(false);
+  far.setGroup(5);
   EXPECT_TRUE(VecEqual(m.selectionCentre(), {8, 8, 8})) << "group 5 is not there";
 }
 
@@ -108,7 +108,7 @@ TEST(ViewFilterTest, HidesByOwnerAndTexture) {
 
 TEST_F(HitListTest, ForgetsDestroyedBrushesAndKeepsTheCurrentOne) {
   for (int i = 0; i < 12; ++i) {
-    cube(i).selected = i % 2 == 0;
+    cube(i).select(i % 2 == 0);
     m.hits.add(*world().at(i));
   }
   EXPECT_EQ(m.hits.count, 10);

@@ -26,12 +26,12 @@ TEST_F(DispatcherTest, VisitsItsClassFromTheLastToTheFirst) {
   entity& door = addEntity("func_door");
   for (int i = 0; i < 3; ++i) cube(i);
   for (int i = 0; i < 2; ++i) boxIn(door, {0, 0, 0}, {8, 8, 8});
-  world().at(1)->selected = true;
-  door.at(0)->selected = true;
+  world().at(1)->select(true);
+  door.at(0)->select(true);
   m.groups.setVisible(m.groups.add("hidden"), false);
-  world().at(0)->group = 1;
-  door.at(0)->group = 300;
-  world().at(2)->group = -1;
+  world().at(0)->setGroup(1);
+  door.at(0)->setGroup(300);
+  world().at(2)->setGroup(-1);
 
   const struct {
     Dispatcher dispatch;
@@ -78,8 +78,8 @@ TEST(CutTest, CutAndSplitDestroyWhatIsLeftInvalid) {
 }
 
 TEST_F(MethodTest, DeleteTakesEmptiedEntitiesToo) {
-  for (int i = 0; i < 3; ++i) cube(i).selected = true;
-  for (int i = 0; i < 4; ++i) addPoint("light", {0, 0, 0}).at(0)->selected = i != 1;
+  for (int i = 0; i < 3; ++i) cube(i).select(true);
+  for (int i = 0; i < 4; ++i) addPoint("light", {0, 0, 0}).at(0)->select(i != 1);
   m.MSPerform(Method::Delete);
   EXPECT_EQ(summary(), "worldspawn  light -");
 }
@@ -87,8 +87,8 @@ TEST_F(MethodTest, DeleteTakesEmptiedEntitiesToo) {
 TEST_F(MethodTest, MoveToTargetReachesEverySelectedBrush) {
   entity& from = addEntity("func_door");
   entity& target = addEntity("func_wall");
-  for (int i = 0; i < 3; ++i) cube(i).selected = true;
-  for (entity* owner : {&from, &target}) boxIn(*owner, {0, 0, 0}, {8, 8, 8}).selected = true;
+  for (int i = 0; i < 3; ++i) cube(i).select(true);
+  for (entity* owner : {&from, &target}) boxIn(*owner, {0, 0, 0}, {8, 8, 8}).select(true);
   m.perform.target = &target;
   m.MSPerform(Method::MoveToTarget);
   EXPECT_EQ(summary(), "worldspawn  func_wall *****") << "the door is empty and gone";
@@ -111,10 +111,10 @@ TEST_F(MethodTest, SelectInsideOrTouchingABox) {
     brush& b = t.box(c.mins, c.maxs);
     t.m.perform.boxMaxs = {64, 64, 64};
     t.m.MAPerform(Method::SelectInside);
-    EXPECT_EQ(b.selected, c.inside);
+    EXPECT_EQ(b.selected(), c.inside);
     t.m.MAPerform(Method::Deselect);
     t.m.MAPerform(Method::SelectTouching);
-    EXPECT_EQ(b.selected, c.touching);
+    EXPECT_EQ(b.selected(), c.touching);
   }
 }
 

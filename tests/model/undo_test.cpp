@@ -13,7 +13,7 @@ constexpr vec3 kStep{16, 0, 0};
 
 TEST_F(UndoTest, OneSelectedBrushComesBackAlone) {
   brush& moved = cube(0);
-  moved.selected = true;
+  moved.select(true);
   brush& other = cube(1);
   UndoHistory history;
   history.save(m, "Rotate Brush", UndoMode::Selection, 1);
@@ -23,7 +23,7 @@ TEST_F(UndoTest, OneSelectedBrushComesBackAlone) {
   ASSERT_TRUE(history.undo(m, 1));
   EXPECT_EQ(world().at(0)->mins.x, 0);
   EXPECT_EQ(world().at(1)->mins.x, 48);
-  EXPECT_TRUE(world().at(0)->selected);
+  EXPECT_TRUE(world().at(0)->selected());
   EXPECT_FALSE(history.canUndo());
   EXPECT_FALSE(history.canRedo());
 }
@@ -33,7 +33,7 @@ TEST_F(UndoTest, AOneBrushCopyOutlivesItsBrushAndItsEntity) {
   entity& door = addEntity("func_door");
   brush& part = boxIn(door, {0, 0, 0}, {8, 8, 8});
   boxIn(door, {8, 0, 0}, {16, 8, 8});
-  part.selected = true;
+  part.select(true);
   m.setCurrentEntity(&door);
   UndoHistory history;
   history.save(m, "", UndoMode::Selection, 1);
@@ -97,8 +97,8 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   const MapSnapshot before = TakeSnapshot(m);
   const brush* kept = world().at(0);
   world().at(3)->translate(kStep);
-  world().at(2)->group = 1;
-  world().at(1)->selected = true;
+  world().at(2)->setGroup(1);
+  world().at(1)->select(true);
   m.at(1)->setKey("light", "200");
   const MapSnapshot after = TakeSnapshot(m, &before);
   EXPECT_FALSE(SameContents(before, after));
@@ -112,7 +112,7 @@ TEST_F(UndoTest, SnapshotsShareAndRestoreKeepsWhatDidNotChange) {
   RestoreSnapshot(m, before, false);
   EXPECT_EQ(world().at(0), kept);
   EXPECT_EQ(world().at(3)->mins.x, 96);
-  EXPECT_EQ(world().at(2)->group, 0);
+  EXPECT_EQ(world().at(2)->group(), 0);
   EXPECT_EQ(summary(), "worldspawn " + std::string(70, '-') + " light -");
   EXPECT_EQ(m.at(1)->valueOfKey("light"), "");
   EXPECT_FALSE(m.at(1)->isModel);

@@ -14,7 +14,7 @@ struct ClipboardTest : test::MapTest {
     entity& e = addPoint("light", {0, 0, 0});
     if (*targetname) e.setKey("targetname", targetname);
     if (*target) e.setKey("target", target);
-    e.at(0)->selected = true;
+    e.at(0)->select(true);
     return e;
   }
   // The targetname and target of an entity.
@@ -24,7 +24,7 @@ struct ClipboardTest : test::MapTest {
 };
 
 TEST_F(ClipboardTest, CopiesDropTargetsThatStayBehind) {
-  cube(0).selected = true;
+  cube(0).select(true);
   cube(1);
   entity& lonely = pointer("", "gate");
   pointer("", "T5");
@@ -41,7 +41,7 @@ TEST_F(ClipboardTest, CopiesDropTargetsThatStayBehind) {
 
 TEST_F(ClipboardTest, PasteRenumbersPastTheMapAndMovesByTheOffset) {
   settings.gridsize = 16;
-  cube(0).selected = true;
+  cube(0).select(true);
   pointer("t1", "t2");
   pointer("t2", "");
   CopySelection(m, clipboard);
@@ -51,7 +51,7 @@ TEST_F(ClipboardTest, PasteRenumbersPastTheMapAndMovesByTheOffset) {
   EXPECT_EQ(names(*m.at(4)), "t9>t10");
   EXPECT_EQ(names(*m.at(5)), "t10>");
   EXPECT_TRUE(VecEqual(world().at(1)->mins, {16, 16, 0}));
-  EXPECT_EQ(world().at(1)->group, 3);
+  EXPECT_EQ(world().at(1)->group(), 3);
   EXPECT_TRUE(m.worldIsCurrent());
 
   m.at(5)->setKey("targetname", "t2147483647");
@@ -62,13 +62,13 @@ TEST_F(ClipboardTest, PasteRenumbersPastTheMapAndMovesByTheOffset) {
 TEST_F(ClipboardTest, CloneTakesEntitiesWholeAndTheSelectionAlong) {
   settings.cloneDeltaX = 5;
   entity& door = addEntity("func_door");
-  boxIn(door, {0, 0, 0}, {8, 8, 8}).selected = true;
+  boxIn(door, {0, 0, 0}, {8, 8, 8}).select(true);
   boxIn(door, {8, 0, 0}, {16, 8, 8});
   CloneSelection(m, PasteOffset(settings));
   EXPECT_EQ(summary(), "worldspawn  func_door -- func_door **");
   EXPECT_EQ(m.currentEntity(), m.at(2));
   EXPECT_TRUE(VecEqual(m.at(2)->at(1)->mins, {13, 8, 0}));
-  cube(0).selected = true;
+  cube(0).select(true);
   CloneSelection(m, PasteOffset(settings));
   EXPECT_TRUE(m.worldIsCurrent());
 }

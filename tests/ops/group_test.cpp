@@ -42,11 +42,11 @@ TEST(GroupListTest, IndicesOutsideDoNothing) {
 struct GroupOpsTest : test::MapTest {
   GroupOpsTest() {
     for (const char* name : {"a", "b", "c"}) m.groups.add(name);
-    for (int i = 0; i < 4; ++i) cube(i).group = i;
+    for (int i = 0; i < 4; ++i) cube(i).setGroup(i);
   }
   std::string numbers() {
     std::string text;
-    for (const brush& b : world().brushes()) text += std::to_string(b.group);
+    for (const brush& b : world().brushes()) text += std::to_string(b.group());
     return text;
   }
 };

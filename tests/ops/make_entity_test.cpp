@@ -13,10 +13,10 @@ using MakeEntityTest = test::MapTest;
 TEST_F(MakeEntityTest, RefusesWithAnotherEntityCurrentOrWithoutASeed) {
   settings.groupmode = true;
   m.groups.setVisible(m.groups.add("hidden"), false);
-  cube(0).group = 1;
+  cube(0).setGroup(1);
   m.modified = false;
   for (const bool hiddenSeed : {false, true}) {
-    world().at(0)->selected = hiddenSeed;
+    world().at(0)->select(hiddenSeed);
     for (const char* classname : {"func_door", "not_a_class"}) {
       EXPECT_EQ(MakeEntity(m, classname).outcome, EntityMaking::NeedsSeed);
     }
@@ -28,7 +28,7 @@ TEST_F(MakeEntityTest, RefusesWithAnotherEntityCurrentOrWithoutASeed) {
 }
 
 TEST_F(MakeEntityTest, AVariableSizeTakesTheSelection) {
-  for (int i = 0; i < 3; ++i) cube(i).selected = i != 1;
+  for (int i = 0; i < 3; ++i) cube(i).select(i != 1);
   const MadeEntity made = MakeEntity(m, "func_door");
   ASSERT_EQ(made.outcome, EntityMaking::Made);
   EXPECT_EQ(m.currentEntity(), made.made);
@@ -49,14 +49,14 @@ TEST_F(MakeEntityTest, AFixedSizeReplacesTheSelectionOrStandsAtTheCamera) {
   again();
   EXPECT_EQ(MakeEntity(m, "light", vec3{0, 0, 0}).made->valueOfKey("origin"), "8 8 8");
   again();
-  box({0, 0, 0}, {32, 32, 32}).selected = true;
+  box({0, 0, 0}, {32, 32, 32}).select(true);
   EXPECT_EQ(MakeEntity(m, "info_player_start").made->valueOfKey("origin"), "16 16 24");
   EXPECT_EQ(summary(), "worldspawn  light - light - info_player_start *") << "no seed stays behind";
 }
 
 TEST_F(MakeEntityTest, AFullMapKeepsTheSelectionInItsPlace) {
   brush& b = cube(0);
-  b.selected = true;
+  b.select(true);
   while (m.numentities() < MAX_ENTITIES) addEntity("func_door");
   for (const char* classname : {"func_door", "light"}) {
     EXPECT_FATAL(MakeEntity(m, classname), "map->addobject, too many brushes on entity...");

@@ -19,10 +19,10 @@ TEST(SelectByBoxTest, UsesUpTheOneSelectedBrush) {
   for (const bool inside : {true, false}) {
     TestMap t;
     for (int i = 0; i < 3; ++i) t.cube(i);
-    t.box({-8, -8, -8}, {40, 40, 40}).selected = true;
+    t.box({-8, -8, -8}, {40, 40, 40}).select(true);
     SelectByBox(t.m, inside);
     EXPECT_EQ(t.summary(), inside ? "worldspawn *--" : "worldspawn **-");
-    for (int i = 0; i < 2; ++i) t.world().at(i)->selected = true;
+    for (int i = 0; i < 2; ++i) t.world().at(i)->select(true);
     SelectByBox(t.m, inside);
     EXPECT_EQ(t.summary(), "worldspawn **-") << "two are selected";
   }
@@ -37,9 +37,9 @@ TEST_F(ApplyTextureTest, OnTheFaceHitOrTheWholeBrush) {
   EXPECT_FALSE(m.modified);
   EXPECT_TRUE(ApplyTextureByRay(m, kStart, kEnd, Texture("door"), false));
   EXPECT_TRUE(m.modified);
-  EXPECT_EQ(b.faces[4].texture.name + b.faces[0].texture.name, "doorwall");
+  EXPECT_EQ(b.faces()[4].texture.name + b.faces()[0].texture.name, "doorwall");
   EXPECT_TRUE(ApplyTextureByRay(m, kStart, kEnd, Texture("gate"), true));
-  EXPECT_EQ(b.faces[0].texture.name, "gate");
+  EXPECT_EQ(b.faces()[0].texture.name, "gate");
   addPoint("light", {8, 8, 200});
   EXPECT_FALSE(ApplyTextureByRay(m, kStart, kEnd, Texture("door"), false))
       << "fixed-size entities are spared";
@@ -49,7 +49,7 @@ TEST_F(PickTest, TogglesAndLiftsOnlyTheFirst) {
   brush& b = cube(0);
   const RayPick first = selectByRay(m, kStart, kEnd, true);
   EXPECT_TRUE(first.hit == &b && first.face == 4 && first.firstOfSelection);
-  EXPECT_EQ(b.currentFace, 4);
+  EXPECT_EQ(b.currentFace(), 4);
 
   brush& above = box({0, 0, 100}, {16, 16, 116});
   EXPECT_FALSE(selectByRay(m, kStart, kEnd, true).firstOfSelection);
@@ -89,11 +89,11 @@ TEST_F(PickTest, WithoutMultiSelectAnotherEntityStartsAfresh) {
   for (const bool multi : {false, true}) {
     TestMap t;
     t.settings.multi_select = multi;
-    t.cube(5).selected = true;
+    t.cube(5).select(true);
     brush& light = *t.addPoint("light", {8, 8, 0}).at(0);
-    light.selected = true;
+    light.select(true);
     selectByRay(t.m, kStart, kEnd, true);
-    EXPECT_EQ(light.selected, !multi) << "what was selected is picked afresh, or toggled";
+    EXPECT_EQ(light.selected(), !multi) << "what was selected is picked afresh, or toggled";
     EXPECT_EQ(t.m.totalSelected(), 1);
   }
 }
@@ -106,7 +106,7 @@ TEST_F(PickTest, PassesOverHiddenFilteredAndInvalidBrushes) {
   brush& below = cube(0);
   hidden.hidden = true;
   settings.groupmode = true;
-  grouped.group = 9;
+  grouped.setGroup(9);
   settings.filter.omitWater = true;
   EXPECT_EQ(selectByRay(m, kStart, kEnd, true).hit, &below);
   EXPECT_EQ(m.hits.count, 1);

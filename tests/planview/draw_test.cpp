@@ -72,10 +72,10 @@ TEST_F(Drawing, PensFollowSelectionOwnerAndGroup) {
   EXPECT_EQ(polygons(), (Strokes{"polygon #7f7f7f" + a, "polygon #ffffff" + b}));
 
   settings.groupmode = true;
-  inDoor.group = m.groups.add("lift");
-  m.groups.setColour(inDoor.group, {0, 255, 1});
+  inDoor.setGroup(m.groups.add("lift"));
+  m.groups.setColour(inDoor.group(), {0, 255, 1});
   EXPECT_EQ(polygons(), (Strokes{"polygon #7f7f7f" + a, "polygon #00ff01" + b}));
-  m.groups.setVisible(inDoor.group, false);
+  m.groups.setVisible(inDoor.group(), false);
   EXPECT_EQ(polygons(), (Strokes{"polygon #7f7f7f" + a}));
   settings.groupmode = false;
   inWorld.hidden = true;
@@ -86,17 +86,18 @@ TEST_F(Drawing, TheFirstSelectedBrushShowsAllFacesAndItsCurrentOneOnTop) {
   brush& first = box({-10, -10, 0}, {10, 10, 20});
   brush moved(first);
   moved.translate({50, 0, 0});
-  box({20, 20, 0}, {30, 30, 20}).selected = first.selected = true;
-  first.currentFace = 4;
+  first.select();
+  box({20, 20, 0}, {30, 30, 20}).select();
+  first.setCurrentFace(4);
   const Strokes strokes = polygons();
   ASSERT_EQ(strokes.size(), 7u);
   EXPECT_EQ(strokes[5], "polygon #ffff00 2 90 90 110 110");
   EXPECT_EQ(strokes[6], "polygon #ff3f00 2 120 70 130 80");
 
-  moved.currentFace = 4;
+  moved.setCurrentFace(4);
   scene.preview = [&](const brush&) { return &moved; };
   EXPECT_EQ(polygons()[5], "polygon #ffff00 2 140 90 160 110");
-  first.selected = false;
+  first.select(false);
   EXPECT_EQ(polygons()[0], "polygon #ffffff 1 90 90 110 110");
 }
 

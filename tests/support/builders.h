@@ -70,7 +70,7 @@ struct TestMap {
     std::string text;
     for (const entity& e : m.entities()) {
       text += (text.empty() ? "" : " ") + e.valueOfKey("classname") + ' ';
-      for (const brush& b : e.brushes()) text += b.selected ? '*' : '-';
+      for (const brush& b : e.brushes()) text += b.selected() ? '*' : '-';
     }
     return text;
   }

@@ -81,7 +81,7 @@ void TSelectedBrushWindow::listFaces(const brush& shown) {
   const ViewColours& colours = editor_.settings().colours;
   for (int i = 0; i < shown.numfaces(); ++i) {
     auto* item = new QTreeWidgetItem(faces_, ShownText(FaceListLine(shown, i)).split('\t'));
-    const bool current = i == shown.currentFace;
+    const bool current = i == shown.currentFace();
     for (int column = 0; column < faces_->columnCount(); ++column) {
       item->setForeground(column, colour(current ? colours.color_curfacecolor : colours.color_selection));
     }
