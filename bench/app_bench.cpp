@@ -9,6 +9,7 @@
 #include <malloc.h>
 
 #include "app/editor.h"
+#include "commands/dispatch.h"
 #include "mapfile/map_reader.h"
 
 namespace velk {
@@ -46,7 +47,7 @@ struct Desk {
     }
   }
 
-  map& m() { return *editor.currentMap(); }
+  map& m() { return *editor.documents().currentMap(); }
 
   void generate(int brushes) {
     texturedef texture;
@@ -152,7 +153,8 @@ void HundredLevels(benchmark::State& state) {
       desk.editor.endChange("move");
       if (level == 0) kept[1] = HeapBytes() - before - kept[0];
     }
-    if (desk.editor.current()->history.undoCount() != 100) state.SkipWithError("levels were lost");
+    if (desk.editor.documents().current()->history.undoCount() != 100)
+      state.SkipWithError("levels were lost");
     kept[2] = HeapBytes() - before - kept[0];
   }
   state.counters["map_kB"] = kept[0] / 1000;

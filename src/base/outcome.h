@@ -7,8 +7,8 @@
 
 namespace velk {
 
-// Views whose pictures are out of date.
-enum class Redraw { None = 0, Plans = 1, Camera = 2, All = 3 };
+// Views whose pictures are out of date; the strips are the header strips of the plan views.
+enum class Redraw { None = 0, Plans = 1, Camera = 2, All = 3, Strips = 4 };
 
 constexpr Redraw operator|(Redraw a, Redraw b) {
   return static_cast<Redraw>(static_cast<int>(a) | static_cast<int>(b));
@@ -22,10 +22,11 @@ struct Outcome {
   std::string status;  // for the status line; empty: nothing is posted
   Redraw redraw = Redraw::None;
   Centre centre = Centre::Stay;
-  // Windows whose contents changed in a way that the map itself does not show.
+  // What changed that the map itself does not show.
   bool groups = false;
   bool textures = false;
-  bool maps = false;  // list of maps, the current one, names
+  bool names = false;  // of open maps, and whether one differs from its file
+  bool maps = false;   // the list of open maps or the current one: every window shows something else
 
   static Outcome Drawn(Redraw redraw, std::string status = {}) {
     Outcome outcome;

@@ -17,11 +17,15 @@ constexpr float kFloorRay = 4096;       // floors are looked for between plus an
 constexpr float kNearestFarLimit = -2;  // view depths
 constexpr float kFarthestFarLimit = -16384;
 
-CameraOutcome Moved(const char* status) { return {status, true, true, true, false}; }
+Outcome Moved(const char* status) {
+  Outcome outcome = Outcome::Drawn(Redraw::All, status);
+  outcome.centre = Centre::Follow;
+  return outcome;
+}
 
-CameraOutcome Turned(const char* status) { return {status, true, true, false, false}; }
+Outcome Turned(const char* status) { return Outcome::Drawn(Redraw::All, status); }
 
-CameraOutcome Tilted(const char* status) { return {status, false, true, false, false}; }
+Outcome Tilted(const char* status) { return Outcome::Drawn(Redraw::Camera, status); }
 
 void Shift(map& m, double x, double y, double z) {
   vec3& origin = m.activeCamera().origin;
@@ -57,107 +61,109 @@ void VisitFloors(const map& m, Visit&& visit) {
   }
 }
 
-CameraOutcome Activate(map& m, int index, const char* ending, bool recentre) {
+Outcome Activate(map& m, int index, const char* ending, bool recentre) {
   m.currentCamera = index;
-  return {Format("Camera %i Active%s", index + 1, ending), true, true, false, recentre};
+  Outcome outcome = Outcome::Drawn(Redraw::All, Format("Camera %i Active%s", index + 1, ending));
+  if (recentre) outcome.centre = Centre::Jump;
+  return outcome;
 }
 
-CameraOutcome LensChanged(const char* name, double value) {
-  return {Format("%s %04.2f", name, value), false, true, false, false};
+Outcome LensChanged(const char* name, double value) {
+  return Outcome::Drawn(Redraw::Camera, Format("%s %04.2f", name, value));
 }
 
-CameraOutcome ParameterChanged(const char* name, double value) {
-  return {Format("%s %04.2f", name, value), false, false, false, false};
+Outcome ParameterChanged(const char* name, double value) {
+  return Outcome::Said(Format("%s %04.2f", name, value));
 }
 
 }  // namespace
 
-CameraOutcome MoveForward(map& m, const Settings& settings) {
+Outcome MoveForward(map& m, const Settings& settings) {
   ShiftAlong(m, -kPi / 2, settings.stepsize);
   return Moved("Forward...");
 }
 
-CameraOutcome MoveBackward(map& m, const Settings& settings) {
+Outcome MoveBackward(map& m, const Settings& settings) {
   ShiftAlong(m, -kPi / 2, -double(settings.stepsize));
   return Moved("Backward...");
 }
 
-CameraOutcome StrafeLeft(map& m, const Settings& settings) {
+Outcome StrafeLeft(map& m, const Settings& settings) {
   ShiftAlong(m, -kPi, -double(settings.stepsize));
   return Moved("Strafe Left...");
 }
 
-CameraOutcome StrafeRight(map& m, const Settings& settings) {
+Outcome StrafeRight(map& m, const Settings& settings) {
   ShiftAlong(m, -kPi, settings.stepsize);
   return Moved("Strafe Right...");
 }
 
-CameraOutcome MoveUp(map& m, const Settings& settings) {
+Outcome MoveUp(map& m, const Settings& settings) {
   Shift(m, 0, 0, settings.stepsize);
   return Moved("Moving up...");
 }
 
-CameraOutcome MoveDown(map& m, const Settings& settings) {
+Outcome MoveDown(map& m, const Settings& settings) {
   Shift(m, 0, 0, -double(settings.stepsize));
   return Moved("Moving down");
 }
 
-CameraOutcome MoveWest(map& m, const Settings& settings) {
+Outcome MoveWest(map& m, const Settings& settings) {
   Shift(m, -double(settings.stepsize), 0, 0);
   return Moved("Left");
 }
 
-CameraOutcome MoveEast(map& m, const Settings& settings) {
+Outcome MoveEast(map& m, const Settings& settings) {
   Shift(m, settings.stepsize, 0, 0);
   return Moved("Right");
 }
 
-CameraOutcome MoveNorth(map& m, const Settings& settings) {
+Outcome MoveNorth(map& m, const Settings& settings) {
   Shift(m, 0, settings.stepsize, 0);
   return Moved("Up");
 }
 
-CameraOutcome MoveSouth(map& m, const Settings& settings) {
+Outcome MoveSouth(map& m, const Settings& settings) {
   Shift(m, 0, -double(settings.stepsize), 0);
   return Moved("Down");
 }
 
-CameraOutcome TurnLeft(map& m, const Settings& settings) {
+Outcome TurnLeft(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().yaw, settings.turnStep());
   return Turned("Left");
 }
 
-CameraOutcome TurnRight(map& m, const Settings& settings) {
+Outcome TurnRight(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().yaw, -settings.turnStep());
   return Turned("Right");
 }
 
-CameraOutcome TurnAround(map& m) {
+Outcome TurnAround(map& m) {
   TurnBy(m.activeCamera().yaw, kPi);
   return Tilted("Turning around...");
 }
 
-CameraOutcome PitchUp(map& m, const Settings& settings) {
+Outcome PitchUp(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().pitch, settings.turnStep());
   return Tilted("Pitching up...");
 }
 
-CameraOutcome PitchDown(map& m, const Settings& settings) {
+Outcome PitchDown(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().pitch, -settings.turnStep());
   return Tilted("Pitching down...");
 }
 
-CameraOutcome RollUp(map& m, const Settings& settings) {
+Outcome RollUp(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().roll, settings.turnStep());
   return Tilted("Rolling up...");
 }
 
-CameraOutcome RollDown(map& m, const Settings& settings) {
+Outcome RollDown(map& m, const Settings& settings) {
   TurnBy(m.activeCamera().roll, -settings.turnStep());
   return Tilted("Rolling down...");
 }
 
-CameraOutcome ResetAngles(map& m) {
+Outcome ResetAngles(map& m) {
   camera& active = m.activeCamera();
   const camera level;
   active.roll = level.roll;
@@ -166,97 +172,97 @@ CameraOutcome ResetAngles(map& m) {
   return Turned("Angles reset for current map...");
 }
 
-CameraOutcome FloorUp(map& m) {
+Outcome FloorUp(map& m) {
   constexpr double none = 32767;
   double best = none;
   VisitFloors(m, [&](double height) {
     if (height > 0 && height < best) best = height;
   });
-  if (best == none) return {"Already at top level"};
+  if (best == none) return Outcome::Said("Already at top level");
   Shift(m, 0, 0, best);
   return Moved("Moved up a floor");
 }
 
-CameraOutcome FloorDown(map& m) {
+Outcome FloorDown(map& m) {
   constexpr double none = -32765;
   double best = none;
   VisitFloors(m, [&](double height) {
     if (height < 0 && height > best) best = height;
   });
-  if (best == none) return {"Already at bottom level"};
+  if (best == none) return Outcome::Said("Already at bottom level");
   Shift(m, 0, 0, best);
   return Moved("Moved down a floor");
 }
 
-CameraOutcome SmallerStep(Settings& settings) {
+Outcome SmallerStep(Settings& settings) {
   if (settings.stepsize >= 2) settings.stepsize /= 2;
   return ParameterChanged("step:", settings.stepsize);
 }
 
-CameraOutcome LargerStep(Settings& settings) {
+Outcome LargerStep(Settings& settings) {
   if (settings.stepsize < 1024) settings.stepsize *= 2;
   return ParameterChanged("step:", settings.stepsize);
 }
 
-CameraOutcome NearerFarLimit(Settings& settings) {
+Outcome NearerFarLimit(Settings& settings) {
   settings.far_clip_distance = std::min(kNearestFarLimit, settings.far_clip_distance + settings.stepsize);
   return ParameterChanged("zmax:", settings.far_clip_distance);
 }
 
-CameraOutcome FartherFarLimit(Settings& settings) {
+Outcome FartherFarLimit(Settings& settings) {
   settings.far_clip_distance = std::max(kFarthestFarLimit, settings.far_clip_distance - settings.stepsize);
   return ParameterChanged("zmax:", settings.far_clip_distance);
 }
 
-CameraOutcome SmallerPpd(WireLens& lens) {
+Outcome SmallerPpd(WireLens& lens) {
   if (lens.ppd > 0.25f) lens.ppd /= 2;
   return LensChanged("ppd:", lens.ppd);
 }
 
-CameraOutcome LargerPpd(WireLens& lens) {
+Outcome LargerPpd(WireLens& lens) {
   if (lens.ppd < 1024) lens.ppd *= 2;
   return LensChanged("ppd:", lens.ppd);
 }
 
-CameraOutcome SmallerMag(WireLens& lens) {
+Outcome SmallerMag(WireLens& lens) {
   lens.mag = float(std::max(0.25, lens.mag / 1.1));
   return LensChanged("mag: ", lens.mag);
 }
 
-CameraOutcome LargerMag(WireLens& lens) {
+Outcome LargerMag(WireLens& lens) {
   // No limit but what keeps the number finite.
   lens.mag = float(std::min(1e30, lens.mag * 1.1));
   return LensChanged("mag: ", lens.mag);
 }
 
-CameraOutcome SelectCamera(map& m, int number) {
+Outcome SelectCamera(map& m, int number) {
   if (number < 1 || number > kCameras) return {};
   return Activate(m, number - 1, "", true);
 }
 
-CameraOutcome NextCamera(map& m) { return Activate(m, (m.currentCamera + 1) % kCameras, "...", false); }
+Outcome NextCamera(map& m) { return Activate(m, (m.currentCamera + 1) % kCameras, "...", false); }
 
-CameraOutcome PreviousCamera(map& m) {
+Outcome PreviousCamera(map& m) {
   return Activate(m, m.currentCamera > 0 ? m.currentCamera - 1 : kCameras - 1, "...", false);
 }
 
-CameraOutcome ToggleShowCameras(Settings& settings) {
+Outcome ToggleShowCameras(Settings& settings) {
   settings.show_cameras = !settings.show_cameras;
   return Turned("Toggled Camera Display and Tracking");
 }
 
-CameraOutcome ToggleLockCameras(Settings& settings) {
+Outcome ToggleLockCameras(Settings& settings) {
   settings.lock_cameras = !settings.lock_cameras;
   return Turned("Toggled Camera Lock for 3D and XY Views");
 }
 
-CameraOutcome CycleDrawMode(Settings& settings) {
+Outcome CycleDrawMode(Settings& settings) {
   static constexpr const char* kNames[] = {"Wire", "Flat", "Texture"};
   settings.drawmode = settings.drawmode >= 0 && settings.drawmode < 2 ? settings.drawmode + 1 : 0;
   return Tilted(Format("Mode set to %s", kNames[settings.drawmode]).c_str());
 }
 
-CameraOutcome SetRenderQuality(Settings& settings, int index) {
+Outcome SetRenderQuality(Settings& settings, int index) {
   if (index < 0 || index >= int(std::size(kRenderQualities))) return {};
   const RenderQuality& quality = kRenderQualities[index];
   settings.render_width = quality.width;
@@ -265,7 +271,7 @@ CameraOutcome SetRenderQuality(Settings& settings, int index) {
   return Tilted(Format("Render Quality set to %i x %i", quality.width, quality.height).c_str());
 }
 
-CameraOutcome SetWindowQuality(Settings& settings) {
+Outcome SetWindowQuality(Settings& settings) {
   settings.window_quality = true;
   return Tilted("Render Quality set to Window");
 }

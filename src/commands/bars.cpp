@@ -79,11 +79,11 @@ std::string ButtonTip(const Command& command) {
 
 std::vector<std::string> TextureListNames(const Editor& editor) {
   std::vector<std::string> names;
-  if (const MapDocument* document = editor.current()) {
+  if (const MapDocument* document = editor.documents().current()) {
     for (int i = 0; i < document->textures.count(); ++i) {
       names.push_back(document->textures.at(i).texture->name);
     }
-  } else if (const Wad* wad = editor.textureManager().current()) {
+  } else if (const Wad* wad = editor.textures().current()) {
     for (const auto& texture : wad->textures) names.push_back(texture->name);
   }
   return names;
@@ -93,15 +93,17 @@ void ChooseTexture(Editor& editor, const std::string& name) {
   const std::vector<std::string> names = TextureListNames(editor);
   const auto found = std::find(names.begin(), names.end(), name);
   if (found == names.end()) return;
-  TextureBrowser& browser = editor.textureBrowser();
-  if (MapDocument* document = editor.current()) {
-    browser.selectTexture(document->textures, static_cast<int>(found - names.begin()));
+  TextureChoice& choice = editor.texture();
+  if (MapDocument* document = editor.documents().current()) {
+    choice.selectTexture(document->textures, static_cast<int>(found - names.begin()));
   } else {
-    texturedef chosen = browser.current();
+    texturedef chosen = choice.current();
     chosen.name = name;
-    browser.setCurrent(chosen);
+    choice.setCurrent(chosen);
   }
-  editor.observer().texturesChanged();
+  Outcome outcome;
+  outcome.textures = true;
+  editor.door().show(outcome);
 }
 
 }  // namespace velk

@@ -8,8 +8,9 @@ namespace velk {
 std::span<const Command> Commands() {
   static const std::vector<Command> all = [] {
     std::vector<Command> rows;
-    for (const auto piece : {FileCommands(), EditCommands(), MapCommands(), DisplayCommands(),
-                             WindowCommands(), KeyCommands()}) {
+    for (const auto piece :
+         {FileCommands(), EditCommands(), SelectCommands(), MakeCommands(), TextureCommands(), MapCommands(),
+          DisplayCommands(), WindowCommands(), KeyCommands()}) {
       rows.insert(rows.end(), piece.begin(), piece.end());
     }
     return rows;

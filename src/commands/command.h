@@ -7,22 +7,22 @@
 #include <string_view>
 #include <vector>
 
+#include "base/outcome.h"
+
 namespace velk {
 
 class Editor;
+class map;
 
-// When a command can be given.
-enum class When {
-  Always,
-  MapOpen,
-  RoomForMap,         // fewer than ten maps are open
-  SelectionInEntity,  // the current entity has a selected brush
-  UndoKept,
-  RedoKept,
-  RecentMap,   // its place in the list of recent maps is taken
-  RecentKept,  // there are recent maps
-  LeaksShown,
-  Never,  // no operation stands behind it
+// What runs a command. One that works on a map gets it, and does nothing without one.
+struct Handler {
+  Outcome (*plain)(Editor&) = nullptr;
+  Outcome (*onMap)(Editor&, map&) = nullptr;
+
+  constexpr Handler() = default;
+  constexpr Handler(Outcome (*handler)(Editor&)) : plain(handler) {}
+  constexpr Handler(Outcome (*handler)(Editor&, map&)) : onMap(handler) {}
+  explicit constexpr operator bool() const { return plain || onMap; }
 };
 
 struct Command {
@@ -34,15 +34,19 @@ struct Command {
   const char* keyText = "";  // as the menu shows it
   const char* keys = "";     // strokes parted by blanks: "Ctrl+Shift+Space Ctrl+Space", "Num-"
   const char* hint = "";
-  When when = When::Always;
-  bool (*checked)(const Editor&) = nullptr;  // none: not a check mark item
-  void (*run)(Editor&) = nullptr;            // none: not built yet
-  const char* reason = "";                   // why there is no handler
+  bool (*enabled)(const Editor&) = nullptr;          // none: always, when something stands behind it
+  bool (*checked)(const Editor&) = nullptr;          // none: not a check mark item
+  bool (*shown)(const Editor&) = nullptr;            // none: always in its menu
+  std::string (*labelNow)(const Editor&) = nullptr;  // in place of the label
+  bool saysWhy = false;                              // runs even when disabled, to say why it refuses
+  Handler run = {};                                  // none: not built yet
+  const char* caption = nullptr;                     // of the box that says why it failed
+  const char* failure = nullptr;                     // what that box says first
+  const char* reason = "";                           // why there is no handler
 };
 
 // Every command, in menu order; those without a menu item last.
 std::span<const Command> Commands();
-inline constexpr int kFirstRecentMap = 1010;  // number of the command that opens it
 const Command* FindCommand(int id);
 // Without regard to case; also accepts the number as text. None when there is no such command.
 const Command* FindCommand(std::string_view nameOrNumber);

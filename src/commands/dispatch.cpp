@@ -1,52 +1,20 @@
 #include "commands/dispatch.h"
 
-#include "base/text.h"
-
 namespace velk {
-namespace {
 
-constexpr int kUndo = 11844;
-constexpr int kRedo = 1100;
-
-std::string Named(const char* verb, const std::string& name) {
-  return name.empty() ? Format("&%s...", verb) : Format("&%s %s...", verb, name.c_str());
-}
+bool MapOpen(const Editor& editor) { return editor.documents().count() > 0; }
 
 bool SelectionInEntity(const Editor& editor) {
-  map* m = editor.current() ? &editor.current()->model : nullptr;
+  map* m = editor.documents().currentMap();
   return m && m->selectedCount() > 0;
 }
 
-}  // namespace
-
 bool IsEnabled(const Editor& editor, const Command& command) {
-  if (!command.run) return false;
-  switch (command.when) {
-    case When::Always:
-      return true;
-    case When::MapOpen:
-      return editor.mapCount() > 0;
-    case When::RoomForMap:
-      return editor.mapCount() < MAX_MAPS;
-    case When::SelectionInEntity:
-      return SelectionInEntity(editor);
-    case When::UndoKept:
-      return editor.current() && editor.current()->history.canUndo();
-    case When::RedoKept:
-      return editor.current() && editor.current()->history.canRedo();
-    case When::RecentMap:
-      return command.id - kFirstRecentMap < editor.recentMaps().count();
-    case When::RecentKept:
-      return editor.recentMaps().count() > 0;
-    case When::LeaksShown:
-    case When::Never:
-      return false;
-  }
-  return false;
+  return command.run && (!command.enabled || command.enabled(editor));
 }
 
 bool CanRun(const Editor& editor, const Command& command) {
-  return IsEnabled(editor, command) || command.when == When::RoomForMap;
+  return IsEnabled(editor, command) || command.saysWhy;
 }
 
 bool IsChecked(const Editor& editor, const Command& command) {
@@ -54,27 +22,23 @@ bool IsChecked(const Editor& editor, const Command& command) {
 }
 
 bool IsHidden(const Editor& editor, const Command& command) {
-  return command.when == When::RecentMap && !IsEnabled(editor, command);
+  return command.shown && !command.shown(editor);
 }
 
 std::string LabelOf(const Editor& editor, const Command& command) {
-  const UndoHistory* history = editor.current() ? &editor.current()->history : nullptr;
-  if (command.id == kUndo) return Named("Undo", history ? history->undoName() : "");
-  if (command.id == kRedo) return Named("Redo", history ? history->redoName() : "");
-  if (command.when == When::RecentMap && IsEnabled(editor, command)) {
-    const int index = command.id - kFirstRecentMap;
-    return RecentMapLabel(index, editor.recentMaps().at(index));
-  }
-  return command.label;
+  return command.labelNow ? command.labelNow(editor) : command.label;
 }
 
-bool RunCommand(Editor& editor, const Command& command) {
+bool RunCommand(Editor& editor, const Command& command, bool byKey) {
   if (!CanRun(editor, command)) return false;
-  editor.beginChange();
-  command.run(editor);
-  editor.endChange(PlainLabel(command));
-  editor.observer().commandsChanged();
-  return true;
+  Change change{.name = PlainLabel(command), .byKey = byKey};
+  if (command.caption) change.caption = command.caption;
+  if (command.failure) change.failure = command.failure;
+  return editor.door().perform(change, [&] {
+    if (command.run.plain) return command.run.plain(editor);
+    map* m = editor.documents().currentMap();
+    return m ? command.run.onMap(editor, *m) : Outcome{};
+  });
 }
 
 }  // namespace velk

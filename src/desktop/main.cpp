@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "base/error.h"
+#include "commands/named_files.h"
 #include "desktop/dialogs/picture_prompts.h"
 #include "desktop/dialogs/qt_prompts.h"
 #include "desktop/dialogs/shown_text.h"
@@ -121,14 +122,14 @@ int runWindow(const Request& request) {
   QtPrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setOwner(&window);
-  prompts.setPaths(&window.editor().paths());
+  prompts.setPaths(&window.editor().services().paths);
   window.start();
-  const CrashGuard guard([&window] { window.editor().writeRescueCopies(); });
+  const CrashGuard guard([&window] { window.editor().rescue().writeCopies(); });
   if (request.timeStart) ReportFirstPaint(window);
   scheme.takeAnswer();
   window.keepState();
   showFitting(window);
-  window.editor().offerRescueCopies();
+  window.editor().rescue().offer();
   window.openFiles(request.files(window.editor().place()));
   return QApplication::exec();
 }
@@ -138,7 +139,7 @@ int runPicture(const Request& request, const std::string& picture) {
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setSettings(&window.editor().settings());
   window.start();
-  for (const std::string& file : request.files(window.editor().place())) window.editor().openFile(file);
+  for (const std::string& file : request.files(window.editor().place())) OpenNamed(window.editor(), file);
   window.show();
   if (window.savePicture(picture)) return 0;
   std::fprintf(stderr, "velk: couldn't write %s\n", picture.c_str());

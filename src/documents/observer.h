@@ -1,33 +1,35 @@
-// What the editor tells whoever shows it. Few notices, each without detail: the receiver asks the editor
-// for what it shows.
+// What the editor tells whoever shows it. Notices come without detail: the receiver asks the editor for what
+// it shows.
 #pragma once
 
 #include <string>
 
 namespace velk {
 
+// What looks different after something was done.
+struct Changes {
+  bool planViews = false;
+  bool strips = false;  // of the plan views
+  bool camera = false;
+  bool selectedBrush = false;
+  bool maps = false;      // the list of open maps, the current one, a name, whether one differs from its file
+  bool entity = false;    // contents of the entity window
+  bool groups = false;    // of the group window
+  bool textures = false;  // of the texture browser
+  bool commands = false;  // menus, bars and check marks
+
+  static Changes All() { return {true, true, true, true, true, true, true, true, true}; }
+};
+
 class Observer {
  public:
   virtual ~Observer() = default;
   // The status line's text changed.
   virtual void statusChanged(const std::string& /*text*/) {}
-  // Views whose pictures are out of date.
-  virtual void redrawCamera() {}
-  virtual void redrawPlanViews() {}
-  virtual void redrawSelectedBrush() {}
-  // The list of open maps, the current one, a path or a modified flag changed: titles, tabs.
-  virtual void mapsChanged() {}
+  // Once after everything that was done.
+  virtual void changed(const Changes& /*what*/) {}
   // Start-up loads `total` lumps of a wad and has done so many of them; no text: it is over.
   virtual void loadProgress(const std::string& /*text*/, int /*done*/, int /*total*/) {}
-  // Contents of a tool window changed.
-  virtual void entityChanged() {}
-  virtual void groupsChanged() {}
-  virtual void texturesChanged() {}
-  // Menus, bars and check marks may look different.
-  virtual void commandsChanged() {}
-  // The user asked for the window that replaces textures, which stays open beside the others. False when
-  // there is none: the texts are asked for one after the other instead.
-  virtual bool showReplaceTexture() { return false; }
   // The user asked for the manual.
   virtual void helpRequested() {}
   // The user asked to exit and gave no Cancel.

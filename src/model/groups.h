@@ -14,6 +14,11 @@ struct group {
   bool visible = true;
   Colour colour;
   int brushCount = 0;  // filled in on demand, never saved
+
+  // What a file holds of them.
+  friend bool operator==(const group& a, const group& b) {
+    return a.name == b.name && a.visible == b.visible && a.colour == b.colour;
+  }
 };
 
 // Group 0 always exists and is named "None" in a new list.
@@ -45,6 +50,8 @@ class GroupList {
   // What the group filter asks of a brush's group number: negative ones count as visible, those beyond
   // the list as not visible.
   bool passes(int number) const { return number < 0 || visible(number); }
+
+  friend bool operator==(const GroupList&, const GroupList&) = default;
 
  private:
   bool has(int index) const { return index >= 0 && index < count(); }

@@ -1,121 +1,83 @@
 #include "mouse/pointer.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "planview/header_strip.h"
-#include "planview/view_steps.h"
-
 namespace velk {
-
 namespace {
 
-constexpr int kViewDragCode = 100;  // beyond the codes of the bound operations
+ViewPoint Minus(ViewPoint a, ViewPoint b) { return {a.u - b.u, a.v - b.v}; }
 
-// Moves planCenter so that `world` is shown at the pixel.
-void pinUnder(const PlanPointerContext& context, const ViewPoint& world, Pixel at) {
-  const PlanProjection projection = context.projection();
-  const ViewPoint now = projection.screenToWorld(at);
-  vec3& centre = context.set.planCenter;
-  centre[projection.axisU] = float(projection.centreU + world.u - now.u);
-  centre[projection.axisV] = float(projection.centreV + world.v - now.v);
-}
-
-// Moves the view along with the cursor.
-class ViewDrag : public Drag {
- public:
-  explicit ViewDrag(ViewPoint grabbed) : grabbed_(grabbed) {}
-
-  int code() const override { return kViewDragCode; }
-
-  bool move(const PlanPointerContext& context, const PointerEvent& event) override {
-    const vec3 before = context.set.planCenter;
-    pinUnder(context, grabbed_, event.at);
-    return !VecEqual(before, context.set.planCenter);
-  }
-
-  PointerOutcome finish(const PlanPointerContext& context, const PointerEvent& event) override {
-    PointerOutcome outcome;
-    outcome.redrawPlanViews = move(context, event);
-    return outcome;
-  }
-
- private:
-  ViewPoint grabbed_;  // the world point that stays under the cursor
-};
-
-PressResult startViewDrag(const PlanPointerContext& context, const PointerEvent& event) {
-  PressResult result;
-  if (!context.settings.middle_drag || event.button != MouseButton::Middle) return result;
-  result.claimed = true;
-  result.drag = std::make_unique<ViewDrag>(context.projection().screenToWorld(event.at));
-  return result;
+ViewPoint PointAt(const MouseContext& context, const Drag& drag, Pixel at) {
+  if (context.inCamera()) return {};
+  const ViewPoint point = context.projection().screenToWorld(at);
+  return drag.snaps() ? snapToGrid(point, context.settings) : point;
 }
 
 }  // namespace
 
-PointerOutcome PlanPointer::press(const PlanPointerContext& context, const PointerEvent& event) {
-  if (!context.current || drag_ || event.at.y < kStripHeight) return {};
-  PressResult result;
-  for (const PressOperation& operation : operations) {
-    result = operation(context, event);
-    if (result.claimed) break;
+Outcome Pointer::press(const MouseContext& context, const PointerEvent& event) {
+  if (drag_) return {};
+  ToolStart started;
+  for (const StartTool& start : tools) {
+    started = start(context, event);
+    if (started.claimed) break;
   }
-  if (!result.claimed) result = startViewDrag(context, event);
-  if (!result.claimed) return {};
-  result.outcome.handled = true;
-  if (result.drag) {
-    drag_ = std::move(result.drag);
-    context.planView().dragOp = drag_->code();
-    result.outcome.capture = true;
+  if (!started.drag) return started.outcome;
+  drag_ = std::move(started.drag);
+  view_ = context.view;
+  state_ = {};
+  state_.press = state_.now = event;
+  state_.start = state_.current = PointAt(context, *drag_, event.at);
+  if (!context.inCamera()) {
+    context.plan().dragOp = drag_->code();
+    context.plan().snapDrag = drag_->snaps();
   }
-  return result.outcome;
+  return started.outcome;
 }
 
-PointerOutcome PlanPointer::move(const PlanPointerContext& context, const PointerEvent& event) {
-  PointerOutcome outcome;
-  PlanView& view = context.planView();
-  std::string text = coordinateText(context.projection().screenToWorld(event.at), context.settings);
-  outcome.redrawStrip = text != view.coordinateText;
-  view.coordinateText = std::move(text);
-  if (drag_) {
-    outcome.handled = true;
-    outcome.redrawPlanViews = drag_->move(context, event);
-  }
-  return outcome;
+// False when nothing moved.
+bool Pointer::follow(const MouseContext& context, const PointerEvent& event) {
+  const Pixel before = state_.now.at;
+  const MouseButton button = state_.press.button;
+  state_.now = event;
+  state_.now.button = button;
+  const bool moved = !(before == event.at);
+  if (context.inCamera()) return moved;
+  state_.current = PointAt(context, *drag_, event.at);
+  const ViewPoint total = Minus(state_.current, state_.start);
+  if (drag_->goesByPixels() ? !moved : total.u == state_.total.u && total.v == state_.total.v) return false;
+  state_.step = Minus(total, state_.total);
+  state_.total = total;
+  return true;
 }
 
-PointerOutcome PlanPointer::release(const PlanPointerContext& context, const PointerEvent& event) {
+Outcome Pointer::move(const MouseContext& context, const PointerEvent& event) {
+  if (!drag_ || !follow(context, event)) return {};
+  return drag_->move(context, state_);
+}
+
+void Pointer::end(const MouseContext& context) {
+  drag_.reset();
+  if (context.inCamera()) return;
+  context.plan().dragOp = 0;
+  context.plan().snapDrag = false;
+  context.plan().deltaText.clear();
+}
+
+Outcome Pointer::release(const MouseContext& context, const PointerEvent& event) {
   if (!drag_) return {};
-  const std::unique_ptr<Drag> drag = std::move(drag_);
-  PointerOutcome outcome = drag->finish(context, event);
-  outcome.handled = true;
-  context.planView().dragOp = 0;
-  context.planView().snapDrag = false;
-  if (!context.planView().deltaText.empty()) {
-    context.planView().deltaText.clear();
-    outcome.redrawStrip = true;
-  }
-  return outcome;
+  Outcome outcome = move(context, event);
+  Outcome finished = drag_->finish(context, state_);
+  finished.redraw = finished.redraw | outcome.redraw | Redraw::Strips;
+  if (finished.status.empty()) finished.status = std::move(outcome.status);
+  end(context);
+  return finished;
 }
 
-PointerOutcome PlanPointer::wheel(const PlanPointerContext& context, const PointerEvent& event, int steps) {
-  PointerOutcome outcome;
-  if (!context.settings.wheel_zoom || !context.current || steps == 0) return outcome;
-  outcome.handled = true;
-  outcome.redrawPlanViews = true;
-  constexpr int kAllSteps = 11;  // from one end of the scale to the other
-  for (int i = std::clamp(steps, -kAllSteps, kAllSteps); i != 0; i += steps > 0 ? -1 : 1) {
-    outcome.status = zoomAt(context, event.at, steps > 0);
-  }
-  return outcome;
-}
-
-std::string zoomAt(const PlanPointerContext& context, Pixel at, bool in) {
-  const ViewPoint world = context.projection().screenToWorld(at);
-  std::string status = in ? scaleUp(context.settings) : scaleDown(context.settings);
-  pinUnder(context, world, at);
-  return status;
+void Pointer::cancel(const MouseContext& context) {
+  if (!drag_) return;
+  drag_->cancel(context);
+  end(context);
 }
 
 }  // namespace velk

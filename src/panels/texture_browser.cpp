@@ -25,71 +25,45 @@ float SteppedScale(float scale, int direction) {
 
 }  // namespace
 
-void TextureBrowser::reset() {
-  current_.shift[0] = current_.shift[1] = 0;
-  current_.rotate = 0;
-  current_.scale[0] = current_.scale[1] = 1;
-}
-
-void TextureBrowser::step(TextureField field, int direction) {
+void StepTextureField(TextureChoice& choice, TextureField field, int direction) {
+  texturedef stepped = choice.current();
   switch (field) {
     case TextureField::ShiftS:
-      current_.shift[0] += static_cast<float>(direction);
+      stepped.shift[0] += static_cast<float>(direction);
       break;
     case TextureField::ShiftT:
-      current_.shift[1] += static_cast<float>(direction);
+      stepped.shift[1] += static_cast<float>(direction);
       break;
     case TextureField::Rotate:
-      current_.rotate = SteppedRotation(current_.rotate, direction);
+      stepped.rotate = SteppedRotation(stepped.rotate, direction);
       break;
     case TextureField::ScaleS:
-      current_.scale[0] = SteppedScale(current_.scale[0], direction);
+      stepped.scale[0] = SteppedScale(stepped.scale[0], direction);
       break;
     case TextureField::ScaleT:
-      current_.scale[1] = SteppedScale(current_.scale[1], direction);
+      stepped.scale[1] = SteppedScale(stepped.scale[1], direction);
       break;
   }
+  choice.setCurrent(stepped);
 }
 
-std::string TextureBrowser::fieldText(TextureField field) const {
-  auto whole = [](float value) { return Format("%i", Truncate(RoundHalfAway(value))); };
-  auto tenths = [](float value) { return Format("%2.1f", static_cast<double>(value)); };
+std::string TextureFieldText(const TextureChoice& choice, TextureField field) {
+  const texturedef& shown = choice.current();
+  const auto whole = [](float value) { return Format("%i", Truncate(RoundHalfAway(value))); };
+  const auto tenths = [](float value) { return Format("%2.1f", static_cast<double>(value)); };
   switch (field) {
     case TextureField::ShiftS:
-      return whole(current_.shift[0]);
+      return whole(shown.shift[0]);
     case TextureField::ShiftT:
-      return whole(current_.shift[1]);
+      return whole(shown.shift[1]);
     case TextureField::Rotate:
-      return whole(current_.rotate);
+      return whole(shown.rotate);
     case TextureField::ScaleS:
-      return tenths(current_.scale[0]);
+      return tenths(shown.scale[0]);
     case TextureField::ScaleT:
-      return tenths(current_.scale[1]);
+      return tenths(shown.scale[1]);
   }
   return "";
-}
-
-void TextureBrowser::wadLoaded() {
-  currentIndex_ = 0;
-  reset();
-}
-
-void TextureBrowser::takeFirstTexture(const TextureSet& set) {
-  if (set.count() > 0) current_.name = set.at(0).texture->name;
-}
-
-bool TextureBrowser::selectTexture(TextureSet& set, int index) {
-  if (index < 0 || index >= set.count()) return false;
-  currentIndex_ = index;
-  current_.name = set.currentName = set.at(index).texture->name;
-  return true;
-}
-
-bool TextureBrowser::liftTexture(const texturedef& definition, TextureSet* set) {
-  if (EqualNoCase(definition.name, "ENTITY")) return false;
-  if (set) selectTexture(*set, set->indexOf(definition.name));
-  current_ = definition;
-  return true;
 }
 
 }  // namespace velk

@@ -1,49 +1,18 @@
-// The state of the texture browser: the texture definition that commands apply.
+// The texture browser's window: the five numbers of the chosen texture with their buttons.
 #pragma once
 
 #include <string>
 
-#include "geometry/texturedef.h"
-#include "textures/texture_set.h"
+#include "textures/texture_choice.h"
 
 namespace velk {
 
 // The numbers of a texture definition, as the browser's header shows them.
 enum class TextureField { ShiftS, ShiftT, Rotate, ScaleS, ScaleT };
 
-class TextureBrowser {
- public:
-  TextureBrowser() { reset(); }
-
-  // What Set Face Texture and new brushes take.
-  const texturedef& current() const { return current_; }
-  void setCurrent(const texturedef& definition) { current_ = definition; }
-  // Place of the current texture in the map's set.
-  int currentIndex() const { return currentIndex_; }
-
-  // Shifts and rotation 0, scales 1.
-  void reset();
-  // One press of a field's "+" (direction 1) or "-" (-1) button.
-  void step(TextureField field, int direction);
-  // The value as its field shows it.
-  std::string fieldText(TextureField field) const;
-
-  // After a wad was loaded: the first texture's place, numbers reset; the name stays.
-  void wadLoaded();
-  // Start-up: takes the name of the set's first texture, when it has one.
-  void takeFirstTexture(const TextureSet& set);
-
-  // Makes the texture of that place current, its name that of the definition; numbers stay. Places
-  // outside the set are ignored. True when there was one to select.
-  bool selectTexture(TextureSet& set, int index);
-
-  // Takes a face's definition. When the map's set (may be none) has a texture of that name, in any case,
-  // it becomes current there. "ENTITY", in any case, changes nothing. True when the definition was taken.
-  bool liftTexture(const texturedef& definition, TextureSet* set);
-
- private:
-  texturedef current_;
-  int currentIndex_ = 0;
-};
+// One press of a field's "+" (direction 1) or "-" (-1) button.
+void StepTextureField(TextureChoice& choice, TextureField field, int direction);
+// The value as its field shows it.
+std::string TextureFieldText(const TextureChoice& choice, TextureField field);
 
 }  // namespace velk

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "commands/context_menus.h"
 #include "commands/dispatch.h"
 #include "mapfile/map_writer.h"
 
@@ -14,8 +15,8 @@ namespace {
 using Lines = std::vector<std::string>;
 
 map& openMap(Editor& editor) {
-  if (!editor.currentMap()) throw ScriptFailure("no map is open");
-  return *editor.currentMap();
+  if (!editor.documents().currentMap()) throw ScriptFailure("no map is open");
+  return *editor.documents().currentMap();
 }
 
 brush& currentBrush(Editor& editor) {
@@ -76,7 +77,7 @@ std::string faceText(const brush& b) {
 
 std::string pickText(Editor& editor, Pixel at) {
   const map& m = openMap(editor);
-  const FacePick pick = editor.pickInCamera(at);
+  const FacePick pick = editor.views().pickInCamera(at);
   if (!pick.hit) return "none";
   return Format("%d %d %d", m.indexOf(pick.hit->owner), pick.hit->owner->indexOf(pick.hit), pick.face);
 }
@@ -87,10 +88,9 @@ std::string settingText(const Editor& editor, const std::string& key) {
   return *text;
 }
 
-std::string viewText(const Editor& editor, ScriptView view) {
-  if (view == ScriptView::Camera) return editor.titleOf(ToolWindow::Camera);
-  return editor.titleOf(
-      static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + static_cast<int>(view)));
+std::string viewText(const Editor& editor, int view) {
+  const int plan = static_cast<int>(ToolWindow::Plan1) + view;
+  return WindowTitle(editor, view == kCameraView ? ToolWindow::Camera : static_cast<ToolWindow>(plan));
 }
 
 const char* orDash(bool is, const char* word) { return is ? word : "-"; }
@@ -121,18 +121,18 @@ Lines windowLines(Editor& editor) {
   Lines lines;
   for (int i = 0; i < kToolWindows; ++i) {
     const auto window = static_cast<ToolWindow>(i);
-    const WindowPlacement placement = editor.windows().placement(window);
+    const WindowPlacement placement = editor.windows().windows().placement(window);
     const auto& [left, top, right, bottom] = placement.normal;
-    lines.push_back(Format("%s %s (%d %d %d %d) %s", ScriptQuoted(editor.titleOf(window)).c_str(),
+    lines.push_back(Format("%s %s (%d %d %d %d) %s", ScriptQuoted(WindowTitle(editor, window)).c_str(),
                            stateText(placement.state), left, top, right, bottom,
-                           orDash(editor.windows().hasFocus(window), "focus")));
+                           orDash(editor.windows().windows().hasFocus(window), "focus")));
   }
   return lines;
 }
 
 Lines undoLines(Editor& editor) {
   openMap(editor);
-  const UndoHistory& history = editor.current()->history;
+  const UndoHistory& history = editor.documents().current()->history;
   Lines lines;
   for (const std::string& name : history.undoNames()) lines.push_back("undo " + ScriptQuoted(name));
   for (const std::string& name : history.redoNames()) lines.push_back("redo " + ScriptQuoted(name));
@@ -166,10 +166,10 @@ Lines groupLines(const map& m) {
 
 Lines openMapLines(Editor& editor) {
   Lines lines;
-  for (int i = 0; i < editor.mapCount(); ++i) {
-    const map& m = editor.document(i)->model;
+  for (int i = 0; i < editor.documents().count(); ++i) {
+    const map& m = editor.documents().at(i)->model;
     lines.push_back(Format("%d %s %s %s", i, ScriptQuoted(m.name).c_str(), orDash(m.modified, "modified"),
-                           orDash(i == editor.currentIndex(), "current")));
+                           orDash(i == editor.documents().currentIndex(), "current")));
   }
   return lines;
 }
@@ -186,13 +186,14 @@ Lines mapLines(map& m) {
 
 using Printer = Lines (*)(Editor&);
 constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
-    {"status", [](Editor& e) { return Lines{e.status()}; }},
-    {"title", [](Editor& e) { return Lines{e.title()}; }},
+    {"status", [](Editor& e) { return Lines{e.documents().status()}; }},
+    {"title", [](Editor& e) { return Lines{FrameTitle(e)}; }},
     {"counts", [](Editor& e) { return Lines{countsText(openMap(e))}; }},
     {"current", [](Editor& e) { return Lines{currentText(openMap(e))}; }},
     {"selection", [](Editor& e) { return selectionLines(openMap(e)); }},
     {"camera", [](Editor& e) { return Lines{eyeText(openMap(e))}; }},
-    {"textures", [](Editor& e) { return openMap(e), Lines{Format("%d", e.current()->textures.count())}; }},
+    {"textures",
+     [](Editor& e) { return openMap(e), Lines{Format("%d", e.documents().current()->textures.count())}; }},
     {"face", [](Editor& e) { return Lines{faceText(currentBrush(e))}; }},
     {"groups", [](Editor& e) { return groupLines(openMap(e)); }},
     {"undo", undoLines},
@@ -201,6 +202,22 @@ constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
     {"windows", windowLines},
     {"map", [](Editor& e) { return mapLines(openMap(e)); }},
 }};
+
+std::string TextBeforeTab(const std::string& label) { return label.substr(0, label.find('\t')); }
+
+Lines ContextMenuLines(Editor& editor, const std::string& name) {
+  const auto menu = ContextMenu(editor, name);
+  if (!menu) throw ScriptFailure("no such menu: " + name);
+  constexpr const char* kChecks[] = {"-", "unchecked", "checked"};
+  Lines lines;
+  for (const MenuItem& item : *menu) {
+    if (item.separator) continue;
+    lines.push_back(Format("%s %s %s", item.enabled ? "enabled" : "disabled",
+                           kChecks[static_cast<int>(item.check)],
+                           ScriptQuoted(TextBeforeTab(item.label)).c_str()));
+  }
+  return lines;
+}
 
 Lines printPlain(Editor& editor, const ScriptPrompts& prompts, const std::string& what) {
   for (const auto& [word, printer] : kPrinters) {
@@ -212,12 +229,21 @@ Lines printPlain(Editor& editor, const ScriptPrompts& prompts, const std::string
 
 }  // namespace
 
-ScriptView ScriptViewNamed(const std::string& name) {
-  constexpr std::array<std::string_view, 4> kNames{"XY", "XZ", "YZ", "3D"};
-  for (size_t i = 0; i < kNames.size(); ++i) {
-    if (EqualNoCase(name, kNames[i])) return static_cast<ScriptView>(i);
+int ScriptViewNamed(const std::string& name) {
+  for (int i = 0; i <= kCameraView; ++i) {
+    if (EqualNoCase(name, kViewNames[i])) return i;
   }
   throw ScriptFailure("no such view: " + name);
+}
+
+const MenuItem* FindMenuItem(const Menu& menu, const std::string& name) {
+  const size_t mark = name.rfind('#');
+  const std::string label = name.substr(0, mark);
+  int left = mark == std::string::npos ? 1 : TextToInt(name.substr(mark + 1));
+  for (const MenuItem& item : menu) {
+    if (!item.separator && TextBeforeTab(item.label) == label && --left == 0) return &item;
+  }
+  return nullptr;
 }
 
 int ScriptNumber(const ScriptWord& word) {
@@ -235,6 +261,7 @@ Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vecto
   if (what.size() == 2 && EqualNoCase(word, "view")) {
     return {viewText(editor, ScriptViewNamed(what[1].text))};
   }
+  if (what.size() == 2 && EqualNoCase(word, "menu")) return ContextMenuLines(editor, what[1].text);
   if (what.size() == 3 && EqualNoCase(word, "pick")) {
     return {pickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
   }

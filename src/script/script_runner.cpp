@@ -6,7 +6,10 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "base/tokenizer.h"
+#include "commands/context_menus.h"
 #include "commands/dispatch.h"
+#include "documents/disk_check.h"
+#include "documents/opening.h"
 #include "script/script_print.h"
 
 namespace velk {
@@ -47,8 +50,9 @@ void setModifier(PointerEvent& event, const ScriptWord& word) {
   }
 }
 
-void runEnabled(Editor& editor, const Command& command, const std::string& asked) {
-  if (RunCommand(editor, command)) return;
+void RunEnabled(Editor& editor, const Command& command, const std::string& asked, bool byKey) {
+  if (RunCommand(editor, command, byKey)) return;
+  if (editor.door().dragRuns()) throw ScriptFailure(asked + " is refused while a drag runs");
   std::string message = asked + " is disabled";
   if (*command.reason) message += std::string(" (") + command.reason + ")";
   throw ScriptFailure(message);
@@ -76,6 +80,7 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"release", 3, 3, "release VIEW X Y", &ScriptRunner::release},
       {"wheel", 4, 4, "wheel VIEW STEPS X Y", &ScriptRunner::wheel},
       {"print", 1, 3, "print WHAT", &ScriptRunner::print},
+      {"menu", 2, 2, "menu WINDOW LABEL", &ScriptRunner::menu},
       {"checkdisk", 0, 0, "checkdisk", &ScriptRunner::checkDisk},
       {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
       {"offer", 0, 0, "offer", &ScriptRunner::offer},
@@ -85,35 +90,38 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
   return all;
 }
 
-ScriptResult ScriptRunner::run(std::string_view text) {
+ScriptResult ScriptRunner::run(std::string_view text, const Start& start) {
   std::vector<ScriptLine> lines;
   Tokenizer tokens(text);
+  // What is wrong with a script's words is the script's failure, not the editor's.
+  const auto wrong = editor_.door().trapped([&] { readLines(tokens, lines); });
+  if (wrong) return {false, tokens.line(), *wrong};
+  auto line = lines.begin();
+  int number = 0;
+  const auto take = [&] {
+    number = line->number;
+    perform((line++)->words);
+  };
+  const auto isAnswer = [](const ScriptLine& l) { return EqualNoCase(l.words[0].text, "answer"); };
   try {
-    // What is wrong with a script's words is the script's failure, not the editor's.
-    const ErrorTrap trap;
-    readLines(tokens, lines);
-  } catch (const TrappedError& failure) {
-    return {false, tokens.line(), failure.what()};
-  }
-  for (const ScriptLine& line : lines) {
-    try {
-      perform(line.words);
-    } catch (const ScriptFailure& failure) {
-      return {false, line.number, failure.what()};
-    }
-    if (editor_.exiting()) break;
+    for (; start && line != lines.end() && isAnswer(*line);) take();
+    number = 0;
+    if (start) start();
+    for (; line != lines.end() && !editor_.exiting();) take();
+  } catch (const ScriptFailure& failure) {
+    return {false, number, failure.what()};
   }
   return {};
 }
 
 // By a stream, so that a script may also come through a pipe.
-ScriptResult ScriptRunner::runFile(const std::filesystem::path& file) {
+ScriptResult ScriptRunner::runFile(const std::filesystem::path& file, const Start& start) {
   std::ifstream in(file, std::ios::binary);
   std::string text(kMaxScript, '\0');
   in.read(text.data(), static_cast<std::streamsize>(text.size()));
   if (!in.eof() || in.bad()) return {false, 0, "couldn't read the script " + file.string()};
   text.resize(static_cast<size_t>(in.gcount()));
-  return run(text);
+  return run(text, start);
 }
 
 void ScriptRunner::perform(const Words& words) {
@@ -133,7 +141,7 @@ void ScriptRunner::runCommand(const Words& words) {
   const Command* command = FindCommand(words[0].text);
   if (!command) throw ScriptFailure("no such instruction or command: " + words[0].text);
   if (words.size() > 1) throw ScriptFailure("a command stands alone on its line");
-  runEnabled(editor_, *command, words[0].text);
+  RunEnabled(editor_, *command, words[0].text, false);
 }
 
 void ScriptRunner::answer(const Words& words) {
@@ -151,73 +159,54 @@ void ScriptRunner::set(const Words& words) {
 void ScriptRunner::key(const Words& words) {
   const Command* command = CommandForStroke(ParseKeyStroke(words[0].text));
   if (!command) throw ScriptFailure("no command on the key " + words[0].text);
-  runEnabled(editor_, *command, words[0].text);
+  RunEnabled(editor_, *command, words[0].text, true);
 }
 
 void ScriptRunner::showMap(const Words& words) {
   const int number = ScriptNumber(words[0]);
-  if (!editor_.document(number)) throw ScriptFailure("no open map has the number " + words[0].text);
-  editor_.setCurrentIndex(number);
+  if (!editor_.documents().at(number)) throw ScriptFailure("no open map has the number " + words[0].text);
+  editor_.door().perform({.name = "Map"}, [&] { return SwitchTo(editor_.documents(), number); });
 }
 
 void ScriptRunner::size(const Words& words) {
   constexpr int kLargest = 16384;
-  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int view = ScriptViewNamed(words[0].text);
   const int width = ScriptNumber(words[1]);
   const int height = ScriptNumber(words[2]);
   if (width < 1 || height < 1 || width > kLargest || height > kLargest) {
     throw ScriptFailure("a view is 1 to 16384 pixels wide and high");
   }
-  if (view == ScriptView::Camera) {
-    editor_.cameraView().clientWidth = width;
-    editor_.cameraView().clientHeight = height;
-    return;
-  }
-  PlanView& plan = editor_.planViews().views[static_cast<size_t>(view)];
-  plan.clientWidth = width;
-  plan.clientHeight = height;
+  editor_.views().resize(view, width, height);
 }
 
 void ScriptRunner::press(const Words& words) {
-  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int view = ScriptViewNamed(words[0].text);
   held_ = {};
   held_.button = button(words[1]);
   held_.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
   for (size_t i = 4; i < words.size(); ++i) setModifier(held_, words[i]);
-  if (view == ScriptView::Camera) {
-    editor_.pressCamera(held_);
-  } else {
-    editor_.pressPlanView(static_cast<int>(view), held_);
-  }
+  editor_.input().press(view, held_);
 }
 
 void ScriptRunner::move(const Words& words) {
-  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int view = ScriptViewNamed(words[0].text);
   held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
-  if (view == ScriptView::Camera) {
-    editor_.moveInCamera(held_);
-  } else {
-    editor_.movePlanView(static_cast<int>(view), held_);
-  }
+  editor_.input().move(view, held_);
 }
 
 void ScriptRunner::release(const Words& words) {
-  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int view = ScriptViewNamed(words[0].text);
   held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
-  if (view == ScriptView::Camera) {
-    editor_.releaseCamera(held_);
-  } else {
-    editor_.releasePlanView(static_cast<int>(view), held_);
-  }
+  editor_.input().release(view, held_);
   held_ = {};
 }
 
 void ScriptRunner::wheel(const Words& words) {
-  const ScriptView view = ScriptViewNamed(words[0].text);
-  if (view == ScriptView::Camera) throw ScriptFailure("the wheel works in plan views");
+  const int view = ScriptViewNamed(words[0].text);
+  if (view == kCameraView) throw ScriptFailure("the wheel works in plan views");
   PointerEvent event;
   event.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
-  editor_.wheelPlanView(static_cast<int>(view), event, ScriptNumber(words[1]));
+  editor_.input().wheel(view, event, ScriptNumber(words[1]));
 }
 
 void ScriptRunner::print(const Words& words) {
@@ -225,20 +214,32 @@ void ScriptRunner::print(const Words& words) {
   out_.flush();
 }
 
-void ScriptRunner::checkDisk(const Words&) { editor_.checkDisk(); }
+void ScriptRunner::checkDisk(const Words&) {
+  CheckDisk(editor_.services(), editor_.documents(), editor_.door());
+}
 
 void ScriptRunner::image(const Words& words) {
-  const ScriptView view = ScriptViewNamed(words[0].text);
+  const int view = ScriptViewNamed(words[0].text);
   if (!pictures_) throw ScriptFailure("nothing here can draw pictures");
   if (!pictures_->savePicture(view, words[1].text)) {
     throw ScriptFailure("couldn't write the picture " + words[1].text);
   }
 }
 
-void ScriptRunner::offer(const Words&) { editor_.offerRescueCopies(); }
+// The text before a tab names the item; of several alike "Paste#2" names the second.
+void ScriptRunner::menu(const Words& words) {
+  const auto shown = ContextMenu(editor_, words[0].text);
+  if (!shown) throw ScriptFailure("no such menu: " + words[0].text);
+  const MenuItem* item = FindMenuItem(*shown, words[1].text);
+  if (!item) throw ScriptFailure("the menu has no item " + words[1].text);
+  if (!item->enabled || !item->run) throw ScriptFailure(words[1].text + " is disabled");
+  item->run();
+}
 
-void ScriptRunner::tick(const Words&) { editor_.tick(); }
+void ScriptRunner::offer(const Words&) { editor_.rescue().offer(); }
 
-void ScriptRunner::rescue(const Words&) { out_ << editor_.writeRescueCopies() << std::endl; }
+void ScriptRunner::tick(const Words&) { editor_.rescue().tick(); }
+
+void ScriptRunner::rescue(const Words&) { out_ << editor_.rescue().writeCopies() << std::endl; }
 
 }  // namespace velk

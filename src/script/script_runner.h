@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -12,15 +13,12 @@
 
 namespace velk {
 
-// The views a script can name: the three plan views as they are created, and the camera view.
-enum class ScriptView { XY = 0, XZ = 1, YZ = 2, Camera = 3 };
-
 // Draws views into picture files; the desktop's work.
 class ScriptPictures {
  public:
   virtual ~ScriptPictures() = default;
-  // False when the file could not be written.
-  virtual bool savePicture(ScriptView view, const std::string& file) = 0;
+  // `view` as the editor counts them. False when the file could not be written.
+  virtual bool savePicture(int view, const std::string& file) = 0;
 };
 
 struct ScriptResult {
@@ -42,10 +40,13 @@ class ScriptRunner {
   ScriptRunner(Editor& editor, ScriptPrompts& prompts, ScriptPictures* pictures, std::ostream& out)
       : editor_(editor), prompts_(prompts), pictures_(pictures), out_(out) {}
 
+  // What comes between the script's leading answers and the rest: starting the editor.
+  using Start = std::function<void()>;
+
   // Stops when the editor exits, and at the first instruction that fails. Fatal errors of the editor pass
   // through.
-  ScriptResult run(std::string_view text);
-  ScriptResult runFile(const std::filesystem::path& file);
+  ScriptResult run(std::string_view text, const Start& start = {});
+  ScriptResult runFile(const std::filesystem::path& file, const Start& start = {});
 
  private:
   using Words = std::vector<ScriptWord>;
@@ -66,6 +67,7 @@ class ScriptRunner {
   void print(const Words& words);
   void checkDisk(const Words& words);
   void image(const Words& words);
+  void menu(const Words& words);
   void offer(const Words& words);
   void tick(const Words& words);
   void rescue(const Words& words);

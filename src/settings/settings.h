@@ -158,6 +158,7 @@ struct Settings {
   bool middle_drag = false;     // the middle button drags plan views where no binding claims it
   bool window_quality = false;  // the camera view renders at its window's own pixel size
   int undo_levels = 1;
+  bool ask_when_changed = false;  // questions before closing go by what a map holds, not by its modified flag
 
   ViewColours colours;
 

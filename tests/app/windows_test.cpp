@@ -49,17 +49,17 @@ TEST(Windows, SavesASlotAndGoesRoundTheSlots) {
   for (const char* refused : {"0", "5", "x"}) {
     session.answer(refused);
     session.run("CM_FILE_ARRANGE");
-    EXPECT_FALSE(session.editor.arrangements().loaded) << refused;
+    EXPECT_FALSE(session.editor.windows().arrangements().loaded) << refused;
   }
   session.answer("2");
   session.run("CM_FILE_ARRANGE");
-  EXPECT_EQ(session.editor.status(), "Window arrangement 2 saved...");
+  EXPECT_EQ(session.editor.documents().status(), "Window arrangement 2 saved...");
   EXPECT_EQ(session.home.read("velk.pos").size(), Arrangements::kFileSize);
-  EXPECT_EQ(session.editor.arrangements().current, 0);
+  EXPECT_EQ(session.editor.windows().arrangements().current, 0);
   session.run("CM_WDOWN");
-  EXPECT_EQ(session.editor.arrangements().current, 3);
+  EXPECT_EQ(session.editor.windows().arrangements().current, 3);
   session.run("CM_WUP");
-  EXPECT_EQ(session.editor.arrangements().current, 0);
+  EXPECT_EQ(session.editor.windows().arrangements().current, 0);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ constexpr float kPi = float(std::numbers::pi);
 
 TEST(Movement, MovesAlongTheHeadingOrTheAxes) {
   const struct {
-    CameraOutcome (*move)(map&, const Settings&);
+    Outcome (*move)(map&, const Settings&);
     const char* status;
     vec3 moved;  // from (0, 0, 0) with step 64, looking along +x
   } cases[] = {
@@ -34,21 +34,21 @@ TEST(Movement, MovesAlongTheHeadingOrTheAxes) {
   for (const auto& c : cases) {
     TestMap t;
     t.m.activeCamera().yaw = kPi / 2;
-    const CameraOutcome outcome = c.move(t.m, t.settings);
+    const Outcome outcome = c.move(t.m, t.settings);
     for (int axis = 0; axis < 3; ++axis) {
       EXPECT_NEAR(t.m.activeCamera().origin[axis], c.moved[axis], 1e-4) << c.status;
     }
     EXPECT_EQ(outcome.status, c.status);
-    EXPECT_TRUE(outcome.redrawPlans && outcome.redrawCamera && outcome.follow && !outcome.recentre);
+    EXPECT_TRUE(outcome.redraw == Redraw::All && outcome.centre == Centre::Follow);
     EXPECT_FALSE(t.m.modified);
   }
 }
 
-CameraOutcome TurnAroundHere(map& m, const Settings&) { return TurnAround(m); }
+Outcome TurnAroundHere(map& m, const Settings&) { return TurnAround(m); }
 
 TEST(Movement, TurnsAndWrapsOnce) {
   const struct {
-    CameraOutcome (*turn)(map&, const Settings&);
+    Outcome (*turn)(map&, const Settings&);
     const char* status;
     float camera::*angle;
     double before, after;
@@ -68,18 +68,18 @@ TEST(Movement, TurnsAndWrapsOnce) {
   for (const auto& c : cases) {
     TestMap t;
     t.m.activeCamera().*c.angle = float(c.before);
-    const CameraOutcome outcome = c.turn(t.m, t.settings);
+    const Outcome outcome = c.turn(t.m, t.settings);
     EXPECT_NEAR(t.m.activeCamera().*c.angle, c.after, 1e-5) << c.status;
     EXPECT_EQ(outcome.status, c.status);
-    EXPECT_EQ(outcome.redrawPlans, c.redrawPlans) << c.status;
-    EXPECT_TRUE(outcome.redrawCamera && !outcome.follow) << c.status;
+    EXPECT_EQ(Includes(outcome.redraw, Redraw::Plans), c.redrawPlans) << c.status;
+    EXPECT_TRUE(Includes(outcome.redraw, Redraw::Camera) && outcome.centre == Centre::Stay) << c.status;
   }
 }
 
 // Tops at 0, 64 and 128 under the camera, one beside it and one in no visible group.
 TEST(Movement, GoesToTheNextFloor) {
   const struct {
-    CameraOutcome (*go)(map&);
+    Outcome (*go)(map&);
     float eye, after;
     const char* status;
   } cases[] = {
@@ -95,18 +95,18 @@ TEST(Movement, GoesToTheNextFloor) {
   t.m.modified = false;
   for (const auto& c : cases) {
     t.m.activeCamera().origin = {0, 0, c.eye};
-    const CameraOutcome outcome = c.go(t.m);
+    const Outcome outcome = c.go(t.m);
     EXPECT_EQ(outcome.status, c.status);
     EXPECT_EQ(t.m.activeCamera().origin.z, c.after);
-    EXPECT_EQ(outcome.follow, c.eye != c.after);
-    EXPECT_EQ(outcome.redrawCamera, c.eye != c.after);
+    EXPECT_EQ(outcome.centre == Centre::Follow, c.eye != c.after);
+    EXPECT_EQ(outcome.redraw == Redraw::All, c.eye != c.after);
   }
   EXPECT_FALSE(t.m.modified);
 }
 
 TEST(Movement, ParametersKeepTheirLimits) {
   const struct {
-    CameraOutcome (*change)(Settings&);
+    Outcome (*change)(Settings&);
     float Settings::*value;
     float before;
     const char* status;
@@ -136,14 +136,14 @@ TEST(Movement, TheLensKeepsItsLimits) {
   EXPECT_EQ(LargerMag(lens).status, "mag:  0.28");
   lens.ppd = 1024;
   EXPECT_EQ(LargerPpd(lens).status, "ppd: 1024.00");
-  EXPECT_TRUE(LargerPpd(lens).redrawCamera);
+  EXPECT_TRUE(LargerPpd(lens).redraw == Redraw::Camera);
 }
 
 TEST(Movement, ChoosesCameras) {
   TestMap t;
   EXPECT_EQ(PreviousCamera(t.m).status, "Camera 5 Active...");
   EXPECT_EQ(NextCamera(t.m).status, "Camera 1 Active...");
-  EXPECT_TRUE(SelectCamera(t.m, 3).recentre);
+  EXPECT_TRUE(SelectCamera(t.m, 3).centre == Centre::Jump);
   EXPECT_EQ(SelectCamera(t.m, 6).status, "");
   EXPECT_EQ(t.m.currentCamera, 2);
 }

@@ -80,11 +80,11 @@ TEST(Bars, TheTextureListSetsTheCurrentTexture) {
   EXPECT_EQ(TextureListNames(session.editor), names);
   ASSERT_EQ(names.size(), 3u);
   ChooseTexture(session.editor, names[2]);
-  EXPECT_EQ(session.editor.textureBrowser().current().name, names[2]);
-  EXPECT_EQ(session.editor.textureBrowser().currentIndex(), 2);
-  EXPECT_EQ(session.editor.current()->textures.currentName, names[2]);
+  EXPECT_EQ(session.editor.texture().current().name, names[2]);
+  EXPECT_EQ(session.editor.texture().currentIndex(), 2);
+  EXPECT_EQ(session.editor.documents().current()->textures.currentName, names[2]);
   ChooseTexture(session.editor, "nothing");
-  EXPECT_EQ(session.editor.textureBrowser().current().name, names[2]);
+  EXPECT_EQ(session.editor.texture().current().name, names[2]);
 }
 
 }  // namespace

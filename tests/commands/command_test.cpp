@@ -4,6 +4,8 @@
 
 #include "base/text.h"
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
+#include "documents/opening.h"
 #include "planview/view_steps.h"
 #include "support/session.h"
 
@@ -170,18 +172,18 @@ TEST(Commands, LoseNothingWhenDeclined) {
     test::RecordingObserver observer;
     Editor editor({home.path(), home.path()}, prompts, observer);
     editor.start();
-    if (!path.empty()) editor.openFile(path);
-    const int maps = editor.mapCount();
+    if (!path.empty()) OpenNamed(editor, path);
+    const int maps = editor.documents().count();
     for (const Command& command : Commands()) {
-      map* m = editor.currentMap();
+      map* m = editor.documents().currentMap();
       if (m) m->MGPerform(Method::Deselect);
       if (m) m->modified = true;
       const int brushes = m ? m->brushCount() : 0;
       if (!RunCommand(editor, command) && command.run) command.run(editor);
-      EXPECT_GE(editor.mapCount(), maps) << named(command);
-      EXPECT_TRUE(!m || editor.document(0)->model.brushCount() == brushes) << named(command);
+      EXPECT_GE(editor.documents().count(), maps) << named(command);
+      EXPECT_TRUE(!m || editor.documents().at(0)->model.brushCount() == brushes) << named(command);
       EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << named(command);
-      while (editor.mapCount() > maps) editor.closeDocument(maps);
+      while (editor.documents().count() > maps) editor.door().show(CloseDocument(editor.documents(), maps));
     }
   }
 }

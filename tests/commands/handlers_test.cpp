@@ -1,5 +1,7 @@
 // Commands whose effect is not told by a script's output.
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
+#include "documents/opening.h"
 #include "mapfile/map_writer.h"
 #include "support/session.h"
 
@@ -12,15 +14,15 @@ TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
   Session session;
   FindCommand("CM_OMIT_LIGHTS")->run(session.editor);
   EXPECT_TRUE(session.editor.settings().filter.omitLights);
-  EXPECT_EQ(session.editor.status(), "Welcome to Velk...");
+  EXPECT_EQ(session.editor.documents().status(), "Welcome to Velk...");
   session.run("CM_FILENEW");
   session.run("CM_OMIT_LIGHTS");
   session.open("a.map");
   session.open("b.map");
   session.run("CM_OMIT_LIGHTS");
   for (int i = 1; i < 3; ++i) {
-    EXPECT_TRUE(session.editor.document(i)->model.at(1)->at(0)->hidden) << i;
-    EXPECT_FALSE(session.editor.document(i)->model.world()->at(0)->hidden) << i;
+    EXPECT_TRUE(session.editor.documents().at(i)->model.at(1)->at(0)->hidden) << i;
+    EXPECT_FALSE(session.editor.documents().at(i)->model.world()->at(0)->hidden) << i;
   }
 }
 
@@ -31,10 +33,10 @@ TEST(Handlers, DeselectHidesClipPointsFirst) {
   session.current().setCurrentEntity(session.current().at(1));
   session.current().clip.count = 2;
   session.run("CM_DESELECT_ALL");
-  EXPECT_EQ(session.editor.status(), "Hiding clip points");
+  EXPECT_EQ(session.editor.documents().status(), "Hiding clip points");
   EXPECT_EQ(session.current().totalSelected(), 3);
   session.run("CM_DESELECT_ALL");
-  EXPECT_EQ(session.editor.status(), "Deselected all brushes/entities");
+  EXPECT_EQ(session.editor.documents().status(), "Deselected all brushes/entities");
   EXPECT_EQ(session.current().totalSelected(), 0);
   EXPECT_TRUE(session.current().worldIsCurrent());
 }
@@ -58,7 +60,7 @@ TEST(Handlers, HitListCommands) {
   session.run("CM_HIT_1");
   EXPECT_FALSE(second.selected());
   session.run("CM_HIT_7");
-  EXPECT_EQ(session.editor.status(), "Selecting hit brush # 7...");
+  EXPECT_EQ(session.editor.documents().status(), "Selecting hit brush # 7...");
   session.run("CM_HIT_UP");
   EXPECT_EQ(m.hits.current, 7) << "out of range: nothing to cycle from";
   session.run("228");
@@ -70,38 +72,38 @@ TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {
   session.open();
   session.editor.settings().lock_cameras = true;
   session.run("CM_CAMERA_RAISE");
-  EXPECT_EQ(session.editor.planViews().planCenter.z, 0);
+  EXPECT_EQ(session.editor.views().plans.planCenter.z, 0);
   session.editor.settings().lock_cameras = false;
   session.run("CM_CAMERA_RAISE");
-  EXPECT_EQ(session.editor.planViews().planCenter.z, 128);
+  EXPECT_EQ(session.editor.views().plans.planCenter.z, 128);
 }
 
 TEST(Handlers, PlanViewsGoToTheCameraOfTheMapThatIsShown) {
   Session session;
   Editor& editor = session.editor;
   const std::string start = "{\n\"classname\" \"info_player_start\"\n\"origin\" \"32 48 96\"\n}\n";
-  editor.openFile(session.home.write("start.map", test::SmallMapText() + start));
-  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
+  OpenNamed(editor, session.home.write("start.map", test::SmallMapText() + start));
+  EXPECT_TRUE(VecEqual(editor.views().plans.planCenter, {32, 48, 96}));
   session.open();
-  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
+  EXPECT_TRUE(VecEqual(editor.views().plans.planCenter, {0, 0, 0}));
   editor.settings().lock_cameras = true;
-  editor.setCurrentIndex(0);
-  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {0, 0, 0}));
+  editor.door().show(SwitchTo(editor.documents(), 0));
+  EXPECT_TRUE(VecEqual(editor.views().plans.planCenter, {0, 0, 0}));
   editor.settings().lock_cameras = false;
-  editor.closeDocument(1);
-  EXPECT_TRUE(VecEqual(editor.planViews().planCenter, {32, 48, 96}));
+  editor.door().show(CloseDocument(editor.documents(), 1));
+  EXPECT_TRUE(VecEqual(editor.views().plans.planCenter, {32, 48, 96}));
 }
 
 TEST(Handlers, WindowQualityHasTheDevicesPixels) {
   Session session;
   Editor& editor = session.editor;
-  editor.cameraView().clientWidth = 301;
-  editor.cameraView().clientHeight = 200;
-  editor.cameraView().deviceScale = 1.5;
+  editor.views().cameraWidth = 301;
+  editor.views().cameraHeight = 200;
+  editor.views().deviceScale = 1.5;
   session.run("CM_QUALITY_WINDOW");
-  EXPECT_EQ(editor.renderSize(), (RenderSize{452, 300}));
+  EXPECT_EQ(editor.views().renderSize(), (RenderSize{452, 300}));
   session.run("192");
-  EXPECT_EQ(editor.renderSize(), (RenderSize{80, 60}));
+  EXPECT_EQ(editor.views().renderSize(), (RenderSize{80, 60}));
 }
 
 TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
@@ -161,7 +163,7 @@ TEST(Undo, CommandsTakeTheirOwnCopiesAboveOneLevel) {
   EXPECT_EQ(LabelOf(session.editor, undo), "&Undo Delete...");
   EXPECT_EQ(session.current().brushCount(), 0);
   session.run("11844");
-  EXPECT_EQ(session.editor.status(), "Undo...");
+  EXPECT_EQ(session.editor.documents().status(), "Undo...");
   EXPECT_EQ(session.current().brushCount(), 3);
   session.run("CM_REDO");
   EXPECT_EQ(session.current().brushCount(), 0);

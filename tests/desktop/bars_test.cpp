@@ -72,14 +72,14 @@ TEST(Bars, DockInOrderAndKeepTheirButtonsUpToDate) {
   EXPECT_TRUE(actions[1]->isSeparator());
   EXPECT_FALSE(actions[2]->isEnabled());
   actions[0]->trigger();
-  EXPECT_EQ(session.editor.mapCount(), 1);
+  EXPECT_EQ(session.editor.documents().count(), 1);
   EXPECT_TRUE(actions[2]->isEnabled());
   actions[2]->trigger();
   EXPECT_TRUE(actions[2]->isChecked());
 
   ChildWindows windows(area);
   windows.setBars(bars);
-  session.editor.setWindows(windows);
+  session.editor.windows().setWindows(windows);
   for (const bool shown : {false, true}) {
     session.run("351");
     EXPECT_EQ(windows.barVisible(1), shown);
@@ -99,7 +99,7 @@ TEST(Bars, TheTextureListFollowsTheBrowserAndSetsIt) {
   EXPECT_EQ(list.currentIndex(), 2);
   list.setCurrentIndex(0);
   Q_EMIT list.activated(0);
-  EXPECT_EQ(session.editor.textureBrowser().current().name, list.itemText(0).toStdString());
+  EXPECT_EQ(session.editor.texture().current().name, list.itemText(0).toStdString());
 }
 
 }  // namespace

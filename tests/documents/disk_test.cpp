@@ -1,5 +1,7 @@
 #include <filesystem>
 
+#include "documents/disk_check.h"
+#include "documents/opening.h"
 #include "support/session.h"
 
 namespace velk {
@@ -31,8 +33,9 @@ TEST(Disk, AChangedFileIsNotReplacedWithoutAsking) {
     EXPECT_TRUE(session.prompts.log().empty()) << "our own saves";
     session.run("CM_SELECT_ALL");
     session.home.write("small.map", boxAt(0));
-    session.editor.checkDisk();
-    EXPECT_EQ(session.editor.status(), ("File [" + path + "] was changed on disk...").substr(0, 127));
+    CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
+    EXPECT_EQ(session.editor.documents().status(),
+              ("File [" + path + "] was changed on disk...").substr(0, 127));
     session.answer(answer);
     session.run("CM_FILESAVE");
     ASSERT_EQ(session.prompts.log().back(), question(path, kOverwrite, answer));
@@ -46,33 +49,33 @@ TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   Session session;
   const std::string path = session.open("a.map");
   session.open("b.map");
-  session.editor.setCurrentIndex(0);
+  session.editor.door().show(SwitchTo(session.editor.documents(), 0));
   session.current().activeCamera().origin = {1, 2, 3};
   session.editor.settings().undo_levels = 10;
 
   session.home.write("a.map", boxAt(512));
   session.answer("no");
-  session.editor.checkDisk();
-  session.editor.checkDisk();
+  CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
+  CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
   EXPECT_EQ(session.prompts.log(), std::vector{question(path, kReload, "no")}) << "asked once a change";
   EXPECT_EQ(session.current().brushCount(), 3);
-  EXPECT_TRUE(session.editor.current()->isUnsaved()) << "no file holds it any more";
+  EXPECT_TRUE(session.editor.documents().current()->isUnsaved()) << "no file holds it any more";
 
   session.home.write("a.map", "{ \"classname\" \"worldspawn\" { nonsense");
   session.answer("yes");
   session.answer("ok");
-  session.editor.checkDisk();
+  CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
   EXPECT_EQ(session.prompts.log().back(),
             "message \"Velk - File Changed\" \"parsing map file\\n(reading [" + path + "], line 1)\" ok");
   EXPECT_EQ(session.current().brushCount(), 3);
 
   session.home.write("a.map", boxAt(1024));
   session.answer("yes");
-  session.editor.checkDisk();
-  EXPECT_EQ(session.editor.currentIndex(), 0);
+  CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
+  EXPECT_EQ(session.editor.documents().currentIndex(), 0);
   EXPECT_EQ(session.current().world()->at(0)->mins.x, 1024);
   EXPECT_EQ(session.current().activeCamera().origin.z, 3);
-  EXPECT_FALSE(session.editor.current()->isUnsaved());
+  EXPECT_FALSE(session.editor.documents().current()->isUnsaved());
   session.editor.undo();
   EXPECT_EQ(session.current().brushCount(), 3);
   EXPECT_TRUE(session.current().modified);
@@ -82,15 +85,16 @@ TEST(Disk, ALostFileLeavesItsMapUnsaved) {
   Session session;
   const std::string path = session.open();
   fs::remove(path);
-  session.editor.checkDisk();
-  EXPECT_EQ(session.editor.status(), ("File [" + path + "] is gone from the disk...").substr(0, 127));
+  CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
+  EXPECT_EQ(session.editor.documents().status(),
+            ("File [" + path + "] is gone from the disk...").substr(0, 127));
   session.answer("cancel");
   session.run("CM_FILECLOSE");
-  EXPECT_EQ(session.editor.mapCount(), 1);
+  EXPECT_EQ(session.editor.documents().count(), 1);
   session.run("CM_FILESAVE");
   EXPECT_TRUE(fs::exists(path));
   session.run("CM_FILECLOSE");
-  EXPECT_EQ(session.editor.mapCount(), 0);
+  EXPECT_EQ(session.editor.documents().count(), 0);
 }
 
 TEST(Disk, BrushesThatCannotBeSavedAreAskedAboutWhenTheirNumberGrows) {

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
 #include "support/session.h"
 
 namespace velk {
@@ -11,14 +12,14 @@ namespace fs = std::filesystem;
 
 TEST(Documents, NewMap) {
   Session session;
-  EXPECT_EQ(session.editor.title(), "[Velk - Velk]");
-  EXPECT_EQ(session.editor.status(), "Welcome to Velk...");
+  EXPECT_EQ(FrameTitle(session.editor), "[Velk - Velk]");
+  EXPECT_EQ(session.editor.documents().status(), "Welcome to Velk...");
   session.run("CM_FILENEW");
-  EXPECT_EQ(session.editor.title(), "[Velk - NEWMAP.MAP]");
-  EXPECT_EQ(session.editor.status(), "Map [NEWMAP.MAP] created...");
+  EXPECT_EQ(FrameTitle(session.editor), "[Velk - NEWMAP.MAP]");
+  EXPECT_EQ(session.editor.documents().status(), "Map [NEWMAP.MAP] created...");
   EXPECT_EQ(session.current().world()->valueOfKey("wad"), "test.wad");
   EXPECT_FALSE(session.current().modified);
-  EXPECT_EQ(session.editor.current()->textures.count(), 3);
+  EXPECT_EQ(session.editor.documents().current()->textures.count(), 3);
 }
 
 TEST(Documents, OpensSeveralChosenFiles) {
@@ -27,9 +28,9 @@ TEST(Documents, OpensSeveralChosenFiles) {
   const std::string two = session.home.write("two.map", test::SmallMapText());
   session.prompts.queue({one, two}, false);
   session.run("CM_FILEOPEN");
-  ASSERT_EQ(session.editor.mapCount(), 2);
-  EXPECT_EQ(session.editor.title(), "[Velk - " + two + "]");
-  EXPECT_EQ(session.editor.status(), ("File [" + two + "] processed...").substr(0, 127));
+  ASSERT_EQ(session.editor.documents().count(), 2);
+  EXPECT_EQ(FrameTitle(session.editor), "[Velk - " + two + "]");
+  EXPECT_EQ(session.editor.documents().status(), ("File [" + two + "] processed...").substr(0, 127));
   EXPECT_EQ(session.current().brushCount(), 3);
   EXPECT_FALSE(session.current().modified);
 }
@@ -42,7 +43,7 @@ TEST(Documents, EleventhMapIsRefused) {
   EXPECT_TRUE(session.run("CM_FILENEW"));
   session.answer("ok");
   EXPECT_TRUE(session.run("CM_FILEOPEN"));
-  EXPECT_EQ(session.editor.mapCount(), MAX_MAPS);
+  EXPECT_EQ(session.editor.documents().count(), MAX_MAPS);
   const std::vector<std::string> expected{
       R"(message "Velk - Cannot Open New Map" "No more maps available..." ok)",
       R"(message "Velk - Cannot Open" "No more maps available..." ok)"};
@@ -53,9 +54,9 @@ TEST(Documents, FatalErrorWhileOpeningLeavesTheListAlone) {
   Session session;
   session.open();
   const std::string bad = session.home.write("bad.map", "{\n\"classname\" \"worldspawn\"\n{\n( 1 2");
-  EXPECT_NE(test::FatalMessage([&] { session.editor.openFile(bad); }), "");
-  EXPECT_NE(test::FatalMessage([&] { session.editor.openFile("/nowhere/no.map"); }), "");
-  EXPECT_EQ(session.editor.mapCount(), 1);
+  EXPECT_NE(test::FatalMessage([&] { OpenNamed(session.editor, bad); }), "");
+  EXPECT_NE(test::FatalMessage([&] { OpenNamed(session.editor, "/nowhere/no.map"); }), "");
+  EXPECT_EQ(session.editor.documents().count(), 1);
   EXPECT_TRUE(session.run("CM_SELECT_ALL"));
 }
 
@@ -66,13 +67,13 @@ TEST(Documents, SaveWritesWhatWasOpened) {
   EXPECT_TRUE(session.current().modified);
   session.run("CM_FILESAVE");
   EXPECT_FALSE(session.current().modified);
-  EXPECT_EQ(session.editor.status(), ("File [" + path + "] saved...").substr(0, 127));
+  EXPECT_EQ(session.editor.documents().status(), ("File [" + path + "] saved...").substr(0, 127));
   const std::string first = session.contents(path);
-  session.editor.openFile(path);
+  OpenNamed(session.editor, path);
   EXPECT_EQ(session.current().brushCount(), 3);
   session.run("CM_FILESAVE");
   EXPECT_NE(session.contents(path).find("\"classname\"\t\"light\""), std::string::npos);
-  session.editor.openFile(path);
+  OpenNamed(session.editor, path);
   session.run("CM_FILESAVE");
   EXPECT_EQ(session.contents(path), first);
 }
@@ -86,7 +87,7 @@ TEST(Documents, FavouritesAreTheNamedTexturesThatAreThere) {
       {"//VELKFAVORITES0010\n//none\n", "//VELKFAVORITES0010\r\n\r\n"}};
   for (const auto& [header, saved] : cases) {
     const std::string path = session.home.write("favourites.map", header + test::SmallMapText());
-    session.editor.openFile(path);
+    OpenNamed(session.editor, path);
     session.run("CM_FILESAVE");
     EXPECT_NE(session.contents(path).find(saved + "//VELKCAMERAS"), std::string::npos) << header;
   }
@@ -94,7 +95,7 @@ TEST(Documents, FavouritesAreTheNamedTexturesThatAreThere) {
 
 TEST(Documents, TheCurrentTextureStaysWhateverIsOpened) {
   Session session;
-  TextureBrowser& browser = session.editor.textureBrowser();
+  TextureBrowser& browser = session.editor.texture();
   EXPECT_EQ(browser.current().name, "FLOOR1");
   browser.setCurrent({.name = "WALL1"});
   session.run("CM_FILENEW");
@@ -112,7 +113,7 @@ TEST(Documents, ReloadingClassesReadsTheirOrderAgain) {
   session.home.write("velk.ini", "[Velk]\nsort_entities=0\n");
   session.editor.reloadClasses();
   EXPECT_EQ(session.editor.classes().classAt(0).name, "worldspawn");
-  EXPECT_EQ(session.editor.status(), "Entity list reloaded...");
+  EXPECT_EQ(session.editor.documents().status(), "Entity list reloaded...");
 }
 
 TEST(Documents, UntitledMapAsksForItsName) {
@@ -173,7 +174,7 @@ TEST(Documents, CloseAsksAboutChanges) {
     session.run("CM_SELECT_ALL");
     session.answer(c.answer);
     session.run("CM_FILECLOSE");
-    EXPECT_EQ(session.editor.mapCount(), c.mapsLeft) << c.answer;
+    EXPECT_EQ(session.editor.documents().count(), c.mapsLeft) << c.answer;
     EXPECT_EQ(session.contents(path) != before, c.saved) << c.answer;
     EXPECT_EQ(session.prompts.log().back(),
               "message \"Velk - Save Changes?\" \"Save changes to map " + path + "?\" " + c.answer);
@@ -186,17 +187,17 @@ TEST(Documents, ClosedMapLeavesItsPlaceToTheLast) {
   const std::string b = session.open("b.map");
   const std::string c = session.open("c.map");
   session.run("CM_PREVIOUS_MAP");
-  EXPECT_EQ(session.editor.status(), "Map switched...");
+  EXPECT_EQ(session.editor.documents().status(), "Map switched...");
   session.run("CM_FILECLOSE");
-  EXPECT_EQ(session.editor.status(), "Map closed...");
-  ASSERT_EQ(session.editor.mapCount(), 2);
-  EXPECT_EQ(session.editor.currentIndex(), 0);
-  EXPECT_EQ(session.editor.document(0)->model.name, a);
-  EXPECT_EQ(session.editor.document(1)->model.name, c);
+  EXPECT_EQ(session.editor.documents().status(), "Map closed...");
+  ASSERT_EQ(session.editor.documents().count(), 2);
+  EXPECT_EQ(session.editor.documents().currentIndex(), 0);
+  EXPECT_EQ(session.editor.documents().at(0)->model.name, a);
+  EXPECT_EQ(session.editor.documents().at(1)->model.name, c);
   session.run("CM_PREVIOUS_MAP");
-  EXPECT_EQ(session.editor.currentIndex(), 1);
+  EXPECT_EQ(session.editor.documents().currentIndex(), 1);
   session.run("CM_NEXT_MAP");
-  EXPECT_EQ(session.editor.currentIndex(), 0);
+  EXPECT_EQ(session.editor.documents().currentIndex(), 0);
 }
 
 TEST(Documents, LastCloseClearsTheViews) {
@@ -205,7 +206,7 @@ TEST(Documents, LastCloseClearsTheViews) {
   const int redraws = session.observer.planRedraws;
   session.run("CM_FILECLOSE");
   EXPECT_GT(session.observer.planRedraws, redraws);
-  EXPECT_EQ(session.editor.title(), "[Velk - Velk]");
+  EXPECT_EQ(FrameTitle(session.editor), "[Velk - Velk]");
   EXPECT_FALSE(IsEnabled(session.editor, *FindCommand("CM_FILESAVE")));
 }
 
@@ -220,28 +221,28 @@ TEST(Documents, ExitAsksForEveryModifiedMap) {
   session.answer("cancel");
   session.run("CM_FILEEXIT");
   EXPECT_FALSE(session.observer.exiting);
-  EXPECT_EQ(session.editor.mapCount(), 3);
+  EXPECT_EQ(session.editor.documents().count(), 3);
   session.answer("no");
   session.answer("yes");
   session.run("CM_FILEEXIT");
   EXPECT_TRUE(session.observer.exiting);
   EXPECT_EQ(session.prompts.log().size(), 4u);
-  EXPECT_FALSE(session.editor.document(1)->model.modified);
+  EXPECT_FALSE(session.editor.documents().at(1)->model.modified);
 }
 
 TEST(Status, EmptyTextAndDebugForm) {
   Session session;
-  session.editor.postStatus("");
-  EXPECT_EQ(session.editor.status(), "...");
+  session.editor.documents().post("");
+  EXPECT_EQ(session.editor.documents().status(), "...");
   session.editor.settings().debugmode = true;
-  session.editor.postStatus("text");
-  EXPECT_EQ(session.editor.status(), "...");
+  session.editor.documents().post("text");
+  EXPECT_EQ(session.editor.documents().status(), "...");
   session.open();
-  session.editor.postStatus("Text");
+  session.editor.documents().post("Text");
   const std::string numbers = "3-0=3 Num: 3, e: 3-1=2 Num: 3   ";
-  EXPECT_EQ(session.editor.status(), "Text, " + numbers);
-  session.editor.postStatus("");
-  EXPECT_EQ(session.editor.status(), numbers + " ");
+  EXPECT_EQ(session.editor.documents().status(), "Text, " + numbers);
+  session.editor.documents().post("");
+  EXPECT_EQ(session.editor.documents().status(), numbers + " ");
 }
 
 TEST(Status, PostingCarriesOutFlaggedRedraws) {
@@ -250,13 +251,13 @@ TEST(Status, PostingCarriesOutFlaggedRedraws) {
   test::RecordingObserver& seen = session.observer;
   seen.cameraRedraws = seen.planRedraws = seen.brushRedraws = 0;
   session.editor.flagPlanViews();
-  session.editor.postStatus("one", false);
+  session.editor.documents().post("one", false);
   EXPECT_EQ(seen.planRedraws, 0);
-  session.editor.postStatus("two");
+  session.editor.documents().post("two");
   EXPECT_EQ(seen.planRedraws, 1);
   EXPECT_EQ(seen.cameraRedraws, 0);
   EXPECT_EQ(seen.brushRedraws, 1);
-  session.editor.postStatus("three");
+  session.editor.documents().post("three");
   EXPECT_EQ(seen.planRedraws, 1);
 }
 

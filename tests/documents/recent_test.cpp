@@ -58,15 +58,15 @@ TEST(Recent, OpensShowsAndForgets) {
   const std::string a = session.open("a.map");
   const std::string b = session.open("b.map");
   session.run("CM_FILENEW");
-  EXPECT_EQ(listed(session.editor.recentMaps()), (std::vector{b, a}));
+  EXPECT_EQ(listed(session.editor.documents().recent()), (std::vector{b, a}));
   EXPECT_TRUE(recent(1));
-  EXPECT_EQ(session.editor.currentIndex(), 0) << "it was open already";
-  EXPECT_EQ(session.editor.mapCount(), 3);
-  EXPECT_EQ(session.editor.recentMaps().at(0), a);
+  EXPECT_EQ(session.editor.documents().currentIndex(), 0) << "it was open already";
+  EXPECT_EQ(session.editor.documents().count(), 3);
+  EXPECT_EQ(session.editor.documents().recent().at(0), a);
 
   session.run("CM_FILECLOSE");
   EXPECT_TRUE(recent(0));
-  EXPECT_EQ(session.editor.currentMap()->name, a);
+  EXPECT_EQ(session.editor.documents().currentMap()->name, a);
   std::filesystem::remove(a);
   session.answer("ok");
   recent(0);
@@ -81,7 +81,7 @@ TEST(Recent, OpensShowsAndForgets) {
   recent(0);
   EXPECT_EQ(session.prompts.log().back(), "message \"Velk - Cannot Open\" \"Couldn't open " + b +
                                               "\\n\\nparsing map file\\n(reading [" + b + "], line 4)\" ok");
-  EXPECT_EQ(listed(session.editor.recentMaps()), std::vector{b});
+  EXPECT_EQ(listed(session.editor.documents().recent()), std::vector{b});
 }
 
 }  // namespace

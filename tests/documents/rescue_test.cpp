@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
+#include "documents/opening.h"
 #include "support/session.h"
 
 namespace velk {
@@ -63,29 +65,29 @@ TEST(Rescue, APipeAmongTheCopiesDoesNotHangTheStart) {
 TEST(Rescue, CopiesOfUnsavedMapsComeBackUnderTheirNames) {
   Session session;
   auto first = std::make_unique<Another>(session);
-  first->editor.offerRescueCopies();
+  first->editor.rescue().offer();
   const std::string path = session.home.write("small.map", test::SmallMapText());
-  first->editor.openFile(path);
-  first->editor.openFile(session.home.write("untouched.map", test::SmallMapText()));
-  first->editor.setCurrentIndex(0);
+  OpenNamed(first->editor, path);
+  OpenNamed(first->editor, session.home.write("untouched.map", test::SmallMapText()));
+  first->editor.door().show(SwitchTo(first->editor.documents(), 0));
   RunCommand(first->editor, *FindCommand("CM_SELECT_ALL"));
-  EXPECT_EQ(first->editor.writeRescueCopies(), 1);
-  EXPECT_EQ(first->editor.writeRescueCopies(), 1);
-  const fs::path folder = session.editor.paths().native("c:\\");
+  EXPECT_EQ(first->editor.rescue().writeCopies(), 1);
+  EXPECT_EQ(first->editor.rescue().writeCopies(), 1);
+  const fs::path folder = session.editor.services().paths.native("c:\\");
   EXPECT_EQ(filesNamed(folder, "rescue"), 1);
 
   // While the first editor is at work, nothing is taken from it.
   Another second(session);
-  second.editor.offerRescueCopies();
-  EXPECT_EQ(second.editor.mapCount(), 0);
+  second.editor.rescue().offer();
+  EXPECT_EQ(second.editor.documents().count(), 0);
 
   first.reset();
   second.prompts.queue({"yes"}, false);
-  second.editor.offerRescueCopies();
-  ASSERT_EQ(second.editor.mapCount(), 1);
-  EXPECT_EQ(second.editor.currentMap()->name, path);
-  EXPECT_TRUE(second.editor.currentMap()->modified);
-  EXPECT_EQ(second.editor.currentMap()->brushCount(), 3);
+  second.editor.rescue().offer();
+  ASSERT_EQ(second.editor.documents().count(), 1);
+  EXPECT_EQ(second.editor.documents().currentMap()->name, path);
+  EXPECT_TRUE(second.editor.documents().currentMap()->modified);
+  EXPECT_EQ(second.editor.documents().currentMap()->brushCount(), 3);
   EXPECT_EQ(filesNamed(folder, "rescue"), 1);
   RunCommand(second.editor, *FindCommand("CM_FILESAVE"));
   EXPECT_EQ(filesNamed(folder, "rescue"), 0);
@@ -93,30 +95,30 @@ TEST(Rescue, CopiesOfUnsavedMapsComeBackUnderTheirNames) {
 
 TEST(Rescue, DeclinedCopiesArePutAside) {
   Session session;
-  session.editor.offerRescueCopies();
-  const fs::path folder = session.editor.paths().native("c:\\");
+  session.editor.rescue().offer();
+  const fs::path folder = session.editor.services().paths.native("c:\\");
   std::ofstream(folder / "rescue1-0.map") << RescueFolder::header("lost.map") << "{\n}\n";
   session.answer("no");
-  session.editor.offerRescueCopies();
-  EXPECT_EQ(session.editor.mapCount(), 0);
+  session.editor.rescue().offer();
+  EXPECT_EQ(session.editor.documents().count(), 0);
   EXPECT_EQ(filesNamed(folder, "rescued-"), 1);
   EXPECT_EQ(filesNamed(folder, "rescue1"), 0);
 }
 
 TEST(Rescue, TheBackupIsWrittenFromTheSeventhTickOn) {
   Session session;
-  session.editor.offerRescueCopies();
+  session.editor.rescue().offer();
   const std::string path = session.open();
   session.run("CM_SELECT_ALL");
-  const fs::path backup = session.editor.paths().native("c:\\backup.map");
-  for (int tick = 1; tick <= 6; ++tick) session.editor.tick();
+  const fs::path backup = session.editor.services().paths.native("c:\\backup.map");
+  for (int tick = 1; tick <= 6; ++tick) session.editor.rescue().tick();
   EXPECT_FALSE(fs::exists(backup));
-  session.editor.tick();
-  EXPECT_EQ(session.editor.status(), "Autosaving");
+  session.editor.rescue().tick();
+  EXPECT_EQ(session.editor.documents().status(), "Autosaving");
   EXPECT_TRUE(fs::exists(backup));
   EXPECT_TRUE(session.current().modified);
   fs::remove(backup);
-  session.editor.tick();
+  session.editor.rescue().tick();
   EXPECT_TRUE(fs::exists(backup));
 }
 

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "base/tokenizer.h"
 #include "commands/command.h"
+#include "commands/named_files.h"
 #include "entities/entity_class.h"
 #include "mapfile/map_reader.h"
 #include "support/scripted_prompts.h"
@@ -160,10 +161,10 @@ TEST_F(Kit, FirstStartNeedsNoAnswer) {
   Observer nobody;
   Editor editor(FindPlace(bare, kFolder), prompts, nobody);
   editor.start();
-  EXPECT_EQ(editor.status(), "Welcome to Velk...");
-  editor.openFile(folder.directory("home") + "start.map");
-  ASSERT_TRUE(editor.current());
-  EXPECT_GE(editor.current()->textures.count(), 48);
+  EXPECT_EQ(editor.documents().status(), "Welcome to Velk...");
+  OpenNamed(editor, folder.directory("home") + "start.map");
+  ASSERT_TRUE(editor.documents().current());
+  EXPECT_GE(editor.documents().current()->textures.count(), 48);
   EXPECT_TRUE(prompts.asked.empty());
 }
 

@@ -17,15 +17,15 @@ TEST(BrowserSteps, ButtonsStepAndWrap) {
                {Rotate, -5.0000005f, 1, "0"}, {ScaleS, 1, 1, "1.1"},     {ScaleS, 0.1f, -1, "-0.1"},
                {ScaleT, -0.1f, 1, "0.1"},     {ScaleT, 0.2f, -1, "0.1"}, {ScaleT, 0, 1, "0.1"}};
   for (const auto& c : cases) {
-    TextureBrowser browser;
+    TextureChoice browser;
     texturedef start = browser.current();
     float* const values[] = {&start.shift[0], &start.shift[1], &start.rotate, &start.scale[0],
                              &start.scale[1]};
     *values[static_cast<size_t>(c.field)] = c.before;
     browser.setCurrent(start);
-    browser.step(c.field, c.direction);
+    StepTextureField(browser, c.field, c.direction);
     if (c.after) {
-      EXPECT_EQ(browser.fieldText(c.field), c.after) << c.before;
+      EXPECT_EQ(TextureFieldText(browser, c.field), c.after) << c.before;
     }
     EXPECT_GE(browser.current().rotate, 0);
     EXPECT_LT(browser.current().rotate, 360);
@@ -44,13 +44,13 @@ class BrowserSelection : public testing::Test {
   Wad wad;
   TextureRef badtex;
   TextureSet set{badtex};
-  TextureBrowser browser;
+  TextureChoice browser;
 };
 
 TEST_F(BrowserSelection, SelectingKeepsTheNumbers) {
   browser.takeFirstTexture(set);
   EXPECT_EQ(browser.current().name, "FLOOR");
-  browser.step(TextureField::Rotate, 1);
+  StepTextureField(browser, TextureField::Rotate, 1);
   EXPECT_TRUE(browser.selectTexture(set, 1));
   for (const int outside : {-1, 2}) EXPECT_FALSE(browser.selectTexture(set, outside));
   EXPECT_EQ(browser.currentIndex(), 1);

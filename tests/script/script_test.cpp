@@ -54,7 +54,7 @@ TEST(Script, MalformedScriptRunsNothing) {
   test::Session session;
   std::ostringstream out;
   ScriptRunner(session.editor, session.prompts, nullptr, out).run("CM_FILENEW\nanswer \"open");
-  EXPECT_EQ(session.editor.mapCount(), 0);
+  EXPECT_EQ(session.editor.documents().count(), 0);
 }
 
 TEST(Script, FatalErrorsPassThrough) {

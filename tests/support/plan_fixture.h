@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "mouse/pointer.h"
+#include "mouse/drag.h"
 #include "planview/draw_plan_view.h"
 #include "support/builders.h"
+#include "support/scripted_prompts.h"
 
 namespace velk::test {
 
@@ -15,9 +16,10 @@ struct PlanFixture : testing::Test, TestMap {
     settings.show_grid = settings.show_cameras = false;
   }
 
-  PlanPointerContext context(int view = 0) { return {set, settings, &m, view}; }
+  MouseContext context(int view = 0) { return {m, settings, set, prompts, view}; }
 
   PlanViewSet set;
+  ScriptedPrompts prompts;
 };
 
 }  // namespace velk::test

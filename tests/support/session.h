@@ -9,6 +9,7 @@
 #include "app/editor.h"
 #include "base/files.h"
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
 #include "script/script_prompts.h"
 #include "support/fatal.h"
 #include "support/temp_folder.h"
@@ -24,9 +25,11 @@ struct RecordingObserver : Observer {
   bool exiting = false;
 
   void statusChanged(const std::string& text) override { statuses.push_back(text); }
-  void redrawCamera() override { ++cameraRedraws; }
-  void redrawPlanViews() override { ++planRedraws; }
-  void redrawSelectedBrush() override { ++brushRedraws; }
+  void changed(const Changes& what) override {
+    cameraRedraws += what.camera ? 1 : 0;
+    planRedraws += what.planViews ? 1 : 0;
+    brushRedraws += what.selectedBrush ? 1 : 0;
+  }
   void exitRequested() override { exiting = true; }
 };
 
@@ -78,11 +81,11 @@ class Session {
   // Writes the small map and opens it.
   std::string open(const std::string& name = "small.map") {
     std::string path = home.write(name, SmallMapText());
-    editor.openFile(path);
+    OpenNamed(editor, path);
     return path;
   }
-  map& current() { return *editor.currentMap(); }
-  std::string contents(const std::string& path) const { return LoadFile(editor.paths(), path); }
+  map& current() { return *editor.documents().currentMap(); }
+  std::string contents(const std::string& path) const { return LoadFile(editor.services().paths, path); }
 
   TempFolder home;
   ScriptPrompts prompts;

@@ -55,10 +55,9 @@ void TextureList::refresh() {
     setMaxVisibleItems(std::max(static_cast<int>(screen()->size().height() * kListShare) / row, 1));
     view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->autoScrollMargin() * 2);
   }
-  const auto current = std::find_if(names_.begin(), names_.end(),
-                                    [&name = editor_.textureBrowser().current().name](const std::string& n) {
-                                      return EqualNoCase(n, name);
-                                    });
+  const auto current = std::find_if(
+      names_.begin(), names_.end(),
+      [&name = editor_.texture().current().name](const std::string& n) { return EqualNoCase(n, name); });
   setCurrentIndex(current == names_.end() ? -1 : static_cast<int>(current - names_.begin()));
 }
 

@@ -16,6 +16,7 @@
 #include <chrono>
 
 #include "commands/dispatch.h"
+#include "commands/named_files.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/frame_state.h"
 #include "desktop/frame/keys.h"
@@ -63,14 +64,14 @@ void TVelkWindow::start() {
   bars_ = BuildBars(*this, editor_);
   buildCentre();
   buildWindows();
-  setWindowTitle(ShownText(editor_.title()));
+  setWindowTitle(ShownText(FrameTitle(editor_)));
   qApp->installEventFilter(this);
-  connect(&ticks_, &QTimer::timeout, this, [this] { editor_.tick(); });
+  connect(&ticks_, &QTimer::timeout, this, [this] { editor_.rescue().tick(); });
   ticks_.start(kTick);
 }
 
 void TVelkWindow::openFiles(const std::vector<std::string>& files) {
-  for (const std::string& file : files) editor_.showFile(file);
+  for (const std::string& file : files) ShowNamed(editor_, file);
 }
 
 // The windows' area, with the tabs above or below it.
@@ -94,7 +95,7 @@ void TVelkWindow::buildWindows() {
   children_ = new ChildWindows(*area_);
   brush_ = new TSelectedBrushWindow(editor_);
   const auto await = [this](ToolWindow window, const char* line) {
-    children_->add(window, placeholder(editor_.titleOf(window), line));
+    children_->add(window, placeholder(WindowTitle(editor_, window), line));
   };
   await(ToolWindow::Textures, "Thumbnails of the textures come here.");
   children_->add(ToolWindow::SelectedBrush, brush_);
@@ -108,7 +109,7 @@ void TVelkWindow::buildWindows() {
   children_->add(ToolWindow::Camera, camera_);
   await(ToolWindow::Groups, "The groups of the map come here.");
   children_->setBars(bars_);
-  editor_.setWindows(*children_);
+  editor_.windows().setWindows(*children_);
 }
 
 // The first layout waits for the frame to have its size. A maximised frame gets it from the window manager,
@@ -119,11 +120,13 @@ void TVelkWindow::showEvent(QShowEvent* event) {
   arranged_ = true;
   children_->layOut();
   if (isMaximized()) {
-    QTimer::singleShot(kMaximising, this, [this] { editor_.loadArrangements(); });
+    QTimer::singleShot(kMaximising, this, [this] { placeWindows(); });
   } else {
-    editor_.loadArrangements();
+    placeWindows();
   }
 }
+
+void TVelkWindow::placeWindows() { editor_.door().show(editor_.windows().apply()); }
 
 void TVelkWindow::keepState() {
   keepsState_ = true;
@@ -180,7 +183,7 @@ bool TVelkWindow::takesKeys() const {
 // What cannot be run leaves its key to the menus' mnemonics. No command on Alt does anything without a map,
 // whether it is enabled or not.
 bool TVelkWindow::leftToMenus(const QKeyEvent& key, const Command& command) const {
-  const bool idle = editor_.mapCount() == 0 && key.modifiers().testFlag(Qt::AltModifier);
+  const bool idle = editor_.documents().count() == 0 && key.modifiers().testFlag(Qt::AltModifier);
   return idle || !CanRun(editor_, command);
 }
 
@@ -194,25 +197,25 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   const Command* command = CommandForKey(key);
   if (!command || leftToMenus(key, *command)) return false;
   event->accept();
-  if (!override) RunCommand(editor_, *command);
+  if (!override) RunCommand(editor_, *command, true);
   return true;
 }
 
 // A hint makes way, such as that of the button just pressed, which is still under the pointer.
 void TVelkWindow::statusChanged(const std::string& text) { status_->post(ShownText(text)); }
 
-void TVelkWindow::redrawPlanViews() {
+void TVelkWindow::changed(const Changes& what) {
+  if (what.maps) mapsChanged();
   for (TXYViewWindow* view : planViews_) {
-    if (view) view->markStale();
+    if (view && what.planViews) view->markStale();
+    if (view && what.strips) view->markStripStale();
   }
-}
-
-void TVelkWindow::redrawCamera() {
-  if (camera_) camera_->markStale();
-}
-
-void TVelkWindow::redrawSelectedBrush() {
-  if (brush_) brush_->refresh();
+  if (what.camera && camera_) camera_->markStale();
+  if (what.selectedBrush && brush_) brush_->refresh();
+  for (TVelkControlBar* bar : bars_) {
+    if (what.textures) bar->texturesChanged();
+    if (what.commands || what.maps) bar->commandsChanged();
+  }
 }
 
 // A bar below the middle of the screen, gone when there is nothing more to load.
@@ -236,30 +239,15 @@ void TVelkWindow::loadProgress(const std::string& text, int done, int total) {
 }
 
 void TVelkWindow::mapsChanged() {
-  setWindowTitle(ShownText(editor_.title()));
+  setWindowTitle(ShownText(FrameTitle(editor_)));
   if (tabs_) tabs_->refresh();
   if (camera_) camera_->showTitle();
   if (watch_) watch_->follow();
-  commandsChanged();
-}
-
-void TVelkWindow::texturesChanged() {
-  for (TVelkControlBar* bar : bars_) bar->texturesChanged();
-}
-
-void TVelkWindow::commandsChanged() {
-  for (TVelkControlBar* bar : bars_) bar->commandsChanged();
 }
 
 void TVelkWindow::helpRequested() {
   if (!help_) help_ = new HelpWindow(this);
   help_->showContents();
-}
-
-bool TVelkWindow::showReplaceTexture() {
-  if (!replace_) replace_ = new ReplaceDialog(editor_, this);
-  replace_->present();
-  return true;
 }
 
 void TVelkWindow::exitRequested() {

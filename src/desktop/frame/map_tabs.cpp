@@ -1,6 +1,7 @@
 #include "desktop/frame/map_tabs.h"
 
 #include "desktop/dialogs/shown_text.h"
+#include "documents/opening.h"
 
 namespace velk {
 
@@ -16,21 +17,24 @@ MapTabs::MapTabs(Editor& editor, QWidget* parent) : QTabBar(parent), editor_(edi
   setMinimumHeight(sizeHint().height());
   removeTab(0);
   connect(this, &QTabBar::currentChanged, this, [this](int index) {
-    if (!refreshing_ && index >= 0) editor_.setCurrentIndex(index);
+    if (refreshing_ || index < 0) return;
+    editor_.door().perform({.name = "Map"}, [&] { return SwitchTo(editor_.documents(), index); });
+    refresh();
   });
 }
 
 void MapTabs::refresh() {
   refreshing_ = true;
-  while (count() > editor_.mapCount()) removeTab(count() - 1);
-  while (count() < editor_.mapCount()) addTab(QString());
+  while (count() > editor_.documents().count()) removeTab(count() - 1);
+  while (count() < editor_.documents().count()) addTab(QString());
   for (int i = 0; i < count(); ++i) {
-    const std::string& path = editor_.document(i)->model.name;
+    MapDocument& open = *editor_.documents().at(i);
+    const std::string& path = open.model.name;
     // A single ampersand would mark a letter as the tab's key.
-    setTabText(i, ShownText(FileNamePart(path)).replace('&', QLatin1String("&&")));
+    setTabText(i, ShownText(MarkedName(open, FileNamePart(path))).replace('&', QLatin1String("&&")));
     setTabToolTip(i, ShownText(path));
   }
-  setCurrentIndex(editor_.currentIndex());
+  setCurrentIndex(editor_.documents().currentIndex());
   refreshing_ = false;
 }
 

@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "desktop/system/path_text.h"
+#include "documents/disk_check.h"
 
 namespace velk {
 namespace {
@@ -34,8 +35,8 @@ FileWatch::FileWatch(Editor& editor, QWidget& frame) : QObject(&frame), editor_(
 // A file that is replaced drops out of the watch, one that is gone cannot be watched: its folder tells.
 void FileWatch::follow() {
   QStringList wanted;
-  for (int i = 0; i < editor_.mapCount(); ++i) {
-    const std::filesystem::path file = editor_.paths().native(editor_.document(i)->model.name);
+  for (int i = 0; i < editor_.documents().count(); ++i) {
+    const std::filesystem::path file = editor_.services().paths.native(editor_.documents().at(i)->model.name);
     std::error_code failed;
     const std::filesystem::path actual = std::filesystem::weakly_canonical(file, failed);
     wanted << PathText(actual.string()) << PathText(actual.parent_path().string());
@@ -58,7 +59,7 @@ void FileWatch::check() {
   if (isBusy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
-    editor_.checkDisk();
+    CheckDisk(editor_.services(), editor_.documents(), editor_.door());
     follow();
   }
 }

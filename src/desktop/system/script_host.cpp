@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <iostream>
 
+#include "commands/named_files.h"
 #include "desktop/system/kit.h"
 #include "desktop/system/picture_file.h"
 #include "desktop/windows/camera_window.h"
@@ -20,10 +21,10 @@ class Pictures : public ScriptPictures {
  public:
   explicit Pictures(Editor& editor) : editor_(editor) {}
 
-  bool savePicture(ScriptView view, const std::string& file) override {
-    const QImage picture = view == ScriptView::Camera ? PictureOfCamera(editor_, 1)
-                                                      : PictureOfPlanView(editor_, static_cast<int>(view), 1,
-                                                                          QGuiApplication::palette());
+  bool savePicture(int view, const std::string& file) override {
+    const QImage picture = view == kCameraView
+                               ? PictureOfCamera(editor_, 1)
+                               : PictureOfPlanView(editor_, view, 1, QGuiApplication::palette());
     return SavePng(picture, file);
   }
 
@@ -48,14 +49,11 @@ int RunScriptFile(const std::string& file, const std::vector<std::string>& maps)
   Observer nobody;
   Editor editor(FindEditorPlace(), prompts, nobody);
   Pictures pictures(editor);
-  try {
-    editor.start();
-    for (const std::string& map : maps) editor.openFile(map);
-  } catch (const ScriptFailure& failure) {
-    return report(file, {false, 0, failure.what()});
-  }
   ScriptRunner runner(editor, prompts, &pictures, std::cout);
-  const ScriptResult result = runner.runFile(file);
+  const ScriptResult result = runner.runFile(file, [&] {
+    editor.start();
+    for (const std::string& map : maps) OpenNamed(editor, map);
+  });
   std::cout.flush();
   return report(file, result);
 }

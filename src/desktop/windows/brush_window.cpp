@@ -5,9 +5,9 @@
 #include <QVBoxLayout>
 
 #include "base/text.h"
-#include "commands/handlers.h"
 #include "desktop/dialogs/shown_text.h"
 #include "ops/face_textures.h"
+#include "panels/brush_panel.h"
 
 namespace velk {
 namespace {
@@ -17,18 +17,11 @@ constexpr int kTabStops[] = {30, 100, 150, 200};
 
 QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
-std::string readoutOf(const map* m, const brush* shown, int selected) {
-  if (!m || !shown) return Format("[%i] Selected", selected);
-  return Format("[%i] Selected   (%g %g %g) - (%g %g %g)", selected, double(shown->mins.x),
-                double(shown->mins.y), double(shown->mins.z), double(shown->maxs.x), double(shown->maxs.y),
-                double(shown->maxs.z));
-}
-
 }  // namespace
 
 TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor), readout_(new QLabel), faces_(new QTreeWidget) {
-  setWindowTitle(QString::fromStdString(editor.titleOf(ToolWindow::SelectedBrush)));
+  setWindowTitle(QString::fromStdString(WindowTitle(editor, ToolWindow::SelectedBrush)));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -53,19 +46,18 @@ TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
   connect(faces_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
     if (refreshing_ || !item) return;
     const int index = faces_->indexOfTopLevelItem(item);
-    QTimer::singleShot(0, this, [this, index] { commands::chooseFace(editor_, index); });
+    QTimer::singleShot(0, this, [this, index] { choose(index); });
   });
   refresh();
 }
 
 void TSelectedBrushWindow::refresh() {
   refreshing_ = true;
-  map* m = editor_.currentMap();
-  const brush* shown = m ? m->firstSelected() : nullptr;
-  readout_->setText(ShownText(readoutOf(m, shown, m ? m->totalSelected() : 0)));
+  map* m = editor_.documents().currentMap();
+  readout_->setText(ShownText(BrushReadout(m)));
   useColours();
   faces_->clear();
-  if (shown) listFaces(*shown);
+  listFaces(FacesOfCurrentBrush(m));
   refreshing_ = false;
 }
 
@@ -77,11 +69,16 @@ void TSelectedBrushWindow::useColours() {
   faces_->setPalette(palette);
 }
 
-void TSelectedBrushWindow::listFaces(const brush& shown) {
+void TSelectedBrushWindow::choose(int index) {
+  map* m = editor_.documents().currentMap();
+  if (m) editor_.door().perform({.name = "Face"}, [&] { return ChooseFace(*m, index); });
+}
+
+void TSelectedBrushWindow::listFaces(const FaceLines& shown) {
   const ViewColours& colours = editor_.settings().colours;
-  for (int i = 0; i < shown.numfaces(); ++i) {
-    auto* item = new QTreeWidgetItem(faces_, ShownText(FaceListLine(shown, i)).split('\t'));
-    const bool current = i == shown.currentFace();
+  for (int i = 0; i < static_cast<int>(shown.lines.size()); ++i) {
+    auto* item = new QTreeWidgetItem(faces_, ShownText(shown.lines[static_cast<size_t>(i)]).split('\t'));
+    const bool current = i == shown.current;
     for (int column = 0; column < faces_->columnCount(); ++column) {
       item->setForeground(column, colour(current ? colours.color_curfacecolor : colours.color_selection));
     }

@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 
 #include "app/editor.h"
+#include "panels/brush_panel.h"
 
 namespace velk {
 
@@ -19,7 +20,8 @@ class TSelectedBrushWindow : public QWidget {
   void refresh();
 
  private:
-  void listFaces(const brush& shown);
+  void listFaces(const FaceLines& shown);
+  void choose(int index);
   void useColours();
 
   Editor& editor_;

@@ -26,11 +26,11 @@ QList<QRgb> colourTable(const Wad* wad) {
 
 // The renderer's picture stretched over the whole image.
 void drawRendered(Editor& editor, QImage& image) {
-  editor.renderCamera();
-  const Renderer& renderer = editor.cameraView().renderer;
+  editor.views().renderCamera();
+  const Renderer& renderer = editor.views().renderer;
   QImage rendered(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
                   QImage::Format_Indexed8);
-  rendered.setColorTable(colourTable(editor.paletteWad()));
+  rendered.setColorTable(colourTable(editor.views().paletteWad()));
   QPainter painter(&image);
   painter.drawImage(
       QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);
@@ -54,11 +54,11 @@ void drawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int 
 }  // namespace
 
 QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
-  const int width = editor.cameraView().clientWidth;
-  const int height = editor.cameraView().clientHeight;
-  editor.cameraView().deviceScale = devicePixelRatio;
+  const int width = editor.views().cameraWidth;
+  const int height = editor.views().cameraHeight;
+  editor.views().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
-  const map* shown = editor.currentMap();
+  const map* shown = editor.documents().currentMap();
   if (shown && editor.settings().drawmode != kWireMode) drawRendered(editor, image);
   QtCanvas canvas(image, fontFamily(editor));
   if (!shown) {
@@ -66,7 +66,7 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
     return image;
   }
   if (editor.settings().drawmode == kWireMode) {
-    DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.cameraView().lens);
+    DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
   }
   drawOverlays(editor, *shown, canvas, width);
   return image;
@@ -85,7 +85,7 @@ void TCameraWindow::markStale() {
   update();
 }
 
-void TCameraWindow::showTitle() { setWindowTitle(ShownText(editor_.titleOf(ToolWindow::Camera))); }
+void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor_, ToolWindow::Camera))); }
 
 void TCameraWindow::paintEvent(QPaintEvent*) {
   if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
@@ -97,19 +97,20 @@ void TCameraWindow::paintEvent(QPaintEvent*) {
 }
 
 void TCameraWindow::resizeEvent(QResizeEvent*) {
-  editor_.cameraView().clientWidth = width();
-  editor_.cameraView().clientHeight = height();
+  editor_.views().resize(kCameraView, width(), height());
   markStale();
 }
 
 void TCameraWindow::mousePressEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.pressCamera(PointerEventOf(*event));
+  if (IsEditorButton(event->button())) editor_.input().press(kCameraView, PointerEventOf(*event));
 }
 
-void TCameraWindow::mouseMoveEvent(QMouseEvent* event) { editor_.moveInCamera(PointerEventOf(*event)); }
+void TCameraWindow::mouseMoveEvent(QMouseEvent* event) {
+  editor_.input().move(kCameraView, PointerEventOf(*event));
+}
 
 void TCameraWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.releaseCamera(PointerEventOf(*event));
+  if (IsEditorButton(event->button())) editor_.input().release(kCameraView, PointerEventOf(*event));
 }
 
 }  // namespace velk

@@ -1,11 +1,11 @@
 #include "desktop/windows/plan_view_window.h"
 
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "commands/dispatch.h"
+#include "commands/context_menus.h"
 #include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/context_menu.h"
 #include "desktop/windows/pointer_events.h"
 #include "desktop/windows/qt_canvas.h"
 #include "planview/draw_plan_view.h"
@@ -17,15 +17,26 @@ constexpr int kWheelStep = 120;  // eighths of a degree in one notch
 
 Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
 
+StripColours StripColoursOf(const QPalette& palette) {
+  return {colourOf(palette.color(QPalette::Window)), colourOf(palette.color(QPalette::WindowText))};
+}
+
+QImage PictureOfStrip(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
+  const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
+  QImage image = MakeCanvasImage(record.clientWidth, kStripHeight, devicePixelRatio);
+  QtCanvas canvas(image, ShownText(editor.settings().velk_font));
+  drawHeaderStrip(canvas, record, editor.settings(), editor.documents().currentMap(), "",
+                  StripColoursOf(palette));
+  return image;
+}
+
 }  // namespace
 
 QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
-  const PlanView& record = editor.planViews().views[static_cast<size_t>(view)];
+  const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  const StripColours strip{colourOf(palette.color(QPalette::Window)),
-                           colourOf(palette.color(QPalette::WindowText))};
-  drawPlanView(canvas, editor.planScene(strip), view);
+  drawPlanView(canvas, editor.views().planScene(StripColoursOf(palette)), view);
   return image;
 }
 
@@ -40,31 +51,40 @@ TXYViewWindow::TXYViewWindow(Editor& editor, int view, QWidget* parent)
 }
 
 void TXYViewWindow::markStale() {
-  stale_ = true;
+  stale_ = stripStale_ = true;
   update();
 }
 
+void TXYViewWindow::markStripStale() {
+  stripStale_ = true;
+  update(0, 0, width(), kStripHeight);
+}
+
 void TXYViewWindow::drawPicture() {
-  const PlanView& record = editor_.planViews().views[static_cast<size_t>(view_)];
+  const PlanView& record = editor_.views().plans.views[static_cast<size_t>(view_)];
   picture_ = PictureOfPlanView(editor_, view_, devicePixelRatioF(), palette());
   stale_ = false;
+  stripStale_ = true;
   setWindowTitle(QString::fromLatin1(captionText(record, editor_.settings()).c_str()));
 }
 
 void TXYViewWindow::paintEvent(QPaintEvent*) {
   if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) drawPicture();
+  if (stripStale_) {
+    strip_ = PictureOfStrip(editor_, view_, devicePixelRatioF(), palette());
+    stripStale_ = false;
+  }
   QPainter painter(this);
   painter.drawImage(0, 0, picture_);
+  painter.drawImage(0, 0, strip_);
 }
 
 void TXYViewWindow::resizeEvent(QResizeEvent*) {
-  PlanView& record = editor_.planViews().views[static_cast<size_t>(view_)];
-  record.clientWidth = width();
-  record.clientHeight = height();
+  editor_.views().resize(view_, width(), height());
   markStale();
 }
 
-void TXYViewWindow::focusInEvent(QFocusEvent*) { editor_.planViews().current = view_; }
+void TXYViewWindow::focusInEvent(QFocusEvent*) { editor_.views().plans.current = view_; }
 
 // The strip has the palette's colours.
 void TXYViewWindow::changeEvent(QEvent* event) {
@@ -72,51 +92,29 @@ void TXYViewWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) markStale();
 }
 
-void TXYViewWindow::follow(const PointerOutcome& outcome) {
-  if (outcome.redrawStrip) markStale();
-}
-
-void TXYViewWindow::openMenu(const StripMenu& menu) {
-  QMenu popup(this);
-  for (const ViewMenuItem& item : menu.items) {
-    if (item.separator) {
-      popup.addSeparator();
-      continue;
-    }
-    QAction* action = popup.addAction(QString::fromLatin1(item.label.c_str()));
-    const Command* command = FindCommand(item.command);
-    action->setEnabled(command && IsEnabled(editor_, *command));
-    action->setCheckable(item.checked);
-    action->setChecked(item.checked);
-    if (command)
-      connect(action, &QAction::triggered, this, [this, command] { RunCommand(editor_, *command); });
-  }
-  popup.exec(mapToGlobal(QPoint(menu.at.x, menu.at.y)));
-}
-
 void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
   if (!IsEditorButton(event->button())) return;
-  editor_.planViews().current = view_;
   const PointerEvent press = PointerEventOf(*event);
-  if (press.at.y < kStripHeight) {
-    const std::optional<StripField> field = stripFieldAt(width(), press.at);
-    if (!field) return;
-    if (const auto menu = stripMenu(*field, editor_.settings(), editor_.currentMap())) openMenu(*menu);
-    if (*field == StripField::Direction) {
-      editor_.flipPlanView(view_);
-      markStale();  // without a map, too
-    }
-    return;
+  const std::optional<StripField> field = editor_.input().stripFieldAt(view_, press.at);
+  const std::string menu = field ? StripMenuName(view_, *field) : "";
+  editor_.input().press(view_, press);
+  if (!menu.empty()) openMenu(menu, *field);
+}
+
+void TXYViewWindow::openMenu(const std::string& name, StripField field) {
+  const auto menu = ContextMenu(editor_, name);
+  if (!menu) return;
+  for (const StripSlot& slot : layoutStrip(width())) {
+    if (slot.field == field) ShowMenu(*menu, *this, QPoint(slot.rect.left, kStripHeight));
   }
-  follow(editor_.pressPlanView(view_, press));
 }
 
 void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) {
-  follow(editor_.movePlanView(view_, PointerEventOf(*event)));
+  editor_.input().move(view_, PointerEventOf(*event));
 }
 
 void TXYViewWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) follow(editor_.releasePlanView(view_, PointerEventOf(*event)));
+  if (IsEditorButton(event->button())) editor_.input().release(view_, PointerEventOf(*event));
 }
 
 void TXYViewWindow::wheelEvent(QWheelEvent* event) {
@@ -124,8 +122,7 @@ void TXYViewWindow::wheelEvent(QWheelEvent* event) {
   const int steps = wheelRest_ / kWheelStep;
   wheelRest_ -= steps * kWheelStep;
   if (steps != 0) {
-    follow(editor_.wheelPlanView(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()),
-                                 steps));
+    editor_.input().wheel(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()), steps);
   }
   event->accept();
 }

@@ -16,6 +16,8 @@ class TXYViewWindow : public QWidget {
 
   // The next repaint draws a new picture.
   void markStale();
+  // Only its header strip is out of date.
+  void markStripStale();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -28,14 +30,15 @@ class TXYViewWindow : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void follow(const PointerOutcome& outcome);
-  void openMenu(const StripMenu& menu);
+  void openMenu(const std::string& name, StripField field);
   void drawPicture();
 
   Editor& editor_;
   int view_;
   QImage picture_;
+  QImage strip_;
   bool stale_ = true;
+  bool stripStale_ = true;
   int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
 };
 

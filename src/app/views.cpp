@@ -1,0 +1,80 @@
+#include "app/views.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace velk {
+
+void Views::resize(int view, int width, int height) {
+  if (view == kCameraView) {
+    cameraWidth = width;
+    cameraHeight = height;
+    return;
+  }
+  PlanView& plan = plans.views[static_cast<size_t>(view)];
+  plan.clientWidth = width;
+  plan.clientHeight = height;
+}
+
+PlanScene Views::planScene(const StripColours& strip) const {
+  return {.set = plans,
+          .settings = settings_,
+          .shown = documents_.currentMap(),
+          .strip = strip,
+          .groupName = {},
+          .leakPoints = {},
+          .preview = {}};
+}
+
+RenderScene Views::cameraScene() {
+  refreshAssets();
+  return {.model = *documents_.currentMap(),
+          .settings = settings_,
+          .assets = assets_,
+          .lens = lens,
+          .preview = {}};
+}
+
+const Wad* Views::paletteWad() const {
+  return textures_.paletteWad(documents_.current() ? &documents_.current()->textures : nullptr);
+}
+
+void Views::refreshAssets() {
+  const TextureSet* set = documents_.current() ? &documents_.current()->textures : nullptr;
+  assets_.makeTextureRef = [set](const std::string& name) { return set->makeTextureRef(name); };
+  const ColormapTable* table = textures_.colormap();
+  assets_.colormap = table ? table->data() : nullptr;
+  const Wad* wad = paletteWad();
+  assets_.palette = wad ? wad->palette.data() : nullptr;
+  if (!wad) return;
+  assets_.brushOutline = wad->outlines.brush;
+  assets_.selectionOutline = wad->outlines.selection;
+  assets_.faceOutline = wad->outlines.face;
+}
+
+RenderSize Views::renderSize() const {
+  return RenderSizeFor(settings_, Truncate(RoundHalfAway(cameraWidth * deviceScale)),
+                       Truncate(RoundHalfAway(cameraHeight * deviceScale)));
+}
+
+void Views::renderCamera() {
+  if (documents_.currentMap()) renderer.renderFrame(cameraScene(), renderSize());
+}
+
+FacePick Views::pickInCamera(Pixel at) {
+  if (!documents_.currentMap()) return {};
+  const RenderSize size = renderSize();
+  const int x = Truncate(double(at.x) * size.width / std::max(1, cameraWidth));
+  const int y = Truncate(double(at.y) * size.height / std::max(1, cameraHeight));
+  return renderer.pickFace(cameraScene(), size, x, y);
+}
+
+bool Views::centre(Centre how) {
+  const map* m = documents_.currentMap();
+  if (!m || how == Centre::Stay) return false;
+  const bool locked = settings_.lock_cameras && how == Centre::Follow;
+  return setPlanCenter(plans, m, m->activeCamera().origin, locked);
+}
+
+}  // namespace velk

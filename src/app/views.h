@@ -1,0 +1,56 @@
+// The plan views and the camera view: what their pictures are drawn from.
+#pragma once
+
+#include <string>
+
+#include "camera/movement.h"
+#include "camera/renderer.h"
+#include "documents/documents.h"
+#include "mouse/drag.h"
+#include "planview/draw_plan_view.h"
+
+namespace velk {
+
+class Views {
+ public:
+  // All must outlive it.
+  Views(Settings& settings, Documents& documents, TextureManager& textures)
+      : settings_(settings), documents_(documents), textures_(textures) {}
+
+  PlanViewSet plans;
+  WireLens lens;
+  Renderer renderer;
+  // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
+  int cameraWidth = 320;
+  int cameraHeight = 200;
+  double deviceScale = 1;
+
+  // In a view (0..2, kCameraView) the editor's pixels. Sizes outside 1..16384 are the caller's fault.
+  void resize(int view, int width, int height);
+
+  // What the picture of a plan view is drawn from.
+  PlanScene planScene(const StripColours& strip) const;
+  // The same for the camera view's picture, until the next call; a map must be open.
+  RenderScene cameraScene();
+  // The picture's size in the camera view as it is.
+  RenderSize renderSize() const;
+  // Draws the picture of the flat and textured modes. Without a map nothing happens.
+  void renderCamera();
+  // The brush and face at a pixel of the camera view; none without a map.
+  FacePick pickInCamera(Pixel at);
+  // The wad whose palette the views are drawn in; none when nothing was loaded.
+  const Wad* paletteWad() const;
+
+  // The plan views go to the active camera; Follow: unless cameras are locked. Whether they moved.
+  bool centre(Centre how);
+
+ private:
+  void refreshAssets();
+
+  Settings& settings_;
+  Documents& documents_;
+  TextureManager& textures_;
+  RenderAssets assets_;
+};
+
+}  // namespace velk

@@ -1,0 +1,34 @@
+// The saved arrangements of the frame's windows: velk.pos.
+#pragma once
+
+#include "app/windows.h"
+#include "documents/services.h"
+
+namespace velk {
+
+class WindowPlaces {
+ public:
+  explicit WindowPlaces(const Services& services) : services_(services) {}
+
+  // The windows that commands act on; without a host, windows that nobody sees.
+  WindowHost& windows() const { return *windows_; }
+  void setWindows(WindowHost& host) { windows_ = &host; }
+
+  const Arrangements& arrangements() const { return arrangements_; }
+  // Reads velk.pos when there is one. Until then, and without one, no slot was saved.
+  void load();
+  // Gives the windows the places of the current slot; without a saved one nothing happens.
+  Outcome apply();
+  // Makes a slot (0..3) current and gives the windows its places.
+  Outcome use(int slot);
+  // Takes the windows' places into a slot (0..3) and writes all slots to velk.pos.
+  Outcome save(int slot);
+
+ private:
+  const Services& services_;
+  PlainWindows plainWindows_;
+  WindowHost* windows_ = &plainWindows_;
+  Arrangements arrangements_;
+};
+
+}  // namespace velk

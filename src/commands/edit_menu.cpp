@@ -1,0 +1,117 @@
+// Commands of the Edit menu: undo, the clipboard, and what changes the selected brushes.
+#include "app/editor.h"
+#include "base/text.h"
+#include "commands/command_tables.h"
+#include "ops/clipboard.h"
+
+namespace velk {
+namespace {
+
+constexpr const char* kCannotCopy = "Velk - Cannot Copy";
+constexpr const char* kNoRoom = "The map has no room for the copies.\n\n";
+
+UndoHistory& HistoryOf(const Editor& editor) { return editor.documents().current()->history; }
+
+bool UndoKept(const Editor& editor) { return MapOpen(editor) && HistoryOf(editor).canUndo(); }
+
+bool RedoKept(const Editor& editor) { return MapOpen(editor) && HistoryOf(editor).canRedo(); }
+
+std::string Named(const char* verb, const std::string& name) {
+  return name.empty() ? Format("&%s...", verb) : Format("&%s %s...", verb, name.c_str());
+}
+
+std::string UndoLabel(const Editor& editor) {
+  return Named("Undo", MapOpen(editor) ? HistoryOf(editor).undoName() : "");
+}
+
+std::string RedoLabel(const Editor& editor) {
+  return Named("Redo", MapOpen(editor) ? HistoryOf(editor).redoName() : "");
+}
+
+// Every window shows the map as it was then.
+Outcome Restored(const char* status) {
+  Outcome outcome = Outcome::Drawn(Redraw::All, status);
+  outcome.maps = true;
+  return outcome;
+}
+
+Outcome SaveForUndo(Editor& editor, map& m) {
+  HistoryOf(editor).save(m, "Saving for undo...", UndoMode::All, editor.settings().undo_levels);
+  return Outcome::Said("Saved for undo...");
+}
+
+Outcome UndoChange(Editor& editor, map& m) {
+  if (!HistoryOf(editor).undo(m, editor.settings().undo_levels)) return {};
+  return Restored("Undo...");
+}
+
+Outcome RedoChange(Editor& editor, map& m) {
+  if (!HistoryOf(editor).redo(m)) return {};
+  return Restored("Redo...");
+}
+
+Outcome CopyToClipboard(Editor& editor, map& m) {
+  CopySelection(m, editor.documents().newClipboard());
+  return Outcome::Said("Selection copied...");
+}
+
+Outcome Paste(Editor& editor, map& m) {
+  if (!editor.documents().clipboard()) return {};
+  PasteClipboard(m, *editor.documents().clipboard(), 0, PasteOffset(editor.settings()));
+  return Outcome::Drawn(Redraw::All, "Selection pasted...");
+}
+
+Outcome Clone(Editor& editor, map& m) {
+  CloneSelection(m, PasteOffset(editor.settings()));
+  return Outcome::Drawn(Redraw::All, "Selection cloned...");
+}
+
+Outcome DeleteSelection(Editor&, map& m) {
+  m.MSPerform(Method::Delete);
+  return Outcome::Drawn(Redraw::All, "Deleting...");
+}
+
+// clang-format off
+const Command kRows[] = {
+    {.id = 11845, .menu = "&Edit", .label = "Save for Undo...", .hint = "Temp. cmd to Save...",
+     .run = SaveForUndo},
+    {.id = 11844, .name = "CM_UNDO", .menu = "&Edit", .label = "&Undo", .keyText = "Ctrl-Z", .keys = "Ctrl+Z",
+     .hint = "Undo last change...", .enabled = UndoKept, .labelNow = UndoLabel,
+     .run = UndoChange},
+    {.id = 1100, .name = "CM_REDO", .menu = "&Edit", .label = "&Redo", .keyText = "Ctrl-Y", .keys = "Ctrl+Y",
+     .hint = "Do again what was undone...", .enabled = RedoKept,
+     .labelNow = RedoLabel, .run = RedoChange},
+    {.id = 184, .name = "CM_COPY_MOVE", .menu = "&Edit|&Copy", .startsGroup = true,
+     .label = "O&ffset Copy/Move...",
+     .keyText = "Ctrl-Shift Space", .keys = "Ctrl+Shift+Space",
+     .hint = "Copy or move selection by offset...", .enabled = SelectionInEntity,
+     .reason = "not built yet: transforms"},
+    {.id = 216, .name = "CM_EDITCLONE", .menu = "&Edit|&Copy", .label = "C&lone Brush(es)",
+     .keyText = "Ctrl-Space", .keys = "Ctrl+Space", .hint = "Clone selected brushes",
+     .enabled = SelectionInEntity, .run = Clone, .caption = kCannotCopy, .failure = kNoRoom},
+    {.id = 24323, .name = "CM_EDITCOPY", .menu = "&Edit|&Copy", .label = "C&opy", .keyText = "Ctrl-C",
+     .keys = "Ctrl+C", .hint = "Copy selected entity or brushes", .enabled = SelectionInEntity,
+     .run = CopyToClipboard},
+    {.id = 24324, .name = "CM_EDITPASTE", .menu = "&Edit", .label = "&Paste", .keyText = "Ctrl-V",
+     .keys = "Ctrl+V", .hint = "Paste selection...", .enabled = MapOpen,
+     .run = Paste, .caption = kCannotCopy, .failure = kNoRoom},
+    {.id = 270, .name = "CM_DELETE", .menu = "&Edit", .label = "&Delete", .keyText = "-",
+     .keys = "Ctrl+X Num-", .hint = "Delete selected brushes from world", .enabled = MapOpen,
+     .run = DeleteSelection},
+    {.id = 166, .name = "CM_SUBTRACT", .menu = "&Edit", .startsGroup = true,
+     .label = "Subtract", .keyText = "F12",
+     .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,
+     .reason = "not built yet: subtraction"},
+    {.id = 140, .name = "CM_SNAP_TO_GRID", .menu = "&Edit", .label = "Snap To Grid", .keyText = "Alt-S",
+     .keys = "Alt+S", .hint = "Snap current brush(es) to grid...", .enabled = MapOpen,
+     .reason = "not built yet: transforms"},
+    {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.",
+     .reason = "not built yet: the leak search"},
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const Command> EditCommands() { return kRows; }
+
+}  // namespace velk
