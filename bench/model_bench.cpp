@@ -98,19 +98,34 @@ BENCHMARK_CAPTURE(BuildWindings, cylinders, kCylinders)->Arg(1257);
 BENCHMARK_CAPTURE(BuildWindings, mixed, kMixed)->Arg(1257)->Arg(4000);
 
 // One dispatch over every brush.
-void Perform(benchmark::State& state, Method method) {
+void Perform(benchmark::State& state, BrushMethod (*method)(int round)) {
   BenchMap bench(kMixed, int(state.range(0)));
-  bench.m.perform.offset = {8, 0, 0};
-  for (auto _ : state) {
-    bench.m.MAPerform(method);
-    bench.m.perform.offset.x = -bench.m.perform.offset.x;
-  }
+  int round = 0;
+  for (auto _ : state) bench.m.MAPerform(method(round++));
   if (bench.m.brushCount() != state.range(0)) state.SkipWithError("brushes were lost");
 }
-BENCHMARK_CAPTURE(Perform, select, Method::Select)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, filter, Method::SetHidden)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, bounds, Method::WidenBounds)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, translate, Method::Translate)->Arg(4000);
+BrushMethod Select(int) { return Method::Select; }
+BrushMethod Bounds(int) {
+  static vec3 mins;
+  static vec3 maxs;
+  return BrushMethod::widenBounds(mins, maxs);
+}
+BrushMethod MoveForthAndBack(int round) { return BrushMethod::translate({round % 2 ? 8.0f : -8.0f, 0, 0}); }
+BENCHMARK_CAPTURE(Perform, select, Select)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, bounds, Bounds)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, translate, MoveForthAndBack)->Arg(4000);
+
+// Deletes every brush of an entity.
+void DeleteAll(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto bench = std::make_unique<BenchMap>(kBoxes, int(state.range(0)));
+    state.ResumeTiming();
+    bench->m.MAPerform(Method::Delete);
+    if (bench->m.brushCount() != 0) state.SkipWithError("brushes were left");
+  }
+}
+BENCHMARK(DeleteAll)->Arg(1000)->Arg(4000);
 
 }  // namespace
 }  // namespace velk

@@ -6,8 +6,7 @@ namespace velk::commands {
 namespace {
 
 void translateSelection(Editor& editor, map& m, const vec3& offset, const char* text) {
-  m.perform.offset = offset;
-  m.MSPerform(Method::Translate);
+  m.MSPerform(BrushMethod::translate(offset));
   editor.flagAllViews();
   editor.postStatus(text);
 }

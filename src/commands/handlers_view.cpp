@@ -17,7 +17,6 @@ void toggle(Editor& editor, bool& setting, Redraws redraws, const char* text) {
 
 void omit(Editor& editor, bool& kind, const char* text) {
   kind = !kind;
-  for (int i = 0; i < editor.mapCount(); ++i) editor.document(i)->model.MAPerform(Method::SetHidden);
   if (!editor.currentMap()) return;
   editor.flagAllViews();
   editor.postStatus(text);

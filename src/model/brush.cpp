@@ -49,11 +49,9 @@ brush::brush(ObjectCounters* counters) : counters_(counters) {
 
 brush::brush(const brush& other)
     : invalid(other.invalid),
-      hidden(other.hidden),
       owner(other.owner),
       mins(other.mins),
       maxs(other.maxs),
-      source(&other),
       selected_(other.selected_),
       currentFace_(other.currentFace_),
       group_(other.group_),

@@ -18,19 +18,17 @@ inline constexpr int MAX_FACES = 64;
 
 struct brush {
   explicit brush(ObjectCounters* counters = nullptr);
-  // A copy carries everything but polygons and texture caches; its source is the brush copied. Run
-  // buildWindings on it when polygons are needed.
+  // A copy carries everything but polygons and texture caches. Run buildWindings on it when polygons are
+  // needed.
   brush(const brush& other);
   brush& operator=(const brush&) = delete;
   // Takes the brush out of the hit list. It must have left its owner's list before.
   ~brush();
 
   bool invalid = false;     // no valid solid; see buildWindings
-  bool hidden = false;      // left out by the view filter
   entity* owner = nullptr;  // the entity that holds this brush
   vec3 mins;                // bounds of all polygons, world units
   vec3 maxs;
-  const brush* source = nullptr;           // in an undo copy: the live brush
   HitList* hits = nullptr;                 // the hit list that holds this brush, if any
   std::shared_ptr<const BrushShape> kept;  // of the last snapshot; may be out of date
   // Expires with the brush; made when first asked for.
@@ -104,6 +102,7 @@ struct brush {
   RayClip clipRay(const vec3& start, const vec3& end) const;
 
  private:
+  friend class entity;
   template <typename T>
   void set(T& field, T value) {
     if (field == value) return;
@@ -116,6 +115,7 @@ struct brush {
 
   std::unique_ptr<std::byte[]> store_;  // one block with the polygons of all faces, kept for the next build
   size_t storeSize_ = 0;
+  int place_ = -1;  // in its owner's list, when it is there
   bool selected_ = false;
   int currentFace_ = 0;
   int group_ = 0;

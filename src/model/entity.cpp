@@ -47,11 +47,7 @@ std::weak_ptr<const void> entity::identity() {
   return identity_;
 }
 
-int entity::indexOf(const brush* b) const {
-  const auto found =
-      std::find_if(brushes_.begin(), brushes_.end(), [&](const auto& p) { return p.get() == b; });
-  return found == brushes_.end() ? -1 : int(found - brushes_.begin());
-}
+int entity::indexOf(const brush* b) const { return b && at(b->place_) == b ? b->place_ : -1; }
 
 void entity::requireRoom() const {
   if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
@@ -60,6 +56,7 @@ void entity::requireRoom() const {
 brush& entity::addobject(std::unique_ptr<brush> added) {
   requireRoom();
   added->owner = this;
+  added->place_ = numbrushes();
   brushes_.push_back(std::move(added));
   return *brushes_.back();
 }
@@ -67,17 +64,24 @@ brush& entity::addobject(std::unique_ptr<brush> added) {
 std::unique_ptr<brush> entity::removeObject(const brush* b, std::unique_ptr<entity>* emptied) {
   const int index = indexOf(b);
   if (index < 0) return nullptr;
-  std::unique_ptr<brush> removed = std::move(brushes_[size_t(index)]);
-  if (index != numbrushes() - 1) brushes_[size_t(index)] = std::move(brushes_.back());
+  std::unique_ptr<brush> removed = std::exchange(brushes_[size_t(index)], nullptr);
+  std::swap(brushes_[size_t(index)], brushes_.back());
   brushes_.pop_back();
+  if (brush* moved = at(index)) moved->place_ = index;
   if (brushes_.empty() && emptied && !isWorld()) *emptied = parent_->removeEntity(this);
   return removed;
 }
 
 std::unique_ptr<brush> entity::replaceAt(int index, std::unique_ptr<brush> with) {
   with->owner = this;
+  with->place_ = index;
   std::swap(brushes_[size_t(index)], with);
   return with;
+}
+
+std::vector<std::unique_ptr<brush>> entity::takeBrushes() {
+  for (brush& b : brushes()) b.owner = nullptr;
+  return std::exchange(brushes_, {});
 }
 
 void entity::setKey(std::string_view key, std::string_view value) {
@@ -124,17 +128,13 @@ vec3 entity::vectorOfKey(std::string_view key) const {
 
 bool entity::isWorld() const { return parent_->world() == this; }
 
-std::unique_ptr<entity> entity::copy(map& target, Copy kind) const {
+std::unique_ptr<entity> entity::copy(map& target) const {
   auto made = std::make_unique<entity>(target);
   made->isModel = isModel;
   made->pairs_ = pairs_;
-  if (kind != Copy::Rebuilt) made->source = this;
-  if (kind == Copy::PairsOnly) return made;
-
   made->brushes_.reserve(brushes_.size());
   for (const auto& original : brushes_) {
-    brush& b = made->addobject(std::make_unique<brush>(*original));
-    if (kind == Copy::Rebuilt) b.buildWindings();
+    made->addobject(std::make_unique<brush>(*original)).buildWindings();
   }
   if (made->numbrushes() != numbrushes()) Error("Copying entity, counts didn't match");
   return made;

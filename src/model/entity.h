@@ -37,7 +37,6 @@ class entity {
 
   // The brushes are the entity's own (world, doors, triggers); false: one box of a fixed-size class.
   bool isModel = false;
-  const entity* source = nullptr;  // in a copy: the entity copied
 
   // Brushes, owned. A 4097th is fatal "entity->addobject, too many objects".
   int numbrushes() const { return static_cast<int>(brushes_.size()); }
@@ -54,7 +53,7 @@ class entity {
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
   void destroyBrushes() { brushes_.clear(); }
   // Hands over all brushes; the entity stays in its list.
-  std::vector<std::unique_ptr<brush>> takeBrushes() { return std::exchange(brushes_, {}); }
+  std::vector<std::unique_ptr<brush>> takeBrushes();
   Pointees<brush> brushes() const { return Pointees(brushes_); }
   std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
 
@@ -78,10 +77,8 @@ class entity {
   const EntityClass& entityClass() const;
   bool isWorld() const;
 
-  enum class Copy { Rebuilt, ForUndo, PairsOnly };
-  // A copy in `target` (not added to its list), its pairs in the same order. Brushes are rebuilt, or left
-  // without polygons for undo.
-  std::unique_ptr<entity> copy(map& target, Copy kind) const;
+  // A copy in `target` (not added to its list), its pairs in the same order, its brushes rebuilt.
+  std::unique_ptr<entity> copy(map& target) const;
 
   // The entity's "targetname", made as "t<n>" from the largest in the map when it has none.
   std::string makeTargetName();
@@ -101,6 +98,7 @@ class entity {
   size_t placeOf(std::string_view key) const;
 
   map* parent_;
+  int place_ = -1;  // in the map's list, when it is there
   std::vector<std::unique_ptr<brush>> brushes_;
   std::vector<KeyPair> pairs_;  // oldest first
   // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.

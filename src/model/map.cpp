@@ -1,6 +1,7 @@
 #include "model/map.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/error.h"
 #include "base/text.h"
@@ -22,11 +23,7 @@ map::map(const Settings& settings, const EntityClassList& classes, ObjectCounter
 // Brushes handed over to others must not keep a list that goes.
 map::~map() { hits.clear(); }
 
-int map::indexOf(const entity* e) const {
-  const auto found =
-      std::find_if(entities_.begin(), entities_.end(), [&](const auto& p) { return p.get() == e; });
-  return found == entities_.end() ? -1 : int(found - entities_.begin());
-}
+int map::indexOf(const entity* e) const { return e && at(e->place_) == e ? e->place_ : -1; }
 
 void map::requireRoom() const {
   if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
@@ -34,6 +31,7 @@ void map::requireRoom() const {
 
 entity& map::addobject(std::unique_ptr<entity> added) {
   requireRoom();
+  added->place_ = numentities();
   entities_.push_back(std::move(added));
   modified = true;
   return *entities_.back();
@@ -43,9 +41,10 @@ std::unique_ptr<entity> map::removeEntity(const entity* e) {
   modified = true;
   const int index = indexOf(e);
   if (index < 1) return nullptr;
-  std::unique_ptr<entity> removed = std::move(entities_[size_t(index)]);
-  if (index != numentities() - 1) entities_[size_t(index)] = std::move(entities_.back());
+  std::unique_ptr<entity> removed = std::exchange(entities_[size_t(index)], nullptr);
+  std::swap(entities_[size_t(index)], entities_.back());
   entities_.pop_back();
+  if (entity* moved = at(index)) moved->place_ = index;
   if (currentEntity_ == e) setCurrentEntity(world());
   return removed;
 }
@@ -132,7 +131,7 @@ void map::setWorkRange(const vec3& low, const vec3& high) {
   notify(MapNotice::WorkRange);
 }
 
-bool map::isFiltered(const brush& b) const {
+bool map::matchesFilter(const brush& b) const {
   const ViewFilter& filter = settings_.filter;
   if (b.owner && b.owner->isWorld()) {
     if (filter.omitWorld) return true;

@@ -31,8 +31,7 @@ bool same(const std::vector<KeyPair>& a, const std::vector<KeyPair>& b) {
 
 bool same(const KeptPage& a, const KeptPage& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const KeptBrush& x, const KeptBrush& y) {
-    return x.shape == y.shape && x.currentFace == y.currentFace && x.selected == y.selected &&
-           x.hidden == y.hidden;
+    return x.shape == y.shape && x.currentFace == y.currentFace && x.selected == y.selected;
   });
 }
 
@@ -63,7 +62,7 @@ std::shared_ptr<const BrushShape> shapeOf(brush& b) {
   return b.kept;
 }
 
-KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected(), b.hidden}; }
+KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected()}; }
 
 // The value itself, or the earlier one when that is equal, so that both snapshots share it.
 template <typename T>
@@ -112,7 +111,6 @@ std::unique_ptr<brush> fromPool(BrushPool& pool, const KeptBrush& kept, entity& 
   pool.erase(found);
   unchanged->setCurrentFace(kept.currentFace);
   unchanged->select(kept.selected);
-  unchanged->hidden = kept.hidden;
   return unchanged;
 }
 
@@ -143,7 +141,6 @@ std::unique_ptr<brush> RestoreBrush(entity& owner, const KeptBrush& kept) {
   made->kept = kept.shape;
   made->setCurrentFace(kept.currentFace);
   made->select(kept.selected);
-  made->hidden = kept.hidden;
   made->buildWindings();
   return made;
 }

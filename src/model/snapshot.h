@@ -20,7 +20,6 @@ struct KeptBrush {
   std::shared_ptr<const BrushShape> shape;
   int currentFace = 0;
   bool selected = false;
-  bool hidden = false;
 };
 
 // Some of an entity's brushes: a change costs the page that it is on, not the whole list.

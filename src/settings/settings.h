@@ -39,6 +39,8 @@ struct ViewFilter {
   bool omitWorld = false;
   bool omitWater = false;
   bool omitClip = false;
+
+  bool omitsAny() const { return omitLights || omitEntities || omitWorld || omitWater || omitClip; }
 };
 
 // Values of section [Velk] carry the name of their key.

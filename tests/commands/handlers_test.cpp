@@ -19,8 +19,9 @@ TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
   session.open("b.map");
   session.run("CM_OMIT_LIGHTS");
   for (int i = 1; i < 3; ++i) {
-    EXPECT_TRUE(session.editor.document(i)->model.at(1)->at(0)->hidden) << i;
-    EXPECT_FALSE(session.editor.document(i)->model.world()->at(0)->hidden) << i;
+    const map& m = session.editor.document(i)->model;
+    EXPECT_FALSE(IsShown(m, *m.at(1)->at(0))) << i;
+    EXPECT_TRUE(IsShown(m, *m.world()->at(0))) << i;
   }
 }
 

@@ -44,7 +44,7 @@ TEST_F(PairTest, NewestFirstAndAChangedPairKeepsItsPlace) {
   EXPECT_EQ(Keys(e), "origin angle classname ");
   EXPECT_EQ(e.valueOfKey("angle"), "180");
   EXPECT_EQ(e.valueOfKey("Angle"), "") << "keys differ by case";
-  EXPECT_EQ(Keys(*e.copy(m, entity::Copy::PairsOnly)), Keys(e));
+  EXPECT_EQ(Keys(*e.copy(m)), Keys(e));
 }
 
 TEST_F(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
@@ -141,27 +141,14 @@ TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
   EXPECT_EQ(m.numentities(), 2) << "the light is gone";
 }
 
-TEST_F(EntityCopyTest, ThreeKinds) {
+TEST_F(EntityCopyTest, TakesBrushesAlongRebuilt) {
   entity& door = addEntity("func_door");
   boxIn(door, {0, 0, 0}, {8, 8, 8});
-  const struct {
-    entity::Copy kind;
-    int brushes;
-    bool built;
-    const entity* source;
-  } cases[] = {{entity::Copy::Rebuilt, 1, true, nullptr},
-               {entity::Copy::ForUndo, 1, false, &door},
-               {entity::Copy::PairsOnly, 0, false, &door}};
-  for (const auto& c : cases) {
-    const std::unique_ptr<entity> copy = door.copy(m, c.kind);
-    EXPECT_TRUE(copy->isModel);
-    EXPECT_EQ(copy->source, c.source);
-    ASSERT_EQ(copy->numbrushes(), c.brushes);
-    if (c.brushes == 0) continue;
-    EXPECT_EQ(copy->at(0)->owner, copy.get());
-    EXPECT_EQ(copy->at(0)->source, door.at(0));
-    EXPECT_EQ(copy->at(0)->faces()[0].polygon != nullptr, c.built);
-  }
+  const std::unique_ptr<entity> copy = door.copy(m);
+  EXPECT_TRUE(copy->isModel);
+  ASSERT_EQ(copy->numbrushes(), 1);
+  EXPECT_EQ(copy->at(0)->owner, copy.get());
+  EXPECT_NE(copy->at(0)->faces()[0].polygon, nullptr);
 }
 
 TEST_F(TargetNameTest, CountsOnFromTheLargest) {

@@ -101,8 +101,7 @@ TEST(ViewFilterTest, HidesByOwnerAndTexture) {
     EXPECT_FALSE(t.m.isFiltered(b));
     t.settings.filter.*c.option = true;
     EXPECT_EQ(t.m.isFiltered(b), c.hidden);
-    t.m.MAPerform(Method::SetHidden);
-    EXPECT_EQ(b.hidden, c.hidden);
+    EXPECT_EQ(IsShown(t.m, b), !c.hidden);
   }
 }
 
