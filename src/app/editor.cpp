@@ -114,7 +114,7 @@ void Editor::requestExit() {
 }
 
 void Editor::settingsChanged(const Settings& before) {
-  for (const auto& document : documents_) document->history.limit(settings_.undo_levels);
+  for (const auto& document : documents_) document->history.limit(History::Limits::of(settings_));
   if (before.texture_alignment == settings_.texture_alignment) return;
   for (const auto& document : documents_) {
     for (entity& e : document->model.entities()) {

@@ -21,7 +21,7 @@
 #include "entities/entity_class.h"
 #include "mapfile/map_reader.h"
 #include "model/map.h"
-#include "model/undo.h"
+#include "model/history.h"
 #include "mouse/pointer.h"
 #include "panels/texture_browser.h"
 #include "planview/draw_plan_view.h"
@@ -42,7 +42,7 @@ struct MapDocument {
       : textures(badtex), model(settings, classes, counters) {}
   TextureSet textures;
   map model;  // model.name is the path, as given
-  UndoHistory history;
+  History history;
   FileStamp onDisk;                  // of the file when it was read or written; none for a map without a file
   FileStamp seenOnDisk;              // the last state of the file that the user knows of
   bool fileDiffers = false;          // the file is gone or holds something else

@@ -86,7 +86,7 @@ void Editor::reload(size_t index) {
     fresh->model.cameras = old.model.cameras;
     fresh->model.currentCamera = old.model.currentCamera;
     fresh->model.saves = old.model.saves + 1;  // so that the map counts as modified when this is undone
-    old.history.save(old.model, "Reload", UndoMode::All, settings_.undo_levels);
+    old.history.save(old.model, "Reload", UndoMode::All, History::Limits::of(settings_));
     fresh->history = std::move(old.history);
     documents_[index] = std::move(fresh);
   } catch (const TrappedError& error) {

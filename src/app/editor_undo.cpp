@@ -9,7 +9,7 @@ namespace velk {
 void Editor::beginChange() {
   before_.reset();
   changing_ = settings_.undo_levels > 1 ? current() : nullptr;
-  if (changing_) before_ = TakeSnapshot(current()->model, current()->history.latest());
+  if (changing_) before_ = TakeSnapshot(current()->model);
 }
 
 // Undo, redo and the closing of the map itself take the beginning back.
@@ -18,17 +18,17 @@ void Editor::endChange(const std::string& name) {
   MapSnapshot before = std::move(*before_);
   before_.reset();
   MapDocument& document = *current();
-  if (SameContents(before, TakeSnapshot(document.model, &before))) return;
-  document.history.changed(std::move(before), name, settings_.undo_levels);
+  if (SameContents(before, TakeSnapshot(document.model))) return;
+  document.history.changed(std::move(before), name, History::Limits::of(settings_));
 }
 
 void Editor::saveUndo(const std::string& name, UndoMode mode) {
-  if (current()) current()->history.save(current()->model, name, mode, settings_.undo_levels);
+  if (current()) current()->history.save(current()->model, name, mode, History::Limits::of(settings_));
 }
 
 void Editor::undo() {
   before_.reset();
-  if (!current() || !current()->history.undo(current()->model, settings_.undo_levels)) return;
+  if (!current() || !current()->history.undo(current()->model, History::Limits::of(settings_))) return;
   showCurrent();
   postStatus("Undo...");
 }
@@ -54,7 +54,7 @@ bool Editor::addCopies(const std::function<void(map&)>& add) {
     add(m);
     return true;
   }
-  const MapSnapshot before = TakeSnapshot(m, current()->history.latest());
+  const MapSnapshot before = TakeSnapshot(m);
   try {
     const ErrorTrap trap;
     add(m);

@@ -58,7 +58,7 @@ bool IsHidden(const Editor& editor, const Command& command) {
 }
 
 std::string LabelOf(const Editor& editor, const Command& command) {
-  const UndoHistory* history = editor.current() ? &editor.current()->history : nullptr;
+  const History* history = editor.current() ? &editor.current()->history : nullptr;
   if (command.id == kUndo) return Named("Undo", history ? history->undoName() : "");
   if (command.id == kRedo) return Named("Redo", history ? history->redoName() : "");
   if (command.when == When::RecentMap && IsEnabled(editor, command)) {

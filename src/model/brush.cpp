@@ -82,6 +82,10 @@ std::weak_ptr<const void> brush::identity() {
   return identity_;
 }
 
+void brush::tellOwner() {
+  if (owner) owner->touch();
+}
+
 void brush::setColor(const vec3& color) {
   if (VecEqual(color_, color)) return;
   touch();
@@ -121,7 +125,7 @@ bool brush::addFace(const face& added) {
   editFaces().push_back(std::move(taken));
   buildWindings();
   std::erase_if(faces_, [](const face& f) { return !f.polygon; });
-  currentFace_ = std::max(std::min(currentFace_, numfaces() - 1), 0);
+  setCurrentFace(std::max(std::min(currentFace_, numfaces() - 1), 0));
   if (faces_.size() < kFewestFaces) invalid = true;
   return faces_.size() >= kFewestFaces;
 }

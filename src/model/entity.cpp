@@ -55,6 +55,7 @@ void entity::requireRoom() const {
 
 brush& entity::addobject(std::unique_ptr<brush> added) {
   requireRoom();
+  touch();
   added->owner = this;
   added->place_ = numbrushes();
   brushes_.push_back(std::move(added));
@@ -64,6 +65,7 @@ brush& entity::addobject(std::unique_ptr<brush> added) {
 std::unique_ptr<brush> entity::removeObject(const brush* b, std::unique_ptr<entity>* emptied) {
   const int index = indexOf(b);
   if (index < 0) return nullptr;
+  touch();
   std::unique_ptr<brush> removed = std::exchange(brushes_[size_t(index)], nullptr);
   std::swap(brushes_[size_t(index)], brushes_.back());
   brushes_.pop_back();
@@ -73,6 +75,7 @@ std::unique_ptr<brush> entity::removeObject(const brush* b, std::unique_ptr<enti
 }
 
 std::unique_ptr<brush> entity::replaceAt(int index, std::unique_ptr<brush> with) {
+  touch();
   with->owner = this;
   with->place_ = index;
   std::swap(brushes_[size_t(index)], with);
@@ -80,6 +83,7 @@ std::unique_ptr<brush> entity::replaceAt(int index, std::unique_ptr<brush> with)
 }
 
 std::vector<std::unique_ptr<brush>> entity::takeBrushes() {
+  touch();
   for (brush& b : brushes()) b.owner = nullptr;
   return std::exchange(brushes_, {});
 }
@@ -90,8 +94,11 @@ void entity::setKey(std::string_view key, std::string_view value) {
   key = WithoutLeadingBlanks(key);
   if (key.empty()) return;
   if (const size_t place = placeOf(key); place < pairs_.size()) {
+    if (pairs_[place].value == value) return;
+    touch();
     pairs_[place].value = value;
   } else {
+    touch();
     pairs_.push_back({std::string(key), std::string(value)});
   }
 }
@@ -99,7 +106,9 @@ void entity::setKey(std::string_view key, std::string_view value) {
 void entity::removeKeyPair(std::string_view key) {
   if (pairs_.empty()) return;
   places_.clear();
-  if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) == 0) {
+  if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) > 0) {
+    touch();
+  } else {
     std::printf("WARNING: removeKeyPair: %s not found\n", std::string(key).c_str());
   }
 }

@@ -15,6 +15,7 @@
 namespace velk {
 
 class map;
+struct KeptEntity;
 
 inline constexpr int MAX_KEY = 64;  // bytes with the terminator
 inline constexpr int MAX_VALUE = 128;
@@ -51,7 +52,10 @@ class entity {
   // other than the world that is left empty leaves the map's list and is handed over in `emptied`, for the
   // caller to destroy; when that is null it stays in the map, empty.
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
-  void destroyBrushes() { brushes_.clear(); }
+  void destroyBrushes() {
+    touch();
+    brushes_.clear();
+  }
   // Hands over all brushes; the entity stays in its list.
   std::vector<std::unique_ptr<brush>> takeBrushes();
   Pointees<brush> brushes() const { return Pointees(brushes_); }
@@ -70,6 +74,16 @@ class entity {
   const std::string& valueOfKey(std::string_view key) const;
   // Missing components stay 0.
   vec3 vectorOfKey(std::string_view key) const;
+
+  // What the last snapshot kept of the entity, and whether something of that changed since: pairs, the list
+  // of brushes, or one of them.
+  const std::shared_ptr<const KeptEntity>& kept() const { return kept_; }
+  bool changedSinceKept() const { return changed_; }
+  void setKept(std::shared_ptr<const KeptEntity> kept) {
+    kept_ = std::move(kept);
+    changed_ = false;
+  }
+  void touch() { changed_ = true; }
 
   // Expires with the entity; made when first asked for.
   std::weak_ptr<const void> identity();
@@ -104,6 +118,8 @@ class entity {
   // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.
   mutable std::unordered_map<std::string, size_t> places_;
   std::shared_ptr<const int> identity_;
+  std::shared_ptr<const KeptEntity> kept_;
+  bool changed_ = true;
 };
 
 // The colour in which brushes of the entity's class are drawn flat.

@@ -14,6 +14,11 @@ struct group {
   bool visible = true;
   Colour colour;
   int brushCount = 0;  // filled in on demand, never saved
+
+  // The count apart.
+  bool operator==(const group& other) const {
+    return name == other.name && visible == other.visible && colour == other.colour;
+  }
 };
 
 // Group 0 always exists and is named "None" in a new list.
@@ -45,6 +50,8 @@ class GroupList {
   // What the group filter asks of a brush's group number: negative ones count as visible, those beyond
   // the list as not visible.
   bool passes(int number) const { return number < 0 || visible(number); }
+
+  bool operator==(const GroupList&) const = default;
 
  private:
   bool has(int index) const { return index >= 0 && index < count(); }

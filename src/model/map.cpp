@@ -49,11 +49,6 @@ std::unique_ptr<entity> map::removeEntity(const entity* e) {
   return removed;
 }
 
-entity* map::currentEntity() {
-  if (!currentEntity_) currentEntity_ = world();
-  return currentEntity_;
-}
-
 void map::setCurrentEntity(entity* e) {
   modified = true;
   const bool changed = e != currentEntity_;
@@ -61,7 +56,7 @@ void map::setCurrentEntity(entity* e) {
   if (changed) notify(MapNotice::CurrentEntity);
 }
 
-brush* map::firstSelected() {
+brush* map::firstSelected() const {
   const auto selectedOf = [](const entity& e) -> brush* {
     for (brush& b : e.brushes()) {
       if (b.selected()) return &b;
@@ -78,7 +73,7 @@ brush* map::firstSelected() {
   return nullptr;
 }
 
-int map::selectedCount() {
+int map::selectedCount() const {
   const entity* current = currentEntity();
   return current ? int(std::ranges::count_if(current->brushes(), &brush::selected)) : 0;
 }
@@ -95,7 +90,7 @@ int map::brushCount() const {
   return count;
 }
 
-vec3 map::selectionCentre() {
+vec3 map::selectionCentre() const {
   const bool selectedOnly = selectedCount() > 0;
   vec3 low{kNoBound, kNoBound, kNoBound};
   vec3 high{-kNoBound, -kNoBound, -kNoBound};
@@ -154,10 +149,10 @@ void map::initNew(const std::string& wads) {
   modified = false;
 }
 
-void map::clearEntities() {
+std::vector<std::unique_ptr<entity>> map::takeEntities() {
   hits.clear();
   currentEntity_ = nullptr;
-  entities_.clear();
+  return std::exchange(entities_, {});
 }
 
 }  // namespace velk

@@ -65,19 +65,19 @@ class map {
   std::unique_ptr<entity> removeEntity(const entity* e);
 
   // The entity that commands address; the world when none was set. None only in a map without entities.
-  entity* currentEntity();
+  entity* currentEntity() const { return currentEntity_ ? currentEntity_ : world(); }
   void setCurrentEntity(entity* e);  // marks the map modified
-  bool worldIsCurrent() { return currentEntity() == world(); }
+  bool worldIsCurrent() const { return currentEntity() == world(); }
 
   // The current brush: the first selected one of the current entity, else of the others from the last to
   // the first; none when nothing is selected.
-  brush* firstSelected();
-  int selectedCount();        // in the current entity
+  brush* firstSelected() const;
+  int selectedCount() const;  // in the current entity
   int totalSelected() const;  // in all entities
   int brushCount() const;     // of all entities
   // Middle of the bounds of the selection, or of everything when the current entity has none selected.
   // The group filter applies.
-  vec3 selectionCentre();
+  vec3 selectionCentre() const;
 
   // The depth range of new brushes, per axis, on the grid.
   const vec3& workLow() const { return workLow_; }
@@ -101,8 +101,9 @@ class map {
 
   // Empties the map and gives it a world whose "wad" is `wads`. Current is the world; not modified.
   void initNew(const std::string& wads);
-  // Removes every entity with its brushes.
-  void clearEntities();
+  // Removes every entity with its brushes, or hands them over.
+  void clearEntities() { takeEntities(); }
+  std::vector<std::unique_ptr<entity>> takeEntities();
 
   void assignGroupOfSelected(int index);
   void notify(MapNotice what) const {
