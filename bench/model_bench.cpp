@@ -4,8 +4,9 @@
 #include <numbers>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
-#include "model/map.h"
+#include "model/history.h"
 
 namespace velk {
 namespace {
@@ -126,6 +127,85 @@ void DeleteAll(benchmark::State& state) {
   }
 }
 BENCHMARK(DeleteAll)->Arg(1000)->Arg(4000);
+
+// A map of so many boxes, as many an entity as it may have.
+struct LargeMap {
+  Settings settings;
+  EntityClassList classes;
+  map m{settings, classes};
+  History history;
+
+  explicit LargeMap(int brushes) {
+    m.initNew("");
+    entity* owner = m.world();
+    for (int i = 0; i < brushes; ++i) {
+      if (owner->numbrushes() == MAX_ENTITY_BRUSHES) {
+        owner = &m.addobject(std::make_unique<entity>(m));
+        owner->isModel = true;
+      }
+      auto made = std::make_unique<brush>();
+      MakeBox(*made, {float(i % 32 * 128 - 2048), float(i / 32 % 32 * 128 - 2048), float(i / 1024 * 128)},
+              64);
+      owner->addobject(std::move(made));
+    }
+  }
+
+  // A change as the editor keeps it: what the map was, the change, and a level when there is one.
+  template <typename Change>
+  void perform(const History::Limits& limits, Change&& change) {
+    MapSnapshot before = TakeSnapshot(m);
+    change();
+    if (!SameContents(before, TakeSnapshot(m))) history.changed(std::move(before), "nudge", limits);
+  }
+};
+
+constexpr History::Limits kKit{100, 256};
+
+void CommandThatChangesNothing(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  for (auto _ : state) large.perform(kKit, [] {});
+  if (large.history.canUndo()) state.SkipWithError("something changed");
+}
+BENCHMARK(CommandThatChangesNothing)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+void NudgeOfOneBrush(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    brush& b = *large.m.world()->at(round++ % 4000);
+    large.perform(kKit, [&] { b.translate({8, 0, 0}); });
+  }
+  if (!large.history.canUndo()) state.SkipWithError("nothing changed");
+}
+BENCHMARK(NudgeOfOneBrush)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+// Selects everything, which is no level.
+void SelectionOfAll(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    large.perform(kKit, [&] { large.m.MGPerform(round++ % 2 ? Method::Deselect : Method::Select); });
+  }
+  if (large.history.canUndo()) state.SkipWithError("the contents changed");
+}
+BENCHMARK(SelectionOfAll)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+// Moves everything a hundred times, and takes it all back: the heap in use, with the map.
+void HundredNudgesOfAll(benchmark::State& state) {
+  for (auto _ : state) {
+    LargeMap large(int(state.range(0)));
+    for (int i = 0; i < 100; ++i) {
+      large.perform(kKit, [&] { large.m.MGPerform(BrushMethod::translate({8, 0, 0})); });
+    }
+    const struct mallinfo2 heap = mallinfo2();
+    state.counters["heap_MB"] = double(heap.uordblks + heap.hblkhd) / (1 << 20);
+    state.counters["counted_MB"] = double(large.history.bytes()) / (1 << 20);
+    state.counters["levels"] = large.history.undoCount();
+    while (large.history.undo(large.m, kKit)) {
+    }
+  }
+}
+BENCHMARK(HundredNudgesOfAll)->Arg(15000)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace velk

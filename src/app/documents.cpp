@@ -25,24 +25,7 @@ bool Editor::hasRoom(const char* caption) {
 }
 
 std::unique_ptr<MapDocument> Editor::makeDocument() {
-  auto made = std::make_unique<MapDocument>(settings_, classes_, &counters_, textureManager_.badtex());
-  made->model.notice = [this, document = made.get()](MapNotice what) { noticed(*document, what); };
-  return made;
-}
-
-void Editor::noticed(const MapDocument& from, MapNotice what) {
-  if (&from != current()) return;
-  switch (what) {
-    case MapNotice::CurrentEntity:
-      observer_.entityChanged();
-      break;
-    case MapNotice::Groups:
-      observer_.groupsChanged();
-      break;
-    case MapNotice::WorkRange:
-      flagPlanViews();
-      break;
-  }
+  return std::make_unique<MapDocument>(settings_, classes_, &counters_, textureManager_.badtex());
 }
 
 void Editor::addDocument(std::unique_ptr<MapDocument> added) {

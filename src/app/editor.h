@@ -20,8 +20,8 @@
 #include "documents/rescue.h"
 #include "entities/entity_class.h"
 #include "mapfile/map_reader.h"
-#include "model/map.h"
 #include "model/history.h"
+#include "model/map.h"
 #include "mouse/pointer.h"
 #include "panels/texture_browser.h"
 #include "planview/draw_plan_view.h"
@@ -236,7 +236,6 @@ class Editor {
   MapReadOptions readOptions();
   void offerFirstTexture(const MapDocument& from);
   void addDocument(std::unique_ptr<MapDocument> added);
-  void noticed(const MapDocument& from, MapNotice what);
   void goToActiveCamera();
   void showCurrent();
   void checkBadtex();

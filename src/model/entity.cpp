@@ -15,6 +15,8 @@ namespace {
 
 const std::string kNoValue;
 
+constexpr std::string_view kOrigin = "origin";
+
 // From here on looking through all pairs takes longer than an index.
 constexpr size_t kManyPairs = 64;
 
@@ -114,6 +116,9 @@ void entity::removeKeyPair(std::string_view key) {
 }
 
 const std::string& entity::valueOfKey(std::string_view key) const {
+  if (key == kOrigin) {
+    if (std::optional<std::string> origin = originText()) return origin_ = std::move(*origin);
+  }
   const size_t place = placeOf(key);
   return place < pairs_.size() ? pairs_[place].value : kNoValue;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -61,7 +62,7 @@ class entity {
   Pointees<brush> brushes() const { return Pointees(brushes_); }
   std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
 
-  // Pairs, newest first, as they are written.
+  // Pairs, newest first, as they are written; in place of the value of "origin" see originText.
   Reversed<KeyPair> pairs() const { return Reversed(pairs_); }
   // The same, oldest first.
   const std::vector<KeyPair>& pairsInOrder() const { return pairs_; }
@@ -70,7 +71,8 @@ class entity {
   void setKey(std::string_view key, std::string_view value);
   // An absent key warns on standard output, unless there are no pairs at all.
   void removeKeyPair(std::string_view key);
-  // "" when the key is absent.
+  bool hasKey(std::string_view key) const { return placeOf(key) < pairs_.size(); }
+  // "" when the key is absent; for "origin" what originText says, which holds until the next such call.
   const std::string& valueOfKey(std::string_view key) const;
   // Missing components stay 0.
   vec3 vectorOfKey(std::string_view key) const;
@@ -102,9 +104,10 @@ class entity {
   void setClass(std::string_view classname);
   // Adds the box of the entity's class at `origin`, 16 units a side for an unknown class.
   void makeClassBox(const vec3& origin);
-  // "origin" of a fixed-size entity: its box's mins less the class mins, truncated; the box's mins when the
-  // class is unknown.
-  void updateOriginFromBox();
+  // "origin" of a fixed-size entity as its box stands, which is what its file says whatever the pair holds:
+  // the box's mins less the class mins, those of an unknown class being 0. Whole numbers that would put the
+  // box there, otherwise truncated. None for other entities, and when the box is beyond the model's range.
+  std::optional<std::string> originText() const;
 
  private:
   friend class map;
@@ -117,6 +120,7 @@ class entity {
   std::vector<KeyPair> pairs_;  // oldest first
   // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.
   mutable std::unordered_map<std::string, size_t> places_;
+  mutable std::string origin_;  // what valueOfKey last made of the box
   std::shared_ptr<const int> identity_;
   std::shared_ptr<const KeptEntity> kept_;
   bool changed_ = true;

@@ -125,7 +125,6 @@ bool History::undo(map& m, const Limits& limits) {
   if (record.one) restoreOne(m, *record.one);
   if (record.groups) m.groups = *record.groups;
   if (!record.whole) m.modified = true;
-  m.notify(MapNotice::Groups);
   return true;
 }
 
@@ -136,7 +135,6 @@ bool History::redo(map& m) {
   redo_.pop_back();
   records_.push_back(present(m, record));
   RestoreSnapshot(m, *record.whole, false);
-  m.notify(MapNotice::Groups);
   return true;
 }
 

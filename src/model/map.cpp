@@ -51,9 +51,7 @@ std::unique_ptr<entity> map::removeEntity(const entity* e) {
 
 void map::setCurrentEntity(entity* e) {
   modified = true;
-  const bool changed = e != currentEntity_;
   currentEntity_ = e;
-  if (changed) notify(MapNotice::CurrentEntity);
 }
 
 brush* map::firstSelected() const {
@@ -109,7 +107,6 @@ void map::setWorkLow(const vec3& low) {
   for (int axis = 0; axis < 3; ++axis) {
     if (low[axis] > kLowestWork) workLow_[axis] = float(Snap(low[axis], settings_.gridsize));
   }
-  notify(MapNotice::WorkRange);
 }
 
 void map::setWorkHigh(const vec3& high) {
@@ -117,13 +114,11 @@ void map::setWorkHigh(const vec3& high) {
   for (int axis = 0; axis < 3; ++axis) {
     if (high[axis] < kHighestWork) workHigh_[axis] = float(Snap(high[axis], settings_.gridsize));
   }
-  notify(MapNotice::WorkRange);
 }
 
 void map::setWorkRange(const vec3& low, const vec3& high) {
   workLow_ = low;
   workHigh_ = high;
-  notify(MapNotice::WorkRange);
 }
 
 bool map::matchesFilter(const brush& b) const {
@@ -145,7 +140,6 @@ void map::initNew(const std::string& wads) {
   made->setClass("worldspawn");
   made->setKey("wad", wads);
   setCurrentEntity(&addobject(std::move(made)));
-  notify(MapNotice::Groups);
   modified = false;
 }
 

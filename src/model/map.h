@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,9 +17,6 @@
 namespace velk {
 
 inline constexpr int MAX_ENTITIES = 1024;
-
-// What the owner of a map may want to hear of.
-enum class MapNotice { CurrentEntity, WorkRange, Groups };
 
 class map {
  public:
@@ -42,8 +38,7 @@ class map {
   int currentCamera = 0;
   clipper clip;
   HitList hits;
-  std::vector<std::string> favourites;    // texture names; empty ones are free slots
-  std::function<void(MapNotice)> notice;  // may be empty
+  std::vector<std::string> favourites;  // texture names; empty ones are free slots
 
   camera& activeCamera() { return cameras[static_cast<size_t>(currentCamera)]; }
   const camera& activeCamera() const { return cameras[static_cast<size_t>(currentCamera)]; }
@@ -106,9 +101,6 @@ class map {
   std::vector<std::unique_ptr<entity>> takeEntities();
 
   void assignGroupOfSelected(int index);
-  void notify(MapNotice what) const {
-    if (notice) notice(what);
-  }
 
  private:
   bool matchesFilter(const brush& b) const;

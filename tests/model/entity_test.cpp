@@ -8,6 +8,8 @@
 namespace velk {
 namespace {
 
+using test::TestMap;
+
 typedef test::MapTest PairTest, BrushListTest, MoveToEntityTest, EntityCopyTest, TargetNameTest, ClassTest;
 
 std::string Keys(const entity& e) {
@@ -180,8 +182,32 @@ TEST_F(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
   EXPECT_TRUE(VecEqual(box.color(), {1, 0, 0}));
 
   placed.at(0)->translate({8, 0, 0});
-  placed.updateOriginFromBox();
   EXPECT_EQ(placed.valueOfKey("origin"), "24 15 24");
+}
+
+TEST(OriginTest, IsWhereTheBoxStandsWhateverThePairSays) {
+  const struct {
+    const char* size;  // of the class
+    vec3 origin;
+    vec3 moved;
+    const char* expected;
+  } cases[] = {
+      {"(-8 -8 -8) (8 8 8)", {1, -2, 3}, {}, "1 -2 3"},
+      {"(-8 -8 -8) (8 8 8)", {0.6f, -0.6f, 0}, {}, "0 0 0"},
+      {"(-8 -8 -8) (8 8 8)", {0, 0, 0}, {10.985f, 0, -16}, "10 0 -16"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {-116, -2047, 3}, {}, "-116 -2047 3"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {-116, 3, 4001}, {16, -1, -9}, "-100 2 3992"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {20000, 0, 0}, {}, "stored"},
+  };
+  for (const auto& c : cases) {
+    TestMap t;
+    t.classes.scanText(std::string("/*QUAKED thing (0 0 0) ") + c.size + "\n*/\n");
+    entity& e = t.addPoint("thing", c.origin);
+    e.setKey("origin", "stored");
+    e.at(0)->translate(c.moved);
+    EXPECT_EQ(e.valueOfKey("origin"), c.expected);
+    EXPECT_EQ((*e.pairs().begin()).value, "stored") << "asking changes nothing";
+  }
 }
 
 TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
@@ -192,7 +218,6 @@ TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
   e.makeClassBox({100, 0, 0});
   EXPECT_FALSE(e.isModel);
   EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
-  e.updateOriginFromBox();
   EXPECT_EQ(e.valueOfKey("origin"), "92 -8 -8") << "no class mins to take off";
 }
 
