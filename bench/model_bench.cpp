@@ -1,4 +1,4 @@
-// The model: building polygons and visiting brushes. Arguments are brush counts.
+// The model: building polygons, visiting brushes, undo. Arguments are brush counts.
 #include <cmath>
 #include <memory>
 #include <numbers>
