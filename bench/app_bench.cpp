@@ -32,12 +32,12 @@ struct Desk {
   explicit Desk(int levels, int brushes = 0) : editor({}, prompts, observer) {
     editor.settings().undo_levels = levels;
     editor.settings().default_wad.clear();
-    editor.newMap();
+    editor.documents().add(editor.documents().makeNew());
     if (const char* classes = std::getenv("VELK_BENCH_CLASSES")) {
       const std::filesystem::path path(classes);
       editor.settings().entity_qc_directory = (path.parent_path() / "").string();
       editor.settings().entities = path.filename().string();
-      editor.reloadClasses();
+      editor.classes().loadAll(editor.settings(), editor.services().paths, prompts);
     }
     const char* file = std::getenv("VELK_BENCH_MAP");
     if (file && brushes == 0) {
@@ -46,6 +46,10 @@ struct Desk {
       generate(brushes > 0 ? brushes : kGeneratedBrushes);
     }
   }
+
+  History& history() { return editor.documents().current()->history; }
+  void save() { history().save(m(), "copy", UndoMode::All, History::Limits::of(editor.settings())); }
+  void undo() { history().undo(m(), History::Limits::of(editor.settings())); }
 
   map& m() { return *editor.documents().currentMap(); }
 
@@ -81,7 +85,7 @@ void Count(benchmark::State& state, Desk& desk) { state.counters["brushes"] = de
 
 enum Changed { kNothing, kOneBrush, kAllBrushes };
 
-void Change(Desk& desk, Changed changed, int round) {
+void Make(Desk& desk, Changed changed, int round) {
   if (changed == kOneBrush) desk.moveOne(round);
   if (changed == kAllBrushes) desk.moveAll();
 }
@@ -92,9 +96,9 @@ void TakeCopy(benchmark::State& state, Changed changed) {
   int round = 0;
   for (auto _ : state) {
     state.PauseTiming();
-    Change(desk, changed, round++);
+    Make(desk, changed, round++);
     state.ResumeTiming();
-    desk.editor.saveUndo("copy", UndoMode::All);
+    desk.save();
   }
   Count(state, desk);
 }
@@ -107,11 +111,12 @@ void RunCommand(benchmark::State& state, Changed changed) {
   Desk desk(static_cast<int>(state.range(0)));
   int round = 0;
   for (auto _ : state) {
-    desk.editor.beginChange();
-    state.PauseTiming();
-    Change(desk, changed, round++);
-    state.ResumeTiming();
-    desk.editor.endChange("command");
+    desk.editor.door().perform({.name = "command"}, [&] {
+      state.PauseTiming();
+      Make(desk, changed, round++);
+      state.ResumeTiming();
+      return Outcome{};
+    });
   }
   Count(state, desk);
 }
@@ -124,10 +129,10 @@ void Undo(benchmark::State& state, Changed changed) {
   int round = 0;
   for (auto _ : state) {
     state.PauseTiming();
-    desk.editor.saveUndo("copy", UndoMode::All);
-    Change(desk, changed, round++);
+    desk.save();
+    Make(desk, changed, round++);
     state.ResumeTiming();
-    desk.editor.undo();
+    desk.undo();
   }
   Count(state, desk);
 }
@@ -148,9 +153,10 @@ void HundredLevels(benchmark::State& state) {
     Desk desk(100, static_cast<int>(state.range(0)));
     kept[0] = HeapBytes() - before;
     for (int level = 0; level < 100; ++level) {
-      desk.editor.beginChange();
-      desk.moveOne(level);
-      desk.editor.endChange("move");
+      desk.editor.door().perform({.name = "move"}, [&] {
+        desk.moveOne(level);
+        return Outcome{};
+      });
       if (level == 0) kept[1] = HeapBytes() - before - kept[0];
     }
     if (desk.editor.documents().current()->history.undoCount() != 100)

@@ -1,11 +1,12 @@
-// The model: building polygons and visiting brushes. Arguments are brush counts.
+// The model: building polygons, visiting brushes, undo. Arguments are brush counts.
 #include <cmath>
 #include <memory>
 #include <numbers>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
-#include "model/map.h"
+#include "model/history.h"
 
 namespace velk {
 namespace {
@@ -98,19 +99,113 @@ BENCHMARK_CAPTURE(BuildWindings, cylinders, kCylinders)->Arg(1257);
 BENCHMARK_CAPTURE(BuildWindings, mixed, kMixed)->Arg(1257)->Arg(4000);
 
 // One dispatch over every brush.
-void Perform(benchmark::State& state, Method method) {
+void Perform(benchmark::State& state, BrushMethod (*method)(int round)) {
   BenchMap bench(kMixed, int(state.range(0)));
-  bench.m.perform.offset = {8, 0, 0};
-  for (auto _ : state) {
-    bench.m.MAPerform(method);
-    bench.m.perform.offset.x = -bench.m.perform.offset.x;
-  }
+  int round = 0;
+  for (auto _ : state) bench.m.MAPerform(method(round++));
   if (bench.m.brushCount() != state.range(0)) state.SkipWithError("brushes were lost");
 }
-BENCHMARK_CAPTURE(Perform, select, Method::Select)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, filter, Method::SetHidden)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, bounds, Method::WidenBounds)->Arg(4000);
-BENCHMARK_CAPTURE(Perform, translate, Method::Translate)->Arg(4000);
+BrushMethod Select(int) { return Method::Select; }
+BrushMethod Bounds(int) {
+  static vec3 mins;
+  static vec3 maxs;
+  return BrushMethod::widenBounds(mins, maxs);
+}
+BrushMethod MoveForthAndBack(int round) { return BrushMethod::translate({round % 2 ? 8.0f : -8.0f, 0, 0}); }
+BENCHMARK_CAPTURE(Perform, select, Select)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, bounds, Bounds)->Arg(4000);
+BENCHMARK_CAPTURE(Perform, translate, MoveForthAndBack)->Arg(4000);
+
+// Deletes every brush of an entity.
+void DeleteAll(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto bench = std::make_unique<BenchMap>(kBoxes, int(state.range(0)));
+    state.ResumeTiming();
+    bench->m.MAPerform(Method::Delete);
+    if (bench->m.brushCount() != 0) state.SkipWithError("brushes were left");
+  }
+}
+BENCHMARK(DeleteAll)->Arg(1000)->Arg(4000);
+
+// A map of so many boxes, as many an entity as it may have.
+struct LargeMap {
+  Settings settings;
+  EntityClassList classes;
+  map m{settings, classes};
+  History history;
+
+  explicit LargeMap(int brushes) {
+    m.initNew("");
+    entity* owner = m.world();
+    for (int i = 0; i < brushes; ++i) {
+      if (owner->numbrushes() == MAX_ENTITY_BRUSHES) {
+        owner = &m.addobject(std::make_unique<entity>(m));
+        owner->isModel = true;
+      }
+      auto made = std::make_unique<brush>();
+      MakeBox(*made, {float(i % 32 * 128 - 2048), float(i / 32 % 32 * 128 - 2048), float(i / 1024 * 128)},
+              64);
+      owner->addobject(std::move(made));
+    }
+  }
+
+  // A change as the editor keeps it: what the map was, the change, and a level when there is one.
+  template <typename Change>
+  void perform(const History::Limits& limits, Change&& change) {
+    MapSnapshot before = TakeSnapshot(m);
+    change();
+    if (!SameContents(before, TakeSnapshot(m))) history.changed(std::move(before), "nudge", limits);
+  }
+};
+
+constexpr History::Limits kKit{100, 256};
+
+void CommandThatChangesNothing(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  for (auto _ : state) large.perform(kKit, [] {});
+  if (large.history.canUndo()) state.SkipWithError("something changed");
+}
+BENCHMARK(CommandThatChangesNothing)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+void NudgeOfOneBrush(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    brush& b = *large.m.world()->at(round++ % 4000);
+    large.perform(kKit, [&] { b.translate({8, 0, 0}); });
+  }
+  if (!large.history.canUndo()) state.SkipWithError("nothing changed");
+}
+BENCHMARK(NudgeOfOneBrush)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+// Selects everything, which is no level.
+void SelectionOfAll(benchmark::State& state) {
+  LargeMap large(int(state.range(0)));
+  int round = 0;
+  for (auto _ : state) {
+    large.perform(kKit, [&] { large.m.MGPerform(round++ % 2 ? Method::Deselect : Method::Select); });
+  }
+  if (large.history.canUndo()) state.SkipWithError("the contents changed");
+}
+BENCHMARK(SelectionOfAll)->Arg(15000)->Unit(benchmark::kMillisecond);
+
+// Moves everything a hundred times, and takes it all back: the heap in use, with the map.
+void HundredNudgesOfAll(benchmark::State& state) {
+  for (auto _ : state) {
+    LargeMap large(int(state.range(0)));
+    for (int i = 0; i < 100; ++i) {
+      large.perform(kKit, [&] { large.m.MGPerform(BrushMethod::translate({8, 0, 0})); });
+    }
+    const struct mallinfo2 heap = mallinfo2();
+    state.counters["heap_MB"] = double(heap.uordblks + heap.hblkhd) / (1 << 20);
+    state.counters["counted_MB"] = double(large.history.bytes()) / (1 << 20);
+    state.counters["levels"] = large.history.undoCount();
+    while (large.history.undo(large.m, kKit)) {
+    }
+  }
+}
+BENCHMARK(HundredNudgesOfAll)->Arg(15000)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace velk

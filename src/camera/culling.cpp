@@ -13,10 +13,6 @@ constexpr float kMargin = 0.0625f;
 // Nearer than this a brush counts as all over the picture.
 constexpr float kNearDepth = 1;
 
-bool AnyOmitted(const ViewFilter& filter) {
-  return filter.omitLights || filter.omitEntities || filter.omitWorld || filter.omitWater || filter.omitClip;
-}
-
 float Reach(const vec3& axis, const vec3& half) {
   return std::abs(axis.x) * half.x + std::abs(axis.y) * half.y + std::abs(axis.z) * half.z;
 }
@@ -26,11 +22,6 @@ float Along(const vec3& axis, const vec3& offset) {
 }
 
 }  // namespace
-
-bool IsShown(const RenderScene& scene, const brush& b) {
-  if (!scene.model.passesGroupFilter(b)) return false;
-  return !AnyOmitted(scene.settings.filter) || !scene.model.isFiltered(b);
-}
 
 brush& ShownShape(const RenderScene& scene, brush& b) {
   if (!b.selected() || !scene.preview) return b;

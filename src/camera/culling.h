@@ -18,7 +18,8 @@ struct FrameView {
 // A brush that may be on the picture. Bounds are a little wider than the brush, so that rounding never
 // makes a brush look smaller than its polygons.
 struct BrushDraw {
-  brush* shape = nullptr;
+  brush* shape = nullptr;  // the brush, or the copy that stands in for it
+  const brush* original = nullptr;
   std::uint32_t rank = 0;  // of its first face in drawing order; 64 ranks a brush
   bool onBorder = false;   // its polygons may have to be cut to the picture
   int left = 0;            // pixels left..right-1, top..bottom-1
@@ -49,11 +50,9 @@ class BrushCuller {
 };
 
 // Calls visit(brush) for every brush the scene shows, in drawing order: entities and their brushes from
-// the last to the first. Those the filters leave out are skipped; previewed ones are replaced.
+// the last to the first. Those the filters leave out are skipped.
 template <typename Visit>
 void VisitShownBrushes(const RenderScene& scene, Visit&& visit);
-// Whether the scene shows the brush, apart from where it is.
-bool IsShown(const RenderScene& scene, const brush& b);
 // The brush itself or the copy that stands in for it.
 brush& ShownShape(const RenderScene& scene, brush& b);
 
@@ -63,7 +62,7 @@ void VisitShownBrushes(const RenderScene& scene, Visit&& visit) {
     const entity& owner = *scene.model.at(e);
     for (int i = owner.numbrushes() - 1; i >= 0; --i) {
       brush& b = *owner.at(i);
-      if (IsShown(scene, b)) visit(ShownShape(scene, b));
+      if (IsShown(scene.model, b)) visit(b);
     }
   }
 }

@@ -98,8 +98,7 @@ void FaceList::addBrush(BrushDraw& draw) {
   const BrushLook look = lookOf(b);
   const FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
   // A previewed copy shows the current face of the brush that it stands for.
-  const bool isCurrent =
-      !look.fixedColour && currentBrush_ && (&b == currentBrush_ || b.source == currentBrush_);
+  const bool isCurrent = !look.fixedColour && draw.original == currentBrush_;
   for (int i = 0; i < b.numfaces(); ++i) {
     const FaceState faceState = isCurrent && i == b.currentFace() ? FaceState::CurrentFace : state;
     addFace(b, i, faceState, look, draw.rank + std::uint32_t(i), draw.onBorder);

@@ -12,12 +12,13 @@ class Picker {
  public:
   Picker(const FrameView& view, int px, int py) : view_(view), culler_(view), px_(px), py_(py) {}
 
-  void visit(brush& b) {
+  // `shape` is the brush or the copy that stands in for it.
+  void visit(brush& b, const brush& shape) {
     BrushDraw draw;
-    if (!culler_.place(b, draw)) return;
+    if (!culler_.place(shape, draw)) return;
     if (px_ < draw.left || px_ >= draw.right || py_ < draw.top || py_ >= draw.bottom) return;
-    for (int i = 0; i < b.numfaces(); ++i) {
-      const std::optional<float> w = depthAt(b.faces()[size_t(i)], draw.onBorder);
+    for (int i = 0; i < shape.numfaces(); ++i) {
+      const std::optional<float> w = depthAt(shape.faces()[size_t(i)], draw.onBorder);
       if (!w || !(best_ <= *w)) continue;
       best_ = *w;
       pick_ = {&b, i};
@@ -63,7 +64,7 @@ class Picker {
 
 FacePick PickFace(const RenderScene& scene, const FrameView& view, int px, int py) {
   Picker picker(view, px, py);
-  VisitShownBrushes(scene, [&](brush& b) { picker.visit(b); });
+  VisitShownBrushes(scene, [&](brush& b) { picker.visit(b, ShownShape(scene, b)); });
   return picker.result();
 }
 

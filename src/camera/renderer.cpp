@@ -47,10 +47,11 @@ void Renderer::State::collectBrushes(const RenderScene& scene) {
   BrushDraw draw;
   std::uint32_t rank = 1;
   VisitShownBrushes(scene, [&](brush& b) {
-    draw.shape = &b;
+    draw.shape = &ShownShape(scene, b);
+    draw.original = &b;
     draw.rank = rank;
     rank += MAX_FACES;
-    if (culler.place(b, draw)) brushes.push_back(draw);
+    if (culler.place(*draw.shape, draw)) brushes.push_back(draw);
   });
 }
 
@@ -78,12 +79,13 @@ void Renderer::renderFrame(const RenderScene& scene, RenderSize size) {
 
 void Renderer::renderBrush(const RenderScene& scene, brush& b) {
   State& s = *state_;
-  if (s.picture.width == 0 || !IsShown(scene, b)) return;
+  if (s.picture.width == 0 || !IsShown(scene.model, b)) return;
   s.aim(scene, {s.picture.width, s.picture.height});
   s.faces.begin(scene, s.view);
   s.brushes.assign(1, BrushDraw());
   BrushDraw& draw = s.brushes[0];
   draw.shape = &ShownShape(scene, b);
+  draw.original = &b;
   draw.rank = 1;
   if (!BrushCuller(s.view).place(*draw.shape, draw)) return;
   s.drawer.draw(s.picture, s.brushes, s.faces,
@@ -98,6 +100,7 @@ void Renderer::renderFace(const RenderScene& scene, brush& b, int face, FaceStat
   s.brushes.assign(1, BrushDraw());
   BrushDraw& draw = s.brushes[0];
   draw.shape = &b;
+  draw.original = &b;
   draw.isSetUp = true;
   draw.firstFace = s.faces.count();
   if (!BrushCuller(s.view).place(b, draw)) return;

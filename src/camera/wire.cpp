@@ -129,8 +129,6 @@ void DrawBrush(Canvas& canvas, WirePlotter& plotter, const brush& b, Colour colo
   }
 }
 
-bool IsDrawn(const map& m, const brush& b) { return !b.hidden && m.passesGroupFilter(b); }
-
 double DistanceToEdge(Pixel at, Pixel a, Pixel b) {
   const double dx = b.x - a.x, dy = b.y - a.y;
   const double size = dx * dx + dy * dy;
@@ -161,7 +159,7 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Setting
     const Colour colour = selected ? settings.colours.color_selection : settings.colours.fgcolor;
     for (const entity& e : m.entities()) {
       for (const brush& b : e.brushes()) {
-        if (b.selected() == selected && IsDrawn(m, b)) DrawBrush(canvas, plotter, b, colour);
+        if (b.selected() == selected && IsShown(m, b)) DrawBrush(canvas, plotter, b, colour);
       }
     }
   }
@@ -181,7 +179,7 @@ brush* PickWireBrush(RenderSize canvasSize, map& m, const Settings& settings, co
   double bestDepth = 0;
   for (entity& e : m.entities()) {
     for (brush& b : e.brushes()) {
-      if (!IsDrawn(m, b)) continue;
+      if (!IsShown(m, b)) continue;
       double distance = std::numeric_limits<double>::infinity();
       for (const face& f : b.faces()) {
         if (f.polygon) distance = std::min(distance, DistanceTo(at, plotter.plot(*f.polygon)));

@@ -10,7 +10,7 @@ namespace {
 constexpr const char* kCannotCopy = "Velk - Cannot Copy";
 constexpr const char* kNoRoom = "The map has no room for the copies.\n\n";
 
-UndoHistory& HistoryOf(const Editor& editor) { return editor.documents().current()->history; }
+History& HistoryOf(const Editor& editor) { return editor.documents().current()->history; }
 
 bool UndoKept(const Editor& editor) { return MapOpen(editor) && HistoryOf(editor).canUndo(); }
 
@@ -36,12 +36,12 @@ Outcome Restored(const char* status) {
 }
 
 Outcome SaveForUndo(Editor& editor, map& m) {
-  HistoryOf(editor).save(m, "Saving for undo...", UndoMode::All, editor.settings().undo_levels);
+  HistoryOf(editor).save(m, "Saving for undo...", UndoMode::All, History::Limits::of(editor.settings()));
   return Outcome::Said("Saved for undo...");
 }
 
 Outcome UndoChange(Editor& editor, map& m) {
-  if (!HistoryOf(editor).undo(m, editor.settings().undo_levels)) return {};
+  if (!HistoryOf(editor).undo(m, History::Limits::of(editor.settings()))) return {};
   return Restored("Undo...");
 }
 

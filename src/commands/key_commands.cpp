@@ -12,8 +12,7 @@ namespace {
 Outcome RedrawAll(Editor&, map&) { return Outcome::Drawn(Redraw::All, "Redrawing..."); }
 
 Outcome Move(map& m, const vec3& offset, std::string text) {
-  m.perform.offset = offset;
-  m.MSPerform(Method::Translate);
+  m.MSPerform(BrushMethod::translate(offset));
   return Outcome::Drawn(Redraw::All, std::move(text));
 }
 

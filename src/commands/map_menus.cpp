@@ -9,9 +9,6 @@ namespace {
 Outcome Omit(Editor& editor, bool ViewFilter::*kind, const char* text) {
   bool& omitted = editor.settings().filter.*kind;
   omitted = !omitted;
-  for (int i = 0; i < editor.documents().count(); ++i) {
-    editor.documents().at(i)->model.MAPerform(Method::SetHidden);
-  }
   return MapOpen(editor) ? Outcome::Drawn(Redraw::All, text) : Outcome{};
 }
 

@@ -14,7 +14,7 @@ void Follow(Editor& editor, const Settings& before) {
   const bool realigned = before.texture_alignment != editor.settings().texture_alignment;
   for (int i = 0; i < editor.documents().count(); ++i) {
     MapDocument& document = *editor.documents().at(i);
-    document.history.limit(editor.settings().undo_levels);
+    document.history.limit(History::Limits::of(editor.settings()));
     if (!realigned) continue;
     for (entity& e : document.model.entities()) {
       for (brush& b : e.brushes()) b.buildWindings();

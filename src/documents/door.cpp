@@ -55,10 +55,10 @@ Door::Open Door::begin(const Change& change) {
   if (!open.document) return open;
   MapDocument& document = *open.document;
   if (change.classic) {
-    document.history.save(document.model, change.name, *change.classic, services_.settings.undo_levels,
-                          change.working);
+    document.history.save(document.model, change.name, *change.classic,
+                          History::Limits::of(services_.settings), change.working);
   }
-  open.before = TakeSnapshot(document.model, document.history.latest());
+  open.before = TakeSnapshot(document.model);
   if (!document.saved) document.saved = open.before;
   open.currentEntity = document.model.currentEntity();
   open.undoCount = document.history.undoCount();
@@ -81,21 +81,21 @@ void Door::revert(Open& open) {
 }
 
 bool Door::joinsLast(const Open& open) const {
-  const UndoHistory& history = open.document->history;
-  return open.change.byKey && last_.name == open.change.name && last_.document == open.document &&
-         last_.undoCount == history.undoCount() && !history.canRedo() && now() - last_.when < kHeldKey;
+  return open.change.byKey && lastDocument_ == open.document && now() - lastTime_ < kHeldKey &&
+         open.document->history.canExtend(open.change.name);
 }
 
 // Whether the map's contents changed. Undo and redo move levels by themselves.
 bool Door::keepLevel(Open& open) {
-  UndoHistory& history = open.document->history;
+  History& history = open.document->history;
   if (history.undoCount() != open.undoCount || history.redoCount() != open.redoCount) return true;
-  if (SameContents(*open.before, TakeSnapshot(open.document->model, &*open.before))) return false;
+  if (SameContents(*open.before, TakeSnapshot(open.document->model))) return false;
   if (services_.settings.undo_levels <= 1) return true;
   if (!joinsLast(open)) {
-    history.changed(std::move(*open.before), open.change.name, services_.settings.undo_levels);
+    history.changed(std::move(*open.before), open.change.name, History::Limits::of(services_.settings));
   }
-  last_ = {open.change.name, open.document, history.undoCount(), now()};
+  lastDocument_ = open.document;
+  lastTime_ = now();
   return true;
 }
 

@@ -70,12 +70,6 @@ class Door {
     int redoCount = 0;
     bool differed = false;
   };
-  struct LastLevel {
-    std::string name;
-    const MapDocument* document = nullptr;
-    int undoCount = 0;
-    std::chrono::steady_clock::time_point when;
-  };
 
   Open begin(const Change& change);
   void end(Open& open, Outcome outcome);
@@ -91,7 +85,8 @@ class Door {
   std::optional<Open> drag_;
   int depth_ = 0;  // actions that run now
   Redraw pending_ = Redraw::None;
-  LastLevel last_;
+  const MapDocument* lastDocument_ = nullptr;  // that got a level last, and when
+  std::chrono::steady_clock::time_point lastTime_;
 };
 
 }  // namespace velk

@@ -4,7 +4,7 @@ namespace velk {
 
 bool MapDocument::isChanged() {
   if (!model.settings().ask_when_changed) return model.modified;
-  return saved && !SameContents(*saved, TakeSnapshot(model, &*saved));
+  return saved && !SameContents(*saved, TakeSnapshot(model));
 }
 
 std::string MarkedName(MapDocument& document, const std::string& name) {

@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "base/files.h"
+#include "model/history.h"
 #include "model/map.h"
-#include "model/undo.h"
 #include "textures/texture_set.h"
 
 namespace velk {
@@ -17,7 +17,7 @@ struct MapDocument {
       : textures(badtex), model(settings, classes, counters) {}
   TextureSet textures;
   map model;  // model.name is the path, as given
-  UndoHistory history;
+  History history;
   std::optional<MapSnapshot>
       saved;                 // what the file holds; none: nothing was done to the map since it was read
   FileStamp onDisk;          // of the file when it was read or written; none for a map without a file

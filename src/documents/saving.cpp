@@ -60,7 +60,8 @@ void Settle(MapDocument& document, const std::string& path, const FileStamp& sta
   m.name = path;
   m.modified = false;
   ++m.saves;
-  document.saved = TakeSnapshot(m, document.saved ? &*document.saved : nullptr);
+  document.history.close();
+  document.saved = TakeSnapshot(m);
   document.onDisk = document.seenOnDisk = stamp;
   document.fileDiffers = false;
   DropRescueCopy(document);

@@ -289,7 +289,6 @@ MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name
   ReadEntities(m, reading, name);
   m.setCurrentEntity(&WorldOf(m));
   if (!header.camerasComplete) CamerasToPlayerStart(m);
-  m.notify(MapNotice::Groups);
   m.modified = false;
 
   Warn(reading.result, name);

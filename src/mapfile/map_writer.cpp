@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "base/error.h"
 #include "base/files.h"
@@ -63,31 +64,32 @@ void WriteFace(const face& f, TextOut& out) {
   out.taken(PutText(at, "\r\n"));
 }
 
+void WritePair(std::string_view key, std::string_view value, TextOut& out) {
+  char* at = out.room(key.size() + value.size() + 7);
+  at = PutQuoted(at, key);
+  *at++ = '\t';
+  at = PutQuoted(at, value);
+  out.taken(PutText(at, "\r\n"));
+}
+
 void WritePairs(const entity& e, TextOut& out) {
+  const std::optional<std::string> origin = e.originText();
+  if (origin && !e.hasKey("origin")) WritePair("origin", *origin, out);
   for (const KeyPair& pair : e.pairs()) {
-    char* at = out.room(pair.key.size() + pair.value.size() + 7);
-    at = PutQuoted(at, pair.key);
-    *at++ = '\t';
-    at = PutQuoted(at, pair.value);
-    out.taken(PutText(at, "\r\n"));
+    WritePair(pair.key, origin && pair.key == "origin" ? *origin : pair.value, out);
   }
 }
 
 // The box of a fixed-size entity; none for others.
-brush* BoxOf(entity& e) { return e.isModel ? nullptr : e.at(0); }
-
-// A box beyond the model's range has lost its place; the key still tells it.
-void UpdateOrigin(entity& e) {
-  if (const brush* box = BoxOf(e); box != nullptr && !box->invalid) e.updateOriginFromBox();
-}
+const brush* BoxOf(const entity& e) { return e.isModel ? nullptr : e.at(0); }
 
 template <typename Wanted>
-bool AnyBrush(entity& e, Wanted&& wanted) {
+bool AnyBrush(const entity& e, Wanted&& wanted) {
   return std::ranges::any_of(e.brushes(), wanted);
 }
 
 template <typename Wanted>
-void WriteBrushes(entity& e, TextOut& out, bool withGroup, Wanted&& wanted) {
+void WriteBrushes(const entity& e, TextOut& out, bool withGroup, Wanted&& wanted) {
   if (!e.isModel) return;
   for (const brush& b : e.brushes()) {
     if (!b.invalid && wanted(b)) write(b, out, withGroup);
@@ -98,9 +100,8 @@ bool InGroup(const map& m, const brush& b, int group) {
   return group < 0 ? m.groups.passes(b.group()) : b.group() == group;
 }
 
-void ExportEntity(entity& e, int group, TextOut& out) {
+void ExportEntity(const entity& e, int group, TextOut& out) {
   out.line("{");
-  UpdateOrigin(e);
   WritePairs(e, out);
   WriteBrushes(e, out, false, [&](const brush& b) { return InGroup(e.parent(), b, group); });
   out.line("}");
@@ -124,7 +125,7 @@ void write(const brush& b, TextOut& out, bool withGroup) {
   out.line("}");
 }
 
-void write(entity& e, TextOut& out, const MapWriteOptions& options) {
+void write(const entity& e, TextOut& out, const MapWriteOptions& options) {
   const auto wanted = [&](const brush& b) { return !options.selectedOnly || b.selected(); };
   if (options.selectedOnly && !AnyBrush(e, wanted)) {
     if (e.isWorld()) out.add("{\r\n}\r\n");
@@ -132,24 +133,23 @@ void write(entity& e, TextOut& out, const MapWriteOptions& options) {
   }
   out.line("{");
   if (const brush* box = BoxOf(e); box != nullptr && options.comments) WriteGroup(box->group(), out);
-  UpdateOrigin(e);
   if (options.comments || !e.isWorld()) WritePairs(e, out);
   WriteBrushes(e, out, options.comments, wanted);
   out.line("}");
 }
 
-std::string MapFileText(map& m, const MapWriteOptions& options) {
+std::string MapFileText(const map& m, const MapWriteOptions& options) {
   TextOut out;
   if (options.comments) WriteMapHeader(m, out);
-  for (entity& e : m.entities()) write(e, out, options);
+  for (const entity& e : m.entities()) write(e, out, options);
   return out.take();
 }
 
-std::string GroupExportText(map& m, int group) {
+std::string GroupExportText(const map& m, int group) {
   TextOut out;
-  entity* missingStart = nullptr;
+  const entity* missingStart = nullptr;
   bool startWritten = false;
-  for (entity& e : m.entities()) {
+  for (const entity& e : m.entities()) {
     const bool wanted = e.isWorld() || AnyBrush(e, [&](const brush& b) { return InGroup(m, b, group); });
     if (wanted) ExportEntity(e, group, out);
     if (!IsPlayerStart(e)) continue;
@@ -174,7 +174,7 @@ MapWriteResult WriteMapFile(map& m, const Paths& paths, const std::string& name,
   return result;
 }
 
-MapWriteResult ExportGroup(map& m, int group, const Paths& paths, const std::string& name) {
+MapWriteResult ExportGroup(const map& m, int group, const Paths& paths, const std::string& name) {
   return Replace(paths, name, GroupExportText(m, group));
 }
 

@@ -24,7 +24,7 @@ struct MapWriteResult {
 
 // Replaces the file as a whole and clears the map's modified flag. A map without world brushes is not
 // written; when writing fails the file stays as it was. Both leave the flag alone. "origin" of fixed-size
-// entities is taken from their boxes first. A file that cannot be made is fatal "Couldn't write map file,
+// entities is written as their boxes stand. A file that cannot be made is fatal "Couldn't write map file,
 // unable to open %s".
 MapWriteResult WriteMapFile(map& m, const Paths& paths, const std::string& name,
                             const MapWriteOptions& options);
@@ -32,13 +32,13 @@ MapWriteResult WriteMapFile(map& m, const Paths& paths, const std::string& name,
 // Writes the brushes of one group (-1: of all visible groups), without comments, as a map that the
 // compiler accepts: the world, the other entities with brushes in the group, and a player start in any
 // case. Leaves the modified flag alone; fatal as above.
-MapWriteResult ExportGroup(map& m, int group, const Paths& paths, const std::string& name);
+MapWriteResult ExportGroup(const map& m, int group, const Paths& paths, const std::string& name);
 
 // The texts of both.
-std::string MapFileText(map& m, const MapWriteOptions& options);
-std::string GroupExportText(map& m, int group);
+std::string MapFileText(const map& m, const MapWriteOptions& options);
+std::string GroupExportText(const map& m, int group);
 
-void write(entity& e, TextOut& out, const MapWriteOptions& options);
+void write(const entity& e, TextOut& out, const MapWriteOptions& options);
 void write(const brush& b, TextOut& out, bool withGroup);
 
 }  // namespace velk

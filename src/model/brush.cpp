@@ -49,11 +49,9 @@ brush::brush(ObjectCounters* counters) : counters_(counters) {
 
 brush::brush(const brush& other)
     : invalid(other.invalid),
-      hidden(other.hidden),
       owner(other.owner),
       mins(other.mins),
       maxs(other.maxs),
-      source(&other),
       selected_(other.selected_),
       currentFace_(other.currentFace_),
       group_(other.group_),
@@ -82,6 +80,10 @@ void brush::initBox(entity& boxOwner, const vec3& boxMins, const vec3& boxMaxs, 
 std::weak_ptr<const void> brush::identity() {
   if (!identity_) identity_ = std::make_shared<int>(0);
   return identity_;
+}
+
+void brush::tellOwner() {
+  if (owner) owner->touch();
 }
 
 void brush::setColor(const vec3& color) {
@@ -123,7 +125,7 @@ bool brush::addFace(const face& added) {
   editFaces().push_back(std::move(taken));
   buildWindings();
   std::erase_if(faces_, [](const face& f) { return !f.polygon; });
-  currentFace_ = std::max(std::min(currentFace_, numfaces() - 1), 0);
+  setCurrentFace(std::max(std::min(currentFace_, numfaces() - 1), 0));
   if (faces_.size() < kFewestFaces) invalid = true;
   return faces_.size() >= kFewestFaces;
 }

@@ -18,44 +18,46 @@ inline constexpr int MAX_FACES = 64;
 
 struct brush {
   explicit brush(ObjectCounters* counters = nullptr);
-  // A copy carries everything but polygons and texture caches; its source is the brush copied. Run
-  // buildWindings on it when polygons are needed.
+  // A copy carries everything but polygons and texture caches. Run buildWindings on it when polygons are
+  // needed.
   brush(const brush& other);
   brush& operator=(const brush&) = delete;
   // Takes the brush out of the hit list. It must have left its owner's list before.
   ~brush();
 
   bool invalid = false;     // no valid solid; see buildWindings
-  bool hidden = false;      // left out by the view filter
   entity* owner = nullptr;  // the entity that holds this brush
   vec3 mins;                // bounds of all polygons, world units
   vec3 maxs;
-  const brush* source = nullptr;           // in an undo copy: the live brush
   HitList* hits = nullptr;                 // the hit list that holds this brush, if any
-  std::shared_ptr<const BrushShape> kept;  // of the last snapshot; may be out of date
+  std::shared_ptr<const BrushShape> kept;  // of the last snapshot; none once something of it changed
   // Expires with the brush; made when first asked for.
   std::weak_ptr<const void> identity();
 
   bool selected() const { return selected_; }
-  void select(bool on = true) { set(selected_, on); }
+  void select(bool on = true) { setAside(selected_, on); }
   int group() const { return group_; }
   void setGroup(int group) { set(group_, group); }
   int currentFace() const { return currentFace_; }  // 0..numfaces-1
-  void setCurrentFace(int face) { set(currentFace_, face); }
+  void setCurrentFace(int face) { setAside(currentFace_, face); }
   // Of the owner's entity class, channels nominally 0..1.
   const vec3& color() const { return color_; }
   void setColor(const vec3& color);
 
   // At most MAX_FACES.
   const std::vector<face>& faces() const { return faces_; }
-  // To change points, textures or the list; run buildWindings afterwards.
+  // To change points, textures or the list, at once: ask again for every change. Run buildWindings
+  // afterwards.
   std::vector<face>& editFaces() {
     touch();
     return faces_;
   }
   int numfaces() const { return static_cast<int>(faces_.size()); }
-  // Something that a snapshot keeps is about to change.
-  void touch() {}
+  // The shape, the group or the colour is about to change: what the last snapshot kept is out of date.
+  void touch() {
+    kept.reset();
+    tellOwner();
+  }
   // The texture of face 0; an empty definition when there is no face.
   const texturedef& brushTexture() const;
 
@@ -104,18 +106,28 @@ struct brush {
   RayClip clipRay(const vec3& start, const vec3& end) const;
 
  private:
+  friend class entity;
   template <typename T>
   void set(T& field, T value) {
     if (field == value) return;
     touch();
     field = value;
   }
+  // Sets what a snapshot keeps beside the shape.
+  template <typename T>
+  void setAside(T& field, T value) {
+    if (field == value) return;
+    tellOwner();
+    field = value;
+  }
+  void tellOwner();
   int alignment() const;
   // Makes room in the store for polygons of so many bytes; what it held is gone.
   std::byte* polygonStore(size_t bytes);
 
   std::unique_ptr<std::byte[]> store_;  // one block with the polygons of all faces, kept for the next build
   size_t storeSize_ = 0;
+  int place_ = -1;  // in its owner's list, when it is there
   bool selected_ = false;
   int currentFace_ = 0;
   int group_ = 0;

@@ -239,7 +239,7 @@ std::byte* brush::polygonStore(size_t bytes) {
 void brush::buildWindings() {
   if (numfaces() > MAX_FACES) Error("addFace: numfaces == MAX_FACES");
   invalid = false;
-  currentFace_ = std::max(std::min(currentFace_, numfaces() - 1), 0);
+  setCurrentFace(std::max(std::min(currentFace_, numfaces() - 1), 0));
   for (face& f : faces_) {
     f.polygon = nullptr;
     f.cache.reset();

@@ -15,6 +15,8 @@ namespace {
 
 const std::string kNoValue;
 
+constexpr std::string_view kOrigin = "origin";
+
 // From here on looking through all pairs takes longer than an index.
 constexpr size_t kManyPairs = 64;
 
@@ -47,11 +49,7 @@ std::weak_ptr<const void> entity::identity() {
   return identity_;
 }
 
-int entity::indexOf(const brush* b) const {
-  const auto found =
-      std::find_if(brushes_.begin(), brushes_.end(), [&](const auto& p) { return p.get() == b; });
-  return found == brushes_.end() ? -1 : int(found - brushes_.begin());
-}
+int entity::indexOf(const brush* b) const { return b && at(b->place_) == b ? b->place_ : -1; }
 
 void entity::requireRoom() const {
   if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
@@ -59,7 +57,9 @@ void entity::requireRoom() const {
 
 brush& entity::addobject(std::unique_ptr<brush> added) {
   requireRoom();
+  touch();
   added->owner = this;
+  added->place_ = numbrushes();
   brushes_.push_back(std::move(added));
   return *brushes_.back();
 }
@@ -67,17 +67,27 @@ brush& entity::addobject(std::unique_ptr<brush> added) {
 std::unique_ptr<brush> entity::removeObject(const brush* b, std::unique_ptr<entity>* emptied) {
   const int index = indexOf(b);
   if (index < 0) return nullptr;
-  std::unique_ptr<brush> removed = std::move(brushes_[size_t(index)]);
-  if (index != numbrushes() - 1) brushes_[size_t(index)] = std::move(brushes_.back());
+  touch();
+  std::unique_ptr<brush> removed = std::exchange(brushes_[size_t(index)], nullptr);
+  std::swap(brushes_[size_t(index)], brushes_.back());
   brushes_.pop_back();
+  if (brush* moved = at(index)) moved->place_ = index;
   if (brushes_.empty() && emptied && !isWorld()) *emptied = parent_->removeEntity(this);
   return removed;
 }
 
 std::unique_ptr<brush> entity::replaceAt(int index, std::unique_ptr<brush> with) {
+  touch();
   with->owner = this;
+  with->place_ = index;
   std::swap(brushes_[size_t(index)], with);
   return with;
+}
+
+std::vector<std::unique_ptr<brush>> entity::takeBrushes() {
+  touch();
+  for (brush& b : brushes()) b.owner = nullptr;
+  return std::exchange(brushes_, {});
 }
 
 void entity::setKey(std::string_view key, std::string_view value) {
@@ -86,8 +96,11 @@ void entity::setKey(std::string_view key, std::string_view value) {
   key = WithoutLeadingBlanks(key);
   if (key.empty()) return;
   if (const size_t place = placeOf(key); place < pairs_.size()) {
+    if (pairs_[place].value == value) return;
+    touch();
     pairs_[place].value = value;
   } else {
+    touch();
     pairs_.push_back({std::string(key), std::string(value)});
   }
 }
@@ -95,12 +108,17 @@ void entity::setKey(std::string_view key, std::string_view value) {
 void entity::removeKeyPair(std::string_view key) {
   if (pairs_.empty()) return;
   places_.clear();
-  if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) == 0) {
+  if (std::erase_if(pairs_, [&](const KeyPair& pair) { return pair.key == key; }) > 0) {
+    touch();
+  } else {
     std::printf("WARNING: removeKeyPair: %s not found\n", std::string(key).c_str());
   }
 }
 
 const std::string& entity::valueOfKey(std::string_view key) const {
+  if (key == kOrigin) {
+    if (std::optional<std::string> origin = originText()) return origin_ = std::move(*origin);
+  }
   const size_t place = placeOf(key);
   return place < pairs_.size() ? pairs_[place].value : kNoValue;
 }
@@ -124,17 +142,13 @@ vec3 entity::vectorOfKey(std::string_view key) const {
 
 bool entity::isWorld() const { return parent_->world() == this; }
 
-std::unique_ptr<entity> entity::copy(map& target, Copy kind) const {
+std::unique_ptr<entity> entity::copy(map& target) const {
   auto made = std::make_unique<entity>(target);
   made->isModel = isModel;
   made->pairs_ = pairs_;
-  if (kind != Copy::Rebuilt) made->source = this;
-  if (kind == Copy::PairsOnly) return made;
-
   made->brushes_.reserve(brushes_.size());
   for (const auto& original : brushes_) {
-    brush& b = made->addobject(std::make_unique<brush>(*original));
-    if (kind == Copy::Rebuilt) b.buildWindings();
+    made->addobject(std::make_unique<brush>(*original)).buildWindings();
   }
   if (made->numbrushes() != numbrushes()) Error("Copying entity, counts didn't match");
   return made;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -15,6 +16,7 @@
 namespace velk {
 
 class map;
+struct KeptEntity;
 
 inline constexpr int MAX_KEY = 64;  // bytes with the terminator
 inline constexpr int MAX_VALUE = 128;
@@ -37,7 +39,6 @@ class entity {
 
   // The brushes are the entity's own (world, doors, triggers); false: one box of a fixed-size class.
   bool isModel = false;
-  const entity* source = nullptr;  // in a copy: the entity copied
 
   // Brushes, owned. A 4097th is fatal "entity->addobject, too many objects".
   int numbrushes() const { return static_cast<int>(brushes_.size()); }
@@ -52,13 +53,16 @@ class entity {
   // other than the world that is left empty leaves the map's list and is handed over in `emptied`, for the
   // caller to destroy; when that is null it stays in the map, empty.
   std::unique_ptr<brush> removeObject(const brush* b, std::unique_ptr<entity>* emptied);
-  void destroyBrushes() { brushes_.clear(); }
+  void destroyBrushes() {
+    touch();
+    brushes_.clear();
+  }
   // Hands over all brushes; the entity stays in its list.
-  std::vector<std::unique_ptr<brush>> takeBrushes() { return std::exchange(brushes_, {}); }
+  std::vector<std::unique_ptr<brush>> takeBrushes();
   Pointees<brush> brushes() const { return Pointees(brushes_); }
   std::unique_ptr<brush> replaceAt(int index, std::unique_ptr<brush> with);
 
-  // Pairs, newest first, as they are written.
+  // Pairs, newest first, as they are written; in place of the value of "origin" see originText.
   Reversed<KeyPair> pairs() const { return Reversed(pairs_); }
   // The same, oldest first.
   const std::vector<KeyPair>& pairsInOrder() const { return pairs_; }
@@ -67,10 +71,21 @@ class entity {
   void setKey(std::string_view key, std::string_view value);
   // An absent key warns on standard output, unless there are no pairs at all.
   void removeKeyPair(std::string_view key);
-  // "" when the key is absent.
+  bool hasKey(std::string_view key) const { return placeOf(key) < pairs_.size(); }
+  // "" when the key is absent; for "origin" what originText says, which holds until the next such call.
   const std::string& valueOfKey(std::string_view key) const;
   // Missing components stay 0.
   vec3 vectorOfKey(std::string_view key) const;
+
+  // What the last snapshot kept of the entity, and whether something of that changed since: pairs, the list
+  // of brushes, or one of them.
+  const std::shared_ptr<const KeptEntity>& kept() const { return kept_; }
+  bool changedSinceKept() const { return changed_; }
+  void setKept(std::shared_ptr<const KeptEntity> kept) {
+    kept_ = std::move(kept);
+    changed_ = false;
+  }
+  void touch() { changed_ = true; }
 
   // Expires with the entity; made when first asked for.
   std::weak_ptr<const void> identity();
@@ -78,10 +93,8 @@ class entity {
   const EntityClass& entityClass() const;
   bool isWorld() const;
 
-  enum class Copy { Rebuilt, ForUndo, PairsOnly };
-  // A copy in `target` (not added to its list), its pairs in the same order. Brushes are rebuilt, or left
-  // without polygons for undo.
-  std::unique_ptr<entity> copy(map& target, Copy kind) const;
+  // A copy in `target` (not added to its list), its pairs in the same order, its brushes rebuilt.
+  std::unique_ptr<entity> copy(map& target) const;
 
   // The entity's "targetname", made as "t<n>" from the largest in the map when it has none.
   std::string makeTargetName();
@@ -91,9 +104,10 @@ class entity {
   void setClass(std::string_view classname);
   // Adds the box of the entity's class at `origin`, 16 units a side for an unknown class.
   void makeClassBox(const vec3& origin);
-  // "origin" of a fixed-size entity: its box's mins less the class mins, truncated; the box's mins when the
-  // class is unknown.
-  void updateOriginFromBox();
+  // "origin" of a fixed-size entity as its box stands, which is what its file says whatever the pair holds:
+  // the box's mins less the class mins, those of an unknown class being 0. Whole numbers that would put the
+  // box there, otherwise truncated. None for other entities, and when the box is beyond the model's range.
+  std::optional<std::string> originText() const;
 
  private:
   friend class map;
@@ -101,11 +115,15 @@ class entity {
   size_t placeOf(std::string_view key) const;
 
   map* parent_;
+  int place_ = -1;  // in the map's list, when it is there
   std::vector<std::unique_ptr<brush>> brushes_;
   std::vector<KeyPair> pairs_;  // oldest first
   // Places of the oldest pairs by key, as many as have been looked for; unused while there are few pairs.
   mutable std::unordered_map<std::string, size_t> places_;
+  mutable std::string origin_;  // what valueOfKey last made of the box
   std::shared_ptr<const int> identity_;
+  std::shared_ptr<const KeptEntity> kept_;
+  bool changed_ = true;
 };
 
 // The colour in which brushes of the entity's class are drawn flat.

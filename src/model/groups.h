@@ -15,9 +15,9 @@ struct group {
   Colour colour;
   int brushCount = 0;  // filled in on demand, never saved
 
-  // What a file holds of them.
-  friend bool operator==(const group& a, const group& b) {
-    return a.name == b.name && a.visible == b.visible && a.colour == b.colour;
+  // The count apart.
+  bool operator==(const group& other) const {
+    return name == other.name && visible == other.visible && colour == other.colour;
   }
 };
 
@@ -51,7 +51,7 @@ class GroupList {
   // the list as not visible.
   bool passes(int number) const { return number < 0 || visible(number); }
 
-  friend bool operator==(const GroupList&, const GroupList&) = default;
+  bool operator==(const GroupList&) const = default;
 
  private:
   bool has(int index) const { return index >= 0 && index < count(); }

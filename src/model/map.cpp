@@ -1,6 +1,7 @@
 #include "model/map.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/error.h"
 #include "base/text.h"
@@ -22,11 +23,7 @@ map::map(const Settings& settings, const EntityClassList& classes, ObjectCounter
 // Brushes handed over to others must not keep a list that goes.
 map::~map() { hits.clear(); }
 
-int map::indexOf(const entity* e) const {
-  const auto found =
-      std::find_if(entities_.begin(), entities_.end(), [&](const auto& p) { return p.get() == e; });
-  return found == entities_.end() ? -1 : int(found - entities_.begin());
-}
+int map::indexOf(const entity* e) const { return e && at(e->place_) == e ? e->place_ : -1; }
 
 void map::requireRoom() const {
   if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
@@ -34,6 +31,7 @@ void map::requireRoom() const {
 
 entity& map::addobject(std::unique_ptr<entity> added) {
   requireRoom();
+  added->place_ = numentities();
   entities_.push_back(std::move(added));
   modified = true;
   return *entities_.back();
@@ -43,26 +41,20 @@ std::unique_ptr<entity> map::removeEntity(const entity* e) {
   modified = true;
   const int index = indexOf(e);
   if (index < 1) return nullptr;
-  std::unique_ptr<entity> removed = std::move(entities_[size_t(index)]);
-  if (index != numentities() - 1) entities_[size_t(index)] = std::move(entities_.back());
+  std::unique_ptr<entity> removed = std::exchange(entities_[size_t(index)], nullptr);
+  std::swap(entities_[size_t(index)], entities_.back());
   entities_.pop_back();
+  if (entity* moved = at(index)) moved->place_ = index;
   if (currentEntity_ == e) setCurrentEntity(world());
   return removed;
 }
 
-entity* map::currentEntity() {
-  if (!currentEntity_) currentEntity_ = world();
-  return currentEntity_;
-}
-
 void map::setCurrentEntity(entity* e) {
   modified = true;
-  const bool changed = e != currentEntity_;
   currentEntity_ = e;
-  if (changed) notify(MapNotice::CurrentEntity);
 }
 
-brush* map::firstSelected() {
+brush* map::firstSelected() const {
   const auto selectedOf = [](const entity& e) -> brush* {
     for (brush& b : e.brushes()) {
       if (b.selected()) return &b;
@@ -79,7 +71,7 @@ brush* map::firstSelected() {
   return nullptr;
 }
 
-int map::selectedCount() {
+int map::selectedCount() const {
   const entity* current = currentEntity();
   return current ? int(std::ranges::count_if(current->brushes(), &brush::selected)) : 0;
 }
@@ -96,7 +88,7 @@ int map::brushCount() const {
   return count;
 }
 
-vec3 map::selectionCentre() {
+vec3 map::selectionCentre() const {
   const bool selectedOnly = selectedCount() > 0;
   vec3 low{kNoBound, kNoBound, kNoBound};
   vec3 high{-kNoBound, -kNoBound, -kNoBound};
@@ -115,7 +107,6 @@ void map::setWorkLow(const vec3& low) {
   for (int axis = 0; axis < 3; ++axis) {
     if (low[axis] > kLowestWork) workLow_[axis] = float(Snap(low[axis], settings_.gridsize));
   }
-  notify(MapNotice::WorkRange);
 }
 
 void map::setWorkHigh(const vec3& high) {
@@ -123,16 +114,14 @@ void map::setWorkHigh(const vec3& high) {
   for (int axis = 0; axis < 3; ++axis) {
     if (high[axis] < kHighestWork) workHigh_[axis] = float(Snap(high[axis], settings_.gridsize));
   }
-  notify(MapNotice::WorkRange);
 }
 
 void map::setWorkRange(const vec3& low, const vec3& high) {
   workLow_ = low;
   workHigh_ = high;
-  notify(MapNotice::WorkRange);
 }
 
-bool map::isFiltered(const brush& b) const {
+bool map::matchesFilter(const brush& b) const {
   const ViewFilter& filter = settings_.filter;
   if (b.owner && b.owner->isWorld()) {
     if (filter.omitWorld) return true;
@@ -151,14 +140,13 @@ void map::initNew(const std::string& wads) {
   made->setClass("worldspawn");
   made->setKey("wad", wads);
   setCurrentEntity(&addobject(std::move(made)));
-  notify(MapNotice::Groups);
   modified = false;
 }
 
-void map::clearEntities() {
+std::vector<std::unique_ptr<entity>> map::takeEntities() {
   hits.clear();
   currentEntity_ = nullptr;
-  entities_.clear();
+  return std::exchange(entities_, {});
 }
 
 }  // namespace velk

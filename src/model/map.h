@@ -2,11 +2,11 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "model/brush_method.h"
 #include "model/camera.h"
 #include "model/clipper.h"
 #include "model/entity.h"
@@ -17,50 +17,6 @@
 namespace velk {
 
 inline constexpr int MAX_ENTITIES = 1024;
-
-// What the owner of a map may want to hear of.
-enum class MapNotice { CurrentEntity, WorkRange, Groups };
-
-// The values that a command sets before it dispatches a method over brushes.
-struct PerformValues {
-  vec3 boundsMins;  // method 1
-  vec3 boundsMaxs;
-  float matrix[3][3] = {};  // method 2
-  vec3 centre;
-  entity* target = nullptr;  // method 4
-  vec3 boxMins;              // methods 6 and 7
-  vec3 boxMaxs;
-  vec3 offset;  // method 9
-  // Methods that later layers carry out; without one, the method does nothing. They leave their brush in
-  // its entity; the dispatcher destroys what 8 and 13 leave invalid.
-  std::function<void(brush&)> cut;          // 8
-  std::function<void(brush&)> floorSearch;  // 10
-  std::function<void(brush&)> draw;         // 12
-  std::function<void(brush&)> split;        // 13
-  std::function<void(brush&)> pick;         // 15
-};
-
-enum class Method {
-  Deselect = 0,
-  WidenBounds = 1,
-  Transform = 2,
-  ReverseFaces = 3,
-  MoveToTarget = 4,
-  Delete = 5,
-  SelectInside = 6,
-  SelectTouching = 7,
-  Cut = 8,
-  Translate = 9,
-  FloorSearch = 10,
-  Select = 11,
-  Draw = 12,
-  Split = 13,
-  SetHidden = 14,
-  Pick = 15,
-};
-
-// Widens a box by the bounds of a brush.
-void WidenBounds(vec3& mins, vec3& maxs, const brush& by);
 
 class map {
  public:
@@ -83,8 +39,6 @@ class map {
   clipper clip;
   HitList hits;
   std::vector<std::string> favourites;  // texture names; empty ones are free slots
-  PerformValues perform;
-  std::function<void(MapNotice)> notice;  // may be empty
 
   camera& activeCamera() { return cameras[static_cast<size_t>(currentCamera)]; }
   const camera& activeCamera() const { return cameras[static_cast<size_t>(currentCamera)]; }
@@ -106,19 +60,19 @@ class map {
   std::unique_ptr<entity> removeEntity(const entity* e);
 
   // The entity that commands address; the world when none was set. None only in a map without entities.
-  entity* currentEntity();
+  entity* currentEntity() const { return currentEntity_ ? currentEntity_ : world(); }
   void setCurrentEntity(entity* e);  // marks the map modified
-  bool worldIsCurrent() { return currentEntity() == world(); }
+  bool worldIsCurrent() const { return currentEntity() == world(); }
 
   // The current brush: the first selected one of the current entity, else of the others from the last to
   // the first; none when nothing is selected.
-  brush* firstSelected();
-  int selectedCount();        // in the current entity
+  brush* firstSelected() const;
+  int selectedCount() const;  // in the current entity
   int totalSelected() const;  // in all entities
   int brushCount() const;     // of all entities
   // Middle of the bounds of the selection, or of everything when the current entity has none selected.
   // The group filter applies.
-  vec3 selectionCentre();
+  vec3 selectionCentre() const;
 
   // The depth range of new brushes, per axis, on the grid.
   const vec3& workLow() const { return workLow_; }
@@ -130,30 +84,26 @@ class map {
 
   // In group mode, whether the brush's group is visible; otherwise true.
   bool passesGroupFilter(const brush& b) const { return !settings_.groupmode || groups.passes(b.group()); }
-  // What the view filter says of the brush.
-  bool isFiltered(const brush& b) const;
+  // Whether the view filter leaves the brush out.
+  bool isFiltered(const brush& b) const { return settings_.filter.omitsAny() && matchesFilter(b); }
 
-  // Visit entities from the last to the first and their brushes from the last to the first, so that a
-  // method may delete its brush; mark the map modified. A method outside 0..15 is fatal, with the
-  // dispatcher's name: "MSPerform Unknown method...".
-  void MUSPerform(Method method);  // visible groups, not selected
-  void MSPerform(Method method);   // visible groups, selected
-  void MAPerform(Method method);   // visible groups
-  void MGPerform(Method method);   // every brush
+  // Apply a method to brushes, visited as VisitBrushes does, and mark the map modified. A method outside
+  // 0..15 is fatal, with the dispatcher's name: "MSPerform Unknown method...".
+  void MUSPerform(const BrushMethod& method);  // visible groups, not selected
+  void MSPerform(const BrushMethod& method);   // visible groups, selected
+  void MAPerform(const BrushMethod& method);   // visible groups
+  void MGPerform(const BrushMethod& method);   // every brush
 
   // Empties the map and gives it a world whose "wad" is `wads`. Current is the world; not modified.
   void initNew(const std::string& wads);
-  // Removes every entity with its brushes.
-  void clearEntities();
+  // Removes every entity with its brushes, or hands them over.
+  void clearEntities() { takeEntities(); }
+  std::vector<std::unique_ptr<entity>> takeEntities();
 
   void assignGroupOfSelected(int index);
-  void notify(MapNotice what) const {
-    if (notice) notice(what);
-  }
 
  private:
-  template <typename Filter>
-  void performOver(Method method, const char* dispatcher, Filter&& filter);
+  bool matchesFilter(const brush& b) const;
 
   const Settings& settings_;
   const EntityClassList& classes_;
@@ -163,5 +113,8 @@ class map {
   vec3 workLow_{0, 0, 0};
   vec3 workHigh_{80, 80, 80};
 };
+
+// Whether views show the brush and picks meet it: neither its group nor the view filter leaves it out.
+inline bool IsShown(const map& m, const brush& b) { return m.passesGroupFilter(b) && !m.isFiltered(b); }
 
 }  // namespace velk

@@ -8,42 +8,16 @@ namespace {
 
 constexpr size_t kPageSize = 64;  // brushes
 
-bool same(const texturedef& a, const texturedef& b) {
-  return a.rotate == b.rotate && a.shift[0] == b.shift[0] && a.shift[1] == b.shift[1] &&
-         a.scale[0] == b.scale[0] && a.scale[1] == b.scale[1] && a.name == b.name;
-}
-
-bool same(const face& a, const face& b) {
-  return VecEqual(a.planepts[0], b.planepts[0]) && VecEqual(a.planepts[1], b.planepts[1]) &&
-         VecEqual(a.planepts[2], b.planepts[2]) && same(a.texture, b.texture);
-}
-
-bool same(const brush& b, const BrushShape& shape) {
-  return b.group() == shape.group && VecEqual(b.color(), shape.color) &&
-         std::equal(b.faces().begin(), b.faces().end(), shape.faces.begin(), shape.faces.end(),
-                    [](const face& x, const face& y) { return same(x, y); });
-}
-
 bool same(const std::vector<KeyPair>& a, const std::vector<KeyPair>& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](const KeyPair& x, const KeyPair& y) { return x.key == y.key && x.value == y.value; });
 }
 
-bool same(const KeptPage& a, const KeptPage& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const KeptBrush& x, const KeptBrush& y) {
-    return x.shape == y.shape && x.currentFace == y.currentFace && x.selected == y.selected &&
-           x.hidden == y.hidden;
-  });
-}
-
-// Of entities that share what did not change.
-bool same(const KeptEntity& a, const KeptEntity& b) {
-  return a.isModel == b.isModel && a.pairs == b.pairs && a.pages == b.pages;
-}
+// One object, or equal ones.
+bool sameShape(const KeptBrush& a, const KeptBrush& b) { return a.shape == b.shape || *a.shape == *b.shape; }
 
 bool sameShapes(const std::shared_ptr<const KeptPage>& a, const std::shared_ptr<const KeptPage>& b) {
-  return a == b || std::equal(a->begin(), a->end(), b->begin(), b->end(),
-                              [](const KeptBrush& x, const KeptBrush& y) { return x.shape == y.shape; });
+  return a == b || std::equal(a->begin(), a->end(), b->begin(), b->end(), sameShape);
 }
 
 bool sameContents(const std::shared_ptr<const KeptEntity>& a, const std::shared_ptr<const KeptEntity>& b) {
@@ -52,81 +26,184 @@ bool sameContents(const std::shared_ptr<const KeptEntity>& a, const std::shared_
           std::equal(a->pages.begin(), a->pages.end(), b->pages.begin(), b->pages.end(), sameShapes));
 }
 
-bool same(const group& a, const group& b) {
-  return a.name == b.name && a.visible == b.visible && a.colour == b.colour;
+std::uint32_t nameIn(std::vector<std::string>& names, const std::string& name) {
+  const auto found = std::ranges::find(names, name);
+  const auto place = static_cast<std::uint32_t>(found - names.begin());
+  if (found == names.end()) names.push_back(name);
+  return place;
 }
 
-std::shared_ptr<const BrushShape> shapeOf(brush& b) {
-  if (!b.kept || !same(b, *b.kept)) {
-    b.kept = std::make_shared<BrushShape>(BrushShape{b.faces(), b.color(), b.group()});
-  }
+KeptFace keep(const face& f, std::vector<std::string>& names) {
+  const texturedef& t = f.texture;
+  return {{f.planepts[0], f.planepts[1], f.planepts[2]},
+          t.rotate,
+          {t.shift[0], t.shift[1]},
+          {t.scale[0], t.scale[1]},
+          nameIn(names, t.name)};
+}
+
+const std::shared_ptr<const BrushShape>& shapeOf(brush& b) {
+  if (b.kept) return b.kept;
+  auto made = std::make_shared<BrushShape>();
+  made->faces.reserve(b.faces().size());
+  for (const face& f : b.faces()) made->faces.push_back(keep(f, made->names));
+  made->color = b.color();
+  made->group = b.group();
+  b.kept = std::move(made);
   return b.kept;
 }
 
-KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected(), b.hidden}; }
+KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected()}; }
 
-// The value itself, or the earlier one when that is equal, so that both snapshots share it.
-template <typename T>
-std::shared_ptr<const T> shared(const T& value, const std::shared_ptr<const T>& earlier) {
-  return earlier && same(value, *earlier) ? earlier : std::make_shared<const T>(value);
+bool isAsKept(const brush& b, const KeptBrush& kept) {
+  return b.kept == kept.shape && b.currentFace() == kept.currentFace && b.selected() == kept.selected;
 }
 
-template <typename T>
-std::shared_ptr<const T> at(const std::vector<std::shared_ptr<const T>>& list, size_t index) {
-  return index < list.size() ? list[index] : nullptr;
-}
-
-std::shared_ptr<const KeptEntity> keep(entity& e, const std::shared_ptr<const KeptEntity>& earlier) {
-  KeptEntity kept;
-  kept.isModel = e.isModel;
-  kept.pairs = shared(e.pairsInOrder(), earlier ? earlier->pairs : nullptr);
-  KeptPage page;
-  for (brush& b : e.brushes()) {
-    page.push_back(keep(b));
-    if (page.size() < kPageSize && &b != e.at(e.numbrushes() - 1)) continue;
-    kept.pages.push_back(shared(page, earlier ? at(earlier->pages, kept.pages.size()) : nullptr));
-    page.clear();
+bool isAsKept(const entity& e, size_t first, size_t count, const KeptPage& page) {
+  if (page.size() != count) return false;
+  for (size_t i = 0; i < count; ++i) {
+    if (!isAsKept(*e.at(static_cast<int>(first + i)), page[i])) return false;
   }
-  return shared(kept, earlier);
+  return true;
 }
 
-// The map's brushes as they are, by their shapes.
-using BrushPool = std::unordered_multimap<const BrushShape*, std::unique_ptr<brush>>;
+// The page as it was kept last, when it is still so.
+std::shared_ptr<const KeptPage> pageOf(const entity& e, size_t number, const KeptEntity* earlier) {
+  const size_t first = number * kPageSize;
+  const size_t count = std::min(kPageSize, static_cast<size_t>(e.numbrushes()) - first);
+  if (earlier && number < earlier->pages.size() && isAsKept(e, first, count, *earlier->pages[number])) {
+    return earlier->pages[number];
+  }
+  auto page = std::make_shared<KeptPage>();
+  page->reserve(count);
+  for (size_t i = 0; i < count; ++i) page->push_back(keep(*e.at(static_cast<int>(first + i))));
+  return page;
+}
 
-BrushPool takeUnchanged(map& m) {
-  BrushPool pool;
-  for (entity& e : m.entities()) {
-    for (std::unique_ptr<brush>& b : e.takeBrushes()) {
-      if (!b->kept || !same(*b, *b->kept)) continue;
+std::shared_ptr<const KeptEntity> keep(entity& e) {
+  const KeptEntity* earlier = e.kept().get();
+  if (earlier && !e.changedSinceKept() && earlier->isModel == e.isModel) return e.kept();
+  auto kept = std::make_shared<KeptEntity>();
+  kept->isModel = e.isModel;
+  kept->pairs = earlier && same(e.pairsInOrder(), *earlier->pairs)
+                    ? earlier->pairs
+                    : std::make_shared<const std::vector<KeyPair>>(e.pairsInOrder());
+  const size_t pages = (static_cast<size_t>(e.numbrushes()) + kPageSize - 1) / kPageSize;
+  kept->pages.reserve(pages);
+  for (size_t i = 0; i < pages; ++i) kept->pages.push_back(pageOf(e, i, earlier));
+  e.setKept(kept);
+  return kept;
+}
+
+// What a map holds that is as it was kept: whole entities, and brushes of the others.
+struct Unchanged {
+  std::unordered_map<const KeptEntity*, std::unique_ptr<entity>> entities;
+  std::unordered_multimap<const BrushShape*, std::unique_ptr<brush>> brushes;
+};
+
+// Takes out what the snapshot wants back as it is.
+Unchanged takeUnchanged(map& m, const MapSnapshot& wanted) {
+  std::unordered_map<const KeptEntity*, bool> isWanted;
+  for (const auto& kept : wanted.entities) isWanted[kept.get()] = true;
+  Unchanged taken;
+  for (std::unique_ptr<entity>& e : m.takeEntities()) {
+    if (e->kept() && !e->changedSinceKept() && isWanted.contains(e->kept().get())) {
+      taken.entities.emplace(e->kept().get(), std::move(e));
+      continue;
+    }
+    for (std::unique_ptr<brush>& b : e->takeBrushes()) {
       const BrushShape* shape = b->kept.get();
-      pool.emplace(shape, std::move(b));
+      if (shape) taken.brushes.emplace(shape, std::move(b));
     }
   }
-  return pool;
+  return taken;
 }
 
-std::unique_ptr<brush> fromPool(BrushPool& pool, const KeptBrush& kept, entity& owner) {
-  const auto found = pool.find(kept.shape.get());
-  if (found == pool.end()) return RestoreBrush(owner, kept);
-  std::unique_ptr<brush> unchanged = std::move(found->second);
-  pool.erase(found);
-  unchanged->setCurrentFace(kept.currentFace);
-  unchanged->select(kept.selected);
-  unchanged->hidden = kept.hidden;
-  return unchanged;
+std::unique_ptr<brush> restored(Unchanged& unchanged, const KeptBrush& kept, entity& owner) {
+  auto found = unchanged.brushes.extract(kept.shape.get());
+  if (found.empty()) return RestoreBrush(owner, kept);
+  std::unique_ptr<brush> b = std::move(found.mapped());
+  b->setCurrentFace(kept.currentFace);
+  b->select(kept.selected);
+  return b;
 }
 
-std::unique_ptr<entity> restored(map& m, const KeptEntity& kept, BrushPool& pool) {
+std::unique_ptr<entity> restored(map& m, const std::shared_ptr<const KeptEntity>& kept,
+                                 Unchanged& unchanged) {
+  if (auto found = unchanged.entities.extract(kept.get()); !found.empty()) return std::move(found.mapped());
   auto made = std::make_unique<entity>(m);
-  made->isModel = kept.isModel;
-  for (const KeyPair& pair : *kept.pairs) made->setKey(pair.key, pair.value);
-  for (const auto& page : kept.pages) {
-    for (const KeptBrush& from : *page) made->addobject(fromPool(pool, from, *made));
+  made->isModel = kept->isModel;
+  for (const KeyPair& pair : *kept->pairs) made->setKey(pair.key, pair.value);
+  for (const auto& page : kept->pages) {
+    for (const KeptBrush& from : *page) made->addobject(restored(unchanged, from, *made));
   }
+  made->setKept(kept);
   return made;
 }
 
+// The parts of a snapshot by their addresses.
+class Parts {
+ public:
+  explicit Parts(const MapSnapshot& of) {
+    for (const auto& e : of.entities) entities_.push_back(e.get());
+    std::ranges::sort(entities_);
+  }
+  bool hasEntity(const KeptEntity* e) const { return std::ranges::binary_search(entities_, e); }
+
+ private:
+  std::vector<const KeptEntity*> entities_;
+};
+
+// The pages and shapes of entities that are not among `shared`, each once.
+struct Pieces {
+  std::vector<const KeptPage*> pages;
+  std::vector<const BrushShape*> shapes;
+
+  void sort() {
+    const auto sortOnce = [](auto& list) {
+      std::ranges::sort(list);
+      const auto rest = std::ranges::unique(list);
+      list.erase(rest.begin(), rest.end());
+    };
+    sortOnce(pages);
+    sortOnce(shapes);
+  }
+};
+
+template <typename Wanted>
+Pieces PiecesOf(const MapSnapshot& of, const Parts& without, Wanted&& wanted) {
+  Pieces pieces;
+  for (const auto& e : of.entities) {
+    if (without.hasEntity(e.get())) continue;
+    for (const auto& page : e->pages) {
+      if (wanted(page.get())) pieces.pages.push_back(page.get());
+    }
+  }
+  for (const KeptPage* page : pieces.pages) {
+    for (const KeptBrush& b : *page) pieces.shapes.push_back(b.shape.get());
+  }
+  pieces.sort();
+  return pieces;
+}
+
+size_t BytesOf(const BrushShape& shape) {
+  constexpr size_t kAllocations = 64;  // what three of them and the counts of references take
+  return sizeof(BrushShape) + kAllocations + shape.faces.capacity() * sizeof(KeptFace) +
+         shape.names.capacity() * sizeof(std::string);
+}
+
 }  // namespace
+
+bool KeptFace::operator==(const KeptFace& other) const {
+  return VecEqual(points[0], other.points[0]) && VecEqual(points[1], other.points[1]) &&
+         VecEqual(points[2], other.points[2]) && rotate == other.rotate && shift[0] == other.shift[0] &&
+         shift[1] == other.shift[1] && scale[0] == other.scale[0] && scale[1] == other.scale[1] &&
+         name == other.name;
+}
+
+bool BrushShape::operator==(const BrushShape& other) const {
+  return group == other.group && VecEqual(color, other.color) && faces == other.faces && names == other.names;
+}
 
 KeptEntity KeepBrush(const entity& owner, brush& b) {
   return {std::make_shared<const std::vector<KeyPair>>(owner.pairsInOrder()),
@@ -135,31 +212,35 @@ KeptEntity KeepBrush(const entity& owner, brush& b) {
 }
 
 std::unique_ptr<brush> RestoreBrush(entity& owner, const KeptBrush& kept) {
+  const BrushShape& shape = *kept.shape;
   auto made = std::make_unique<brush>(owner.parent().counters());
   made->owner = &owner;
-  made->editFaces() = kept.shape->faces;
-  made->setColor(kept.shape->color);
-  made->setGroup(kept.shape->group);
-  made->kept = kept.shape;
+  std::vector<face>& faces = made->editFaces();
+  faces.resize(shape.faces.size());
+  for (size_t i = 0; i < faces.size(); ++i) {
+    const KeptFace& from = shape.faces[i];
+    std::copy_n(from.points, 3, faces[i].planepts);
+    faces[i].texture = {
+        shape.names[from.name], from.rotate, {from.shift[0], from.shift[1]}, {from.scale[0], from.scale[1]}};
+  }
+  made->setColor(shape.color);
+  made->setGroup(shape.group);
   made->setCurrentFace(kept.currentFace);
   made->select(kept.selected);
-  made->hidden = kept.hidden;
   made->buildWindings();
+  made->kept = kept.shape;
   return made;
 }
 
 std::unique_ptr<entity> RestoreEntity(map& m, const KeptEntity& kept) {
-  BrushPool none;
-  return restored(m, kept, none);
+  Unchanged none;
+  return restored(m, std::make_shared<const KeptEntity>(kept), none);
 }
 
-MapSnapshot TakeSnapshot(map& m, const MapSnapshot* previous) {
+MapSnapshot TakeSnapshot(const map& m) {
   MapSnapshot taken;
   taken.entities.reserve(static_cast<size_t>(m.numentities()));
-  for (int i = 0; i < m.numentities(); ++i) {
-    const auto earlier = previous ? at(previous->entities, static_cast<size_t>(i)) : nullptr;
-    taken.entities.push_back(keep(*m.at(i), earlier));
-  }
+  for (entity& e : m.entities()) taken.entities.push_back(keep(e));
   taken.currentEntity = m.indexOf(m.currentEntity());
   taken.groups = m.groups;
   taken.clip = m.clip;
@@ -173,10 +254,8 @@ MapSnapshot TakeSnapshot(map& m, const MapSnapshot* previous) {
 }
 
 void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
-  m.hits.clear();
-  BrushPool pool = takeUnchanged(m);
-  m.clearEntities();
-  for (const auto& kept : snapshot.entities) m.addobject(restored(m, *kept, pool));
+  Unchanged unchanged = takeUnchanged(m, snapshot);
+  for (const auto& kept : snapshot.entities) m.addobject(restored(m, kept, unchanged));
   m.setCurrentEntity(m.at(std::max(snapshot.currentEntity, 0)));
   m.groups = snapshot.groups;
   m.clip = snapshot.clip;
@@ -186,15 +265,28 @@ void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
   }
   m.setWorkRange(snapshot.workLow, snapshot.workHigh);
   m.modified = snapshot.modified || snapshot.saves != m.saves;
-  m.notify(MapNotice::Groups);
 }
 
 bool SameContents(const MapSnapshot& a, const MapSnapshot& b) {
-  if (a.groups.count() != b.groups.count()) return false;
-  for (int i = 0; i < a.groups.count(); ++i) {
-    if (!same(a.groups.at(i), b.groups.at(i))) return false;
+  return a.groups == b.groups &&
+         std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), sameContents);
+}
+
+size_t BytesOfItsOwn(const MapSnapshot& a, const MapSnapshot& b) {
+  const Parts partsOfA(a);
+  const Parts partsOfB(b);
+  const Pieces others = PiecesOf(b, partsOfA, [](const KeptPage*) { return true; });
+  const Pieces own = PiecesOf(
+      a, partsOfB, [&](const KeptPage* page) { return !std::ranges::binary_search(others.pages, page); });
+  size_t bytes = sizeof(MapSnapshot) + a.entities.capacity() * sizeof(a.entities[0]);
+  for (const auto& e : a.entities) {
+    if (!partsOfB.hasEntity(e.get())) bytes += sizeof(KeptEntity) + e->pages.capacity() * sizeof(e->pages[0]);
   }
-  return std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), sameContents);
+  for (const KeptPage* page : own.pages) bytes += sizeof(KeptPage) + page->capacity() * sizeof(KeptBrush);
+  for (const BrushShape* shape : own.shapes) {
+    if (!std::ranges::binary_search(others.shapes, shape)) bytes += BytesOf(*shape);
+  }
+  return bytes;
 }
 
 }  // namespace velk

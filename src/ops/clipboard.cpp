@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 
 #include "base/text.h"
 
@@ -25,7 +26,6 @@ std::int64_t largestTargetNumber(map& m) {
 std::unique_ptr<brush> copyInto(entity& owner, const brush& b, const vec3& offset) {
   auto copy = std::make_unique<brush>(b);
   copy->owner = &owner;
-  copy->source = nullptr;
   copy->translate(offset);
   return copy;
 }
@@ -35,17 +35,14 @@ bool anySelected(const entity& e) {
   return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected(); });
 }
 
-bool hasTarget(map& m, const entity& except, const std::string& name) {
-  for (entity& e : m.entities()) {
-    if (&e != &except && EqualNoCase(e.valueOfKey("targetname"), name)) return true;
-  }
-  return false;
-}
-
 void dropDanglingTargets(map& clipboard) {
+  std::unordered_map<std::string, int> named;  // entities, by targetname in upper case
+  for (const entity& e : clipboard.entities()) ++named[UpperCase(e.valueOfKey("targetname"))];
   for (entity& e : clipboard.entities()) {
-    const std::string target = e.valueOfKey("target");
-    if (!target.empty() && !hasTarget(clipboard, e, target)) e.removeKeyPair("target");
+    const std::string target = UpperCase(e.valueOfKey("target"));
+    if (target.empty()) continue;
+    const bool isItself = UpperCase(e.valueOfKey("targetname")) == target;
+    if (named[target] <= int(isItself)) e.removeKeyPair("target");
   }
 }
 
@@ -71,7 +68,7 @@ void CopySelection(map& from, map& clipboard) {
   }
   for (int i = 1; i < from.numentities(); ++i) {
     const entity& e = *from.at(i);
-    if (e.at(0) && e.at(0)->selected()) clipboard.addobject(e.copy(clipboard, entity::Copy::Rebuilt));
+    if (e.at(0) && e.at(0)->selected()) clipboard.addobject(e.copy(clipboard));
   }
   clipboard.MGPerform(Method::Select);
   clipboard.setCurrentEntity(clipboard.world());
@@ -88,7 +85,7 @@ void PasteClipboard(map& to, map& clipboard, int group, const vec3& offset) {
     pasted.setGroup(group);
   }
   for (int i = 1; i < clipboard.numentities(); ++i) {
-    entity& pasted = to.addobject(clipboard.at(i)->copy(to, entity::Copy::Rebuilt));
+    entity& pasted = to.addobject(clipboard.at(i)->copy(to));
     renumber(pasted, "targetname", base);
     renumber(pasted, "target", base);
     for (brush& b : pasted.brushes()) {
@@ -117,7 +114,7 @@ void CloneSelection(map& m, const vec3& offset) {
   for (int i = 1; i < entities; ++i) {
     entity& e = *m.at(i);
     if (!anySelected(e)) continue;
-    last = &m.addobject(e.copy(m, entity::Copy::Rebuilt));
+    last = &m.addobject(e.copy(m));
     for (brush& b : e.brushes()) b.select(false);
     for (brush& b : last->brushes()) {
       b.select(true);

@@ -4,17 +4,10 @@
 
 #include "base/error.h"
 #include "base/text.h"
+#include "model/visit.h"
 
 namespace velk {
 namespace {
-
-// From the last entity to the first, and within each from the last brush to the first.
-template <typename Visit>
-void ForEachBrush(map& m, Visit&& visit) {
-  for (int e = m.numentities() - 1; e >= 0; --e) {
-    for (int b = m.at(e)->numbrushes() - 1; b >= 0; --b) visit(*m.at(e)->at(b));
-  }
-}
 
 bool UsesTexture(const brush& b, std::string_view name) {
   return std::ranges::any_of(b.faces(), [&](const face& f) { return EqualNoCase(f.texture.name, name); });
@@ -45,7 +38,7 @@ bool SetFaceTexture(map& m, const texturedef& definition) {
 
 int SetBrushTexture(map& m, const texturedef& definition) {
   int changed = 0;
-  ForEachBrush(m, [&](brush& b) {
+  VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (!b.selected()) return;
     b.setAllTexturedefs(definition);
     ++changed;
@@ -71,8 +64,7 @@ bool ChooseCurrentFace(map& m, int index) {
 ReplacedTextures ReplaceTexture(map& m, std::string_view from, std::string_view to) {
   const std::string name = UpperCase(to);
   ReplacedTextures done;
-  ForEachBrush(m, [&](brush& b) {
-    if (!m.passesGroupFilter(b)) return;
+  VisitBrushes(m, BrushFilter::Visible, [&](brush& b) {
     const int renamed = RenameFaces(b, from, name);
     done.faces += renamed;
     if (renamed > 0) ++done.brushes;
@@ -83,8 +75,8 @@ ReplacedTextures ReplaceTexture(map& m, std::string_view from, std::string_view 
 
 int SelectByTexture(map& m, std::string_view name) {
   int found = 0;
-  ForEachBrush(m, [&](brush& b) {
-    if (b.selected() || !m.passesGroupFilter(b) || !UsesTexture(b, name)) return;
+  VisitBrushes(m, BrushFilter::Unselected, [&](brush& b) {
+    if (!UsesTexture(b, name)) return;
     b.select(true);
     ++found;
   });

@@ -2,20 +2,15 @@
 
 #include <vector>
 
+#include "model/visit.h"
+
 namespace velk {
 namespace {
 
 bool Has(const map& m, int index) { return index >= 0 && index < m.groups.count(); }
 
-template <typename Action>
-void ForEachBrush(map& m, Action&& action) {
-  for (entity& e : m.entities()) {
-    for (brush& b : e.brushes()) action(b);
-  }
-}
-
 void MoveBrushes(map& m, int from, int to) {
-  ForEachBrush(m, [&](brush& b) {
+  VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (b.group() == from) b.setGroup(to);
   });
 }
@@ -23,7 +18,7 @@ void MoveBrushes(map& m, int from, int to) {
 }  // namespace
 
 void ClearGroups(map& m) {
-  if (m.groups.count() > 1) ForEachBrush(m, [](brush& b) { b.setGroup(0); });
+  if (m.groups.count() > 1) VisitBrushes(m, BrushFilter::Every, [](brush& b) { b.setGroup(0); });
   m.groups.clear();
 }
 
@@ -41,14 +36,14 @@ void ReassignGroup(map& m, int from, int to) {
 
 void SelectAllInGroup(map& m, int index) {
   if (!Has(m, index)) return;
-  ForEachBrush(m, [&](brush& b) {
+  VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (b.group() == index) b.select(true);
   });
 }
 
 void CountGroupBrushes(map& m) {
   std::vector<int> counts(size_t(m.groups.count()));
-  ForEachBrush(m, [&](const brush& b) {
+  VisitBrushes(m, BrushFilter::Every, [&](const brush& b) {
     if (Has(m, b.group())) ++counts[size_t(b.group())];
   });
   for (int i = 0; i < m.groups.count(); ++i) m.groups.setBrushCount(i, counts[size_t(i)]);
@@ -56,7 +51,7 @@ void CountGroupBrushes(map& m) {
 
 void map::assignGroupOfSelected(int index) {
   if (!Has(*this, index)) return;
-  ForEachBrush(*this, [&](brush& b) {
+  VisitBrushes(*this, BrushFilter::Every, [&](brush& b) {
     if (b.selected()) b.setGroup(index);
   });
 }

@@ -14,12 +14,6 @@ void AddSeed(map& m, const vec3& at) {
   m.world()->addobject(std::move(seed));
 }
 
-void TakeSelection(map& m, entity& into) {
-  m.perform.target = &into;
-  m.MSPerform(Method::MoveToTarget);
-  m.perform.target = nullptr;
-}
-
 }  // namespace
 
 MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> seedAt) {
@@ -38,7 +32,7 @@ MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> se
     m.MSPerform(Method::Delete);
     made->at(0)->select(true);
   } else {
-    TakeSelection(m, *made);
+    m.MSPerform(BrushMethod::moveTo(*made));
     // In group mode all of the selection may be out of reach.
     if (made->numbrushes() == 0) return {EntityMaking::NeedsSeed, nullptr};
   }

@@ -21,16 +21,14 @@ struct Candidate {
 };
 
 // An invalid brush may have no polygon left, and then every ray would seem to start inside it.
-bool CanBeHit(const map& m, const brush& b) {
-  return !b.invalid && m.passesGroupFilter(b) && !m.isFiltered(b);
-}
+bool CanBeHit(const map& m, const brush& b) { return !b.invalid && IsShown(m, b); }
 
 Candidate Nearest(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
   Candidate best;
   for (int i = m.numentities() - 1; i >= 0; --i) {
     if (i == 0 && entitiesFirst && best.hit) break;
     for (brush& b : m.at(i)->brushes()) {
-      if (b.hidden || !CanBeHit(m, b)) continue;
+      if (!CanBeHit(m, b)) continue;
       const brush::Hit at = b.hitByRay(start, end);
       if (at.t >= 0) m.hits.add(b);
       best.offer(b, at);
@@ -44,10 +42,10 @@ Candidate Nearest(map& m, const vec3& start, const vec3& end, bool entitiesFirst
 void SelectByBox(map& m, bool inside) {
   if (m.totalSelected() != 1) return;
   brush* box = m.firstSelected();
-  m.perform.boxMins = box->mins;
-  m.perform.boxMaxs = box->maxs;
+  const vec3 mins = box->mins;
+  const vec3 maxs = box->maxs;
   DestroyBrush(*box);
-  m.MUSPerform(inside ? Method::SelectInside : Method::SelectTouching);
+  m.MUSPerform(inside ? BrushMethod::selectInside(mins, maxs) : BrushMethod::selectTouching(mins, maxs));
 }
 
 bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texturedef& texture,

@@ -25,11 +25,9 @@ Colour classColour(const brush& b) {
 
 vec3 middle(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
 
-bool shown(const map& m, const brush& b) { return !b.hidden && m.passesGroupFilter(b); }
-
 const brush* firstShownBrush(const map& m, const entity& e) {
   const brush* first = e.isWorld() ? nullptr : e.at(0);
-  return first && shown(m, *first) ? first : nullptr;
+  return first && IsShown(m, *first) ? first : nullptr;
 }
 
 class BrushPainter {
@@ -51,7 +49,7 @@ class BrushPainter {
 
  private:
   void drawBrush(const entity& owner, const brush& b) {
-    if (!shown(map_, b)) return;
+    if (!IsShown(map_, b)) return;
     const brush* drawn = &b;
     if (b.selected() && p_.scene.preview) {
       if (const brush* preview = p_.scene.preview(b)) drawn = preview;

@@ -132,7 +132,7 @@ Lines windowLines(Editor& editor) {
 
 Lines undoLines(Editor& editor) {
   openMap(editor);
-  const UndoHistory& history = editor.documents().current()->history;
+  const History& history = editor.documents().current()->history;
   Lines lines;
   for (const std::string& name : history.undoNames()) lines.push_back("undo " + ScriptQuoted(name));
   for (const std::string& name : history.redoNames()) lines.push_back("redo " + ScriptQuoted(name));

@@ -129,6 +129,7 @@ constexpr SettingKey kKeys[] = {
     {"window_quality", Form::Flag, &S::window_quality},
     {"undo_levels", Form::Number, &S::undo_levels, {1, 1000}, SavedBy::Preferences, 38},
     {"ask_when_changed", Form::Flag, &S::ask_when_changed},
+    {"undo_megabytes", Form::Number, &S::undo_megabytes, {0, 65536}},
 
     {"fgcolor", Form::Rgb, &ViewColours::fgcolor, kNone, SavedBy::Colours, 1, Section::VelkColors},
     {"bgcolor", Form::Rgb, &ViewColours::bgcolor, kNone, SavedBy::Colours, 2, Section::VelkColors},

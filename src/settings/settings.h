@@ -39,6 +39,8 @@ struct ViewFilter {
   bool omitWorld = false;
   bool omitWater = false;
   bool omitClip = false;
+
+  bool omitsAny() const { return omitLights || omitEntities || omitWorld || omitWater || omitClip; }
 };
 
 // Values of section [Velk] carry the name of their key.
@@ -159,6 +161,7 @@ struct Settings {
   bool window_quality = false;  // the camera view renders at its window's own pixel size
   int undo_levels = 1;
   bool ask_when_changed = false;  // questions before closing go by what a map holds, not by its modified flag
+  int undo_megabytes = 0;         // that undo may keep; 0 for any number
 
   ViewColours colours;
 

@@ -28,7 +28,8 @@ TEST_F(WireTest, DrawsEveryFaceFromBothSidesAndShowsTheSelection) {
   settings.colours.bgcolor = {1, 2, 3};
   settings.colours.color_selection = {4, 5, 6};
   box({100, -20, -10}, {200, 20, 30}).select(true);
-  box({100, 30, -10}, {200, 40, 30}).hidden = true;
+  box({100, 30, -10}, {200, 40, 30}, "clip");
+  settings.filter.omitClip = true;
   const auto faces = draw();
   ASSERT_EQ(faces.size(), 6u);
   EXPECT_EQ(faces[0], "polygon #040506 1 30 10 70 50");  // front

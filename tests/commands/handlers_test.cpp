@@ -12,7 +12,7 @@ using test::Session;
 
 TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
   Session session;
-  FindCommand("CM_OMIT_LIGHTS")->run(session.editor);
+  FindCommand("CM_OMIT_LIGHTS")->run.plain(session.editor);
   EXPECT_TRUE(session.editor.settings().filter.omitLights);
   EXPECT_EQ(session.editor.documents().status(), "Welcome to Velk...");
   session.run("CM_FILENEW");
@@ -21,8 +21,9 @@ TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
   session.open("b.map");
   session.run("CM_OMIT_LIGHTS");
   for (int i = 1; i < 3; ++i) {
-    EXPECT_TRUE(session.editor.documents().at(i)->model.at(1)->at(0)->hidden) << i;
-    EXPECT_FALSE(session.editor.documents().at(i)->model.world()->at(0)->hidden) << i;
+    const map& m = session.editor.documents().at(i)->model;
+    EXPECT_FALSE(IsShown(m, *m.at(1)->at(0))) << i;
+    EXPECT_TRUE(IsShown(m, *m.world()->at(0))) << i;
   }
 }
 
@@ -104,22 +105,6 @@ TEST(Handlers, WindowQualityHasTheDevicesPixels) {
   EXPECT_EQ(editor.views().renderSize(), (RenderSize{452, 300}));
   session.run("192");
   EXPECT_EQ(editor.views().renderSize(), (RenderSize{80, 60}));
-}
-
-TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
-  struct Windowed : test::RecordingObserver {
-    bool showReplaceTexture() override { return shown = true; }
-    bool shown = false;
-  } observer;
-  test::TempFolder home;
-  test::FurnishHome(home);
-  ScriptPrompts prompts;
-  Editor editor({home.path(), home.path()}, prompts, observer);
-  editor.start();
-  editor.newMap();
-  RunCommand(editor, *FindCommand("CM_REPLACE"));
-  EXPECT_TRUE(observer.shown);
-  EXPECT_TRUE(prompts.log().empty());
 }
 
 TEST(Handlers, RedrawsOnlyWhatChanged) {

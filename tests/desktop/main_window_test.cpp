@@ -23,7 +23,7 @@ TEST(MainWindow, TakesItsOwnKeysAndLeavesThoseOfOtherWindowsAlone) {
   const auto selectedBy = [&window](QWidget& widget) {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_QuoteLeft, Qt::NoModifier, "`");
     QApplication::sendEvent(&widget, &press);
-    return window.editor().currentMap()->selectedCount();
+    return window.editor().documents().currentMap()->selectedCount();
   };
   EXPECT_EQ(selectedBy(other), 0);
   EXPECT_EQ(selectedBy(window), 2);

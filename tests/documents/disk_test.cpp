@@ -76,7 +76,7 @@ TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   EXPECT_EQ(session.current().world()->at(0)->mins.x, 1024);
   EXPECT_EQ(session.current().activeCamera().origin.z, 3);
   EXPECT_FALSE(session.editor.documents().current()->isUnsaved());
-  session.editor.undo();
+  session.run("CM_UNDO");
   EXPECT_EQ(session.current().brushCount(), 3);
   EXPECT_TRUE(session.current().modified);
 }

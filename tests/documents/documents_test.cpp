@@ -95,7 +95,7 @@ TEST(Documents, FavouritesAreTheNamedTexturesThatAreThere) {
 
 TEST(Documents, TheCurrentTextureStaysWhateverIsOpened) {
   Session session;
-  TextureBrowser& browser = session.editor.texture();
+  TextureChoice& browser = session.editor.texture();
   EXPECT_EQ(browser.current().name, "FLOOR1");
   browser.setCurrent({.name = "WALL1"});
   session.run("CM_FILENEW");
@@ -111,7 +111,7 @@ TEST(Documents, ReloadingClassesReadsTheirOrderAgain) {
   session.open();
   EXPECT_EQ(session.editor.classes().classAt(0).name, "func_wall");
   session.home.write("velk.ini", "[Velk]\nsort_entities=0\n");
-  session.editor.reloadClasses();
+  session.run("167");
   EXPECT_EQ(session.editor.classes().classAt(0).name, "worldspawn");
   EXPECT_EQ(session.editor.documents().status(), "Entity list reloaded...");
 }
@@ -243,22 +243,6 @@ TEST(Status, EmptyTextAndDebugForm) {
   EXPECT_EQ(session.editor.documents().status(), "Text, " + numbers);
   session.editor.documents().post("");
   EXPECT_EQ(session.editor.documents().status(), numbers + " ");
-}
-
-TEST(Status, PostingCarriesOutFlaggedRedraws) {
-  Session session;
-  session.open();
-  test::RecordingObserver& seen = session.observer;
-  seen.cameraRedraws = seen.planRedraws = seen.brushRedraws = 0;
-  session.editor.flagPlanViews();
-  session.editor.documents().post("one", false);
-  EXPECT_EQ(seen.planRedraws, 0);
-  session.editor.documents().post("two");
-  EXPECT_EQ(seen.planRedraws, 1);
-  EXPECT_EQ(seen.cameraRedraws, 0);
-  EXPECT_EQ(seen.brushRedraws, 1);
-  session.editor.documents().post("three");
-  EXPECT_EQ(seen.planRedraws, 1);
 }
 
 TEST(Start, MissingBadtexIsAskedFor) {

@@ -52,7 +52,7 @@ TEST(Recent, Labels) {
 
 TEST(Recent, OpensShowsAndForgets) {
   Session session;
-  const auto recent = [&](int i) { return RunCommand(session.editor, *FindCommand(kFirstRecentMap + i)); };
+  const auto recent = [&](int i) { return RunCommand(session.editor, *FindCommand(1010 + i)); };
   EXPECT_FALSE(recent(0));
   session.editor.attend();
   const std::string a = session.open("a.map");

@@ -8,6 +8,8 @@
 namespace velk {
 namespace {
 
+using test::TestMap;
+
 typedef test::MapTest PairTest, BrushListTest, MoveToEntityTest, EntityCopyTest, TargetNameTest, ClassTest;
 
 std::string Keys(const entity& e) {
@@ -44,7 +46,7 @@ TEST_F(PairTest, NewestFirstAndAChangedPairKeepsItsPlace) {
   EXPECT_EQ(Keys(e), "origin angle classname ");
   EXPECT_EQ(e.valueOfKey("angle"), "180");
   EXPECT_EQ(e.valueOfKey("Angle"), "") << "keys differ by case";
-  EXPECT_EQ(Keys(*e.copy(m, entity::Copy::PairsOnly)), Keys(e));
+  EXPECT_EQ(Keys(*e.copy(m)), Keys(e));
 }
 
 TEST_F(PairTest, RemovingWarnsOnlyOfAKeyMissingAmongOthers) {
@@ -141,27 +143,14 @@ TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
   EXPECT_EQ(m.numentities(), 2) << "the light is gone";
 }
 
-TEST_F(EntityCopyTest, ThreeKinds) {
+TEST_F(EntityCopyTest, TakesBrushesAlongRebuilt) {
   entity& door = addEntity("func_door");
   boxIn(door, {0, 0, 0}, {8, 8, 8});
-  const struct {
-    entity::Copy kind;
-    int brushes;
-    bool built;
-    const entity* source;
-  } cases[] = {{entity::Copy::Rebuilt, 1, true, nullptr},
-               {entity::Copy::ForUndo, 1, false, &door},
-               {entity::Copy::PairsOnly, 0, false, &door}};
-  for (const auto& c : cases) {
-    const std::unique_ptr<entity> copy = door.copy(m, c.kind);
-    EXPECT_TRUE(copy->isModel);
-    EXPECT_EQ(copy->source, c.source);
-    ASSERT_EQ(copy->numbrushes(), c.brushes);
-    if (c.brushes == 0) continue;
-    EXPECT_EQ(copy->at(0)->owner, copy.get());
-    EXPECT_EQ(copy->at(0)->source, door.at(0));
-    EXPECT_EQ(copy->at(0)->faces()[0].polygon != nullptr, c.built);
-  }
+  const std::unique_ptr<entity> copy = door.copy(m);
+  EXPECT_TRUE(copy->isModel);
+  ASSERT_EQ(copy->numbrushes(), 1);
+  EXPECT_EQ(copy->at(0)->owner, copy.get());
+  EXPECT_NE(copy->at(0)->faces()[0].polygon, nullptr);
 }
 
 TEST_F(TargetNameTest, CountsOnFromTheLargest) {
@@ -193,8 +182,32 @@ TEST_F(ClassTest, AFixedSizeClassTakesThePlaceOfTheCurrentBrush) {
   EXPECT_TRUE(VecEqual(box.color(), {1, 0, 0}));
 
   placed.at(0)->translate({8, 0, 0});
-  placed.updateOriginFromBox();
   EXPECT_EQ(placed.valueOfKey("origin"), "24 15 24");
+}
+
+TEST(OriginTest, IsWhereTheBoxStandsWhateverThePairSays) {
+  const struct {
+    const char* size;  // of the class
+    vec3 origin;
+    vec3 moved;
+    const char* expected;
+  } cases[] = {
+      {"(-8 -8 -8) (8 8 8)", {1, -2, 3}, {}, "1 -2 3"},
+      {"(-8 -8 -8) (8 8 8)", {0.6f, -0.6f, 0}, {}, "0 0 0"},
+      {"(-8 -8 -8) (8 8 8)", {0, 0, 0}, {10.985f, 0, -16}, "10 0 -16"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {-116, -2047, 3}, {}, "-116 -2047 3"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {-116, 3, 4001}, {16, -1, -9}, "-100 2 3992"},
+      {"(-8.3 -8.7 -8.004) (8 8 8)", {20000, 0, 0}, {}, "stored"},
+  };
+  for (const auto& c : cases) {
+    TestMap t;
+    t.classes.scanText(std::string("/*QUAKED thing (0 0 0) ") + c.size + "\n*/\n");
+    entity& e = t.addPoint("thing", c.origin);
+    e.setKey("origin", "stored");
+    e.at(0)->translate(c.moved);
+    EXPECT_EQ(e.valueOfKey("origin"), c.expected);
+    EXPECT_EQ((*e.pairs().begin()).value, "stored") << "asking changes nothing";
+  }
 }
 
 TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
@@ -205,7 +218,6 @@ TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
   e.makeClassBox({100, 0, 0});
   EXPECT_FALSE(e.isModel);
   EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
-  e.updateOriginFromBox();
   EXPECT_EQ(e.valueOfKey("origin"), "92 -8 -8") << "no class mins to take off";
 }
 

@@ -138,7 +138,8 @@ class RandomBrushes {
     b.setBox(mins, add(mins, scale({whole(1, longest), whole(1, longest), whole(1, longest)}, grain)), {});
     std::shuffle(b.editFaces().begin(), b.editFaces().end(), random_);
     if (oneIn(10)) {
-      b.editFaces().back() = Face(b.editFaces()[0].planepts[1], b.editFaces()[0].planepts[2], b.editFaces()[0].planepts[0]);
+      b.editFaces().back() =
+          Face(b.editFaces()[0].planepts[1], b.editFaces()[0].planepts[2], b.editFaces()[0].planepts[0]);
     }
     if (oneIn(4)) {  // so little that the normal's largest component may still be 1
       vec3& corner = b.editFaces()[0].planepts[0];

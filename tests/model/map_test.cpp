@@ -10,7 +10,7 @@ namespace {
 
 using test::TestMap;
 
-typedef test::MapTest EntityListTest, NoticeTest, SelectionTest, WorkRangeTest, HitListTest;
+typedef test::MapTest EntityListTest, SelectionTest, WorkRangeTest, HitListTest;
 
 TEST_F(EntityListTest, TheWorldStaysAndTheLastTakesAFreedSlot) {
   std::vector<entity*> added;
@@ -24,17 +24,6 @@ TEST_F(EntityListTest, TheWorldStaysAndTheLastTakesAFreedSlot) {
   EXPECT_EQ(m.indexOf(added[1]), 2);
   EXPECT_EQ(m.at(3), nullptr);
   EXPECT_EQ(m.indexOf(added[0]), -1);
-}
-
-TEST_F(NoticeTest, TellsOfAnotherCurrentEntity) {
-  std::vector<MapNotice> heard;
-  entity& door = addEntity("func_door");
-  m.notice = [&](MapNotice what) { heard.push_back(what); };
-  m.modified = false;
-  for (int i = 0; i < 2; ++i) m.setCurrentEntity(&door);
-  m.setWorkLow({0, 0, 0});
-  EXPECT_EQ(heard, (std::vector{MapNotice::CurrentEntity, MapNotice::WorkRange}));
-  EXPECT_TRUE(m.modified);
 }
 
 TEST_F(SelectionTest, TheCurrentBrushComesFromTheCurrentEntityFirst) {
@@ -101,8 +90,7 @@ TEST(ViewFilterTest, HidesByOwnerAndTexture) {
     EXPECT_FALSE(t.m.isFiltered(b));
     t.settings.filter.*c.option = true;
     EXPECT_EQ(t.m.isFiltered(b), c.hidden);
-    t.m.MAPerform(Method::SetHidden);
-    EXPECT_EQ(b.hidden, c.hidden);
+    EXPECT_EQ(IsShown(t.m, b), !c.hidden);
   }
 }
 

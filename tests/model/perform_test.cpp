@@ -10,15 +10,14 @@ using test::TestMap;
 
 typedef test::MapTest DispatcherTest, MethodTest;
 
-using Dispatcher = void (map::*)(Method);
+using Dispatcher = void (map::*)(const BrushMethod&);
 
 // The brushes that a dispatcher visits, by entity and brush index, as "entity.brush ".
 std::string Visited(map& m, Dispatcher dispatch) {
   std::string visited;
-  m.perform.draw = [&](brush& b) {
+  (m.*dispatch)(BrushMethod::carriedOut(Method::Draw, [&](brush& b) {
     visited += std::to_string(m.indexOf(b.owner)) + "." + std::to_string(b.owner->indexOf(&b)) + " ";
-  };
-  (m.*dispatch)(Method::Draw);
+  }));
   return visited;
 }
 
@@ -35,13 +34,17 @@ TEST_F(DispatcherTest, VisitsItsClassFromTheLastToTheFirst) {
 
   const struct {
     Dispatcher dispatch;
+    const char* name;
     const char* all;
     const char* inGroupMode;
-  } cases[] = {{&map::MUSPerform, "1.1 0.2 0.0 ", "1.1 0.2 "},
-               {&map::MSPerform, "1.0 0.1 ", "0.1 "},
-               {&map::MAPerform, "1.1 1.0 0.2 0.1 0.0 ", "1.1 0.2 0.1 "},
-               {&map::MGPerform, "1.1 1.0 0.2 0.1 0.0 ", "1.1 1.0 0.2 0.1 0.0 "}};
+  } cases[] = {{&map::MUSPerform, "MUSPerform", "1.1 0.2 0.0 ", "1.1 0.2 "},
+               {&map::MSPerform, "MSPerform", "1.0 0.1 ", "0.1 "},
+               {&map::MAPerform, "MAPerform", "1.1 1.0 0.2 0.1 0.0 ", "1.1 0.2 0.1 "},
+               {&map::MGPerform, "MGPerform", "1.1 1.0 0.2 0.1 0.0 ", "1.1 1.0 0.2 0.1 0.0 "}};
   for (const auto& c : cases) {
+    for (const int unknown : {-1, 16}) {
+      EXPECT_FATAL((m.*c.dispatch)(Method(unknown)), std::string(c.name) + " Unknown method...");
+    }
     m.modified = false;
     settings.groupmode = false;
     EXPECT_EQ(Visited(m, c.dispatch), c.all);
@@ -51,28 +54,12 @@ TEST_F(DispatcherTest, VisitsItsClassFromTheLastToTheFirst) {
   }
 }
 
-TEST_F(DispatcherTest, AFatalMethodLeavesTheMapWhole) {
-  for (int i = 0; i < 3; ++i) cube(i);
-  m.perform.cut = [](brush& b) { b.setTexturedef({}, 99); };
-  EXPECT_FATAL(m.MAPerform(Method::Cut), "setTexturedef:forFace: bad face number 99");
-  EXPECT_EQ(m.brushCount(), 3);
-}
-
-TEST_F(MethodTest, MethodsWithoutACarrierDoNothing) {
-  box({0, 0, 0}, {0, 0, 0});
-  for (const Method method : {Method::Cut, Method::FloorSearch, Method::Draw, Method::Split, Method::Pick}) {
-    m.MAPerform(method);
-  }
-  EXPECT_EQ(m.brushCount(), 1);
-}
-
 TEST(CutTest, CutAndSplitDestroyWhatIsLeftInvalid) {
   for (const Method method : {Method::Cut, Method::Split}) {
     TestMap t;
     t.boxIn(t.addEntity("func_door"), {0, 0, 0}, {8, 8, 8});
     for (int i = 0; i < 3; ++i) t.cube(i);
-    t.m.perform.cut = t.m.perform.split = [](brush& b) { b.invalid = b.mins.x < 16; };
-    t.m.MAPerform(method);
+    t.m.MAPerform(BrushMethod::carriedOut(method, [](brush& b) { b.invalid = b.mins.x < 16; }));
     EXPECT_EQ(t.summary(), "worldspawn --") << "the door went with its brush";
   }
 }
@@ -89,11 +76,9 @@ TEST_F(MethodTest, MoveToTargetReachesEverySelectedBrush) {
   entity& target = addEntity("func_wall");
   for (int i = 0; i < 3; ++i) cube(i).select(true);
   for (entity* owner : {&from, &target}) boxIn(*owner, {0, 0, 0}, {8, 8, 8}).select(true);
-  m.perform.target = &target;
-  m.MSPerform(Method::MoveToTarget);
+  m.MSPerform(BrushMethod::moveTo(target));
   EXPECT_EQ(summary(), "worldspawn  func_wall *****") << "the door is empty and gone";
-  m.perform.target = m.world();
-  m.MSPerform(Method::MoveToTarget);
+  m.MSPerform(BrushMethod::moveTo(world()));
   EXPECT_EQ(summary(), "worldspawn *****");
 }
 
@@ -109,11 +94,10 @@ TEST_F(MethodTest, SelectInsideOrTouchingABox) {
   for (const auto& c : cases) {
     TestMap t;
     brush& b = t.box(c.mins, c.maxs);
-    t.m.perform.boxMaxs = {64, 64, 64};
-    t.m.MAPerform(Method::SelectInside);
+    t.m.MAPerform(BrushMethod::selectInside({0, 0, 0}, {64, 64, 64}));
     EXPECT_EQ(b.selected(), c.inside);
     t.m.MAPerform(Method::Deselect);
-    t.m.MAPerform(Method::SelectTouching);
+    t.m.MAPerform(BrushMethod::selectTouching({0, 0, 0}, {64, 64, 64}));
     EXPECT_EQ(b.selected(), c.touching);
   }
 }
@@ -121,19 +105,16 @@ TEST_F(MethodTest, SelectInsideOrTouchingABox) {
 TEST_F(MethodTest, ShapesAndBounds) {
   cube(1);
   brush& flat = box({-500, 0, 0}, {-500, 0, 0});
-  PerformValues& v = m.perform;
-  v.offset = {0, 0, 8};
-  m.MAPerform(Method::Translate);
+  m.MAPerform(BrushMethod::translate({0, 0, 8}));
   flat.mins.x = -500;
-  v.boundsMins = {32767, 32767, 32767};
-  v.boundsMaxs = {-32767, -32767, -32767};
-  m.MAPerform(Method::WidenBounds);
-  EXPECT_TRUE(VecEqual(v.boundsMins, {32, 0, 8})) << "a brush without faces does not count";
-  EXPECT_TRUE(VecEqual(v.boundsMaxs, {48, 16, 24}));
+  vec3 mins{32767, 32767, 32767};
+  vec3 maxs{-32767, -32767, -32767};
+  m.MAPerform(BrushMethod::widenBounds(mins, maxs));
+  EXPECT_TRUE(VecEqual(mins, {32, 0, 8})) << "a brush without faces does not count";
+  EXPECT_TRUE(VecEqual(maxs, {48, 16, 24}));
 
-  v.matrix[0][0] = -1;
-  v.matrix[1][1] = v.matrix[2][2] = 1;
-  m.MAPerform(Method::Transform);
+  const float mirror[3][3] = {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+  m.MAPerform(BrushMethod::transform(mirror, {}));
   EXPECT_TRUE(world().at(0)->invalid) << "a mirrored brush is inside out";
   m.MAPerform(Method::ReverseFaces);
   EXPECT_TRUE(VecEqual(world().at(0)->mins, {-48, 0, 8}));

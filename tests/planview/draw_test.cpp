@@ -63,7 +63,7 @@ TEST_F(Drawing, BrushesShowFacesTurnedToTheViewer) {
 
 TEST_F(Drawing, PensFollowSelectionOwnerAndGroup) {
   entity& door = addEntity("func_door");
-  brush& inWorld = box({-10, -10, 0}, {10, 10, 20});
+  box({-10, -10, 0}, {10, 10, 20});
   brush& inDoor = boxIn(door, {20, 20, 0}, {30, 30, 20});
   const std::string a = " 1 90 90 110 110", b = " 1 120 70 130 80";
   m.setCurrentEntity(m.world());
@@ -78,7 +78,7 @@ TEST_F(Drawing, PensFollowSelectionOwnerAndGroup) {
   m.groups.setVisible(inDoor.group(), false);
   EXPECT_EQ(polygons(), (Strokes{"polygon #7f7f7f" + a}));
   settings.groupmode = false;
-  inWorld.hidden = true;
+  settings.filter.omitWorld = true;
   EXPECT_EQ(polygons(), (Strokes{"polygon #ffffff" + b}));
 }
 

@@ -82,8 +82,8 @@ TEST(Script, FilesThatCannotBeRead) {
 }
 
 struct RecordedPictures : ScriptPictures {
-  bool savePicture(ScriptView view, const std::string& file) override {
-    saved = std::to_string(static_cast<int>(view)) + " " + file;
+  bool savePicture(int view, const std::string& file) override {
+    saved = std::to_string(view) + " " + file;
     return file != "bad.png";
   }
   std::string saved;

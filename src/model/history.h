@@ -20,21 +20,32 @@ enum class UndoMode {
 
 // With one level, the classic record: the last copy saved, whole map, one brush or the groups, and no redo.
 // With more, whole maps that share what did not change, and redo.
-class UndoHistory {
+class History {
  public:
   static constexpr size_t kMaxName = 63;
 
+  struct Limits {
+    int levels = 1;
+    int megabytes = 0;  // that levels may keep beside the map; 0 for any number
+
+    static Limits of(const Settings& settings) { return {settings.undo_levels, settings.undo_megabytes}; }
+  };
+
   // Saves a copy before a change. With more than one level only explicit copies (All) are kept here, since
   // every change takes its own. `working` is the camera view's brush, if any.
-  void save(map& m, const std::string& name, UndoMode mode, int levels, brush* working = nullptr);
-  // Keeps what the map was before a change; what could be redone is gone. Beyond `levels` the oldest goes.
-  void changed(MapSnapshot before, const std::string& name, int levels);
+  void save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working = nullptr);
+  // Keeps what the map was before a change; what could be redone is gone. Beyond the limits the oldest go.
+  void changed(MapSnapshot before, const std::string& name, const Limits& limits);
 
-  // Gives up what is beyond that many levels; with one level there is no redo.
-  void limit(int levels);
+  // Whether a repeat of the change `name` may join the last level instead of making one: it is of that name,
+  // and nothing was undone, saved or closed since.
+  bool canExtend(const std::string& name) const { return open_ && undoName() == name.substr(0, kMaxName); }
+  // Nothing joins the last level any more.
+  void close() { open_ = false; }
 
-  // The whole map that was kept last, for the next snapshot to share what did not change; none otherwise.
-  const MapSnapshot* latest() const { return records_.empty() ? nullptr : records_.back().whole.get(); }
+  // Gives up what is beyond the limits, the oldest first, but not the newest level. With one level there is
+  // no redo.
+  void limit(const Limits& limits);
 
   bool canUndo() const { return !records_.empty(); }
   bool canRedo() const { return !redo_.empty(); }
@@ -46,9 +57,11 @@ class UndoHistory {
   // Of all that is kept, the next one first.
   std::vector<std::string> undoNames() const { return namesFromBack(records_); }
   std::vector<std::string> redoNames() const { return namesFromBack(redo_); }
+  // About what the levels keep beside what the map shares with the newest one.
+  size_t bytes() const;
 
   // Take the last change back, or do it again; false when there is none.
-  bool undo(map& m, int levels);
+  bool undo(map& m, const Limits& limits);
   bool redo(map& m);
 
  private:
@@ -62,6 +75,7 @@ class UndoHistory {
     std::unique_ptr<MapSnapshot> whole;
     std::unique_ptr<OneBrush> one;
     std::unique_ptr<GroupList> groups;
+    size_t bytes = 0;  // that it keeps and its neighbour towards the map's present state does not
   };
   template <class Records>
   static std::vector<std::string> namesFromBack(const Records& records) {
@@ -71,10 +85,13 @@ class UndoHistory {
   }
   static std::unique_ptr<OneBrush> keepOne(brush& b);
   static void restoreOne(map& m, const OneBrush& kept);
-  void push(Record record, int levels);
+  // The whole map as it is, which `record` is about to replace.
+  static Record present(const map& m, const Record& record);
+  void push(Record record, const Limits& limits);
 
   std::deque<Record> records_;
   std::vector<Record> redo_;
+  bool open_ = false;
 };
 
 }  // namespace velk

@@ -1,4 +1,4 @@
-#include "model/undo.h"
+#include "model/history.h"
 
 #include <algorithm>
 
@@ -33,7 +33,7 @@ brush* brushFor(map& m, UndoMode mode, brush* working) {
 
 }  // namespace
 
-std::unique_ptr<UndoHistory::OneBrush> UndoHistory::keepOne(brush& b) {
+std::unique_ptr<History::OneBrush> History::keepOne(brush& b) {
   auto kept = std::make_unique<OneBrush>();
   kept->owner = KeepBrush(*b.owner, b);
   kept->liveOwner = b.owner->identity();
@@ -41,7 +41,7 @@ std::unique_ptr<UndoHistory::OneBrush> UndoHistory::keepOne(brush& b) {
   return kept;
 }
 
-void UndoHistory::restoreOne(map& m, const OneBrush& kept) {
+void History::restoreOne(map& m, const OneBrush& kept) {
   entity* owner = findEntity(m, kept.liveOwner);
   if (!owner) {
     m.addobject(RestoreEntity(m, kept.owner));
@@ -56,57 +56,84 @@ void UndoHistory::restoreOne(map& m, const OneBrush& kept) {
   }
 }
 
-void UndoHistory::push(Record record, int levels) {
+void History::push(Record record, const Limits& limits) {
   record.name = record.name.substr(0, kMaxName);
   redo_.clear();
+  // What the newest level has of its own is known once the next one comes; till then it cannot go anyway.
+  if (limits.megabytes > 0 && !records_.empty() && records_.back().whole && record.whole) {
+    records_.back().bytes = BytesOfItsOwn(*records_.back().whole, *record.whole);
+  }
   records_.push_back(std::move(record));
-  limit(levels);
+  limit(limits);
 }
 
-void UndoHistory::limit(int levels) {
-  if (levels <= 1) redo_.clear();
-  while (static_cast<int>(records_.size()) > std::max(levels, 1)) records_.pop_front();
+size_t History::bytes() const {
+  size_t sum = 0;
+  for (const Record& record : records_) sum += record.bytes;
+  for (const Record& record : redo_) sum += record.bytes;
+  return sum;
 }
 
-void UndoHistory::save(map& m, const std::string& name, UndoMode mode, int levels, brush* working) {
-  if (levels > 1 && mode != UndoMode::All) return;
-  Record record{name, nullptr, nullptr, nullptr};
+void History::limit(const Limits& limits) {
+  if (limits.levels <= 1) redo_.clear();
+  while (undoCount() > std::max(limits.levels, 1)) records_.pop_front();
+  if (limits.megabytes <= 0) return;
+  const size_t most = size_t(limits.megabytes) << 20;
+  size_t kept = bytes();
+  while (kept > most && records_.size() > 1) {
+    kept -= records_.front().bytes;
+    records_.pop_front();
+  }
+}
+
+void History::save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working) {
+  if (limits.levels > 1 && mode != UndoMode::All) return;
+  Record record{.name = name, .whole = nullptr, .one = nullptr, .groups = nullptr};
   if (mode == UndoMode::Groups) {
     record.groups = std::make_unique<GroupList>(m.groups);
   } else if (brush* one = brushFor(m, mode, working)) {
     record.one = keepOne(*one);
   } else {
-    record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m, latest()));
+    record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m));
   }
-  push(std::move(record), levels);
+  push(std::move(record), limits);
+  close();
 }
 
-void UndoHistory::changed(MapSnapshot before, const std::string& name, int levels) {
-  push({name, std::make_unique<MapSnapshot>(std::move(before)), nullptr, nullptr}, levels);
+void History::changed(MapSnapshot before, const std::string& name, const Limits& limits) {
+  push({.name = name,
+        .whole = std::make_unique<MapSnapshot>(std::move(before)),
+        .one = nullptr,
+        .groups = nullptr},
+       limits);
+  open_ = true;
 }
 
-bool UndoHistory::undo(map& m, int levels) {
+History::Record History::present(const map& m, const Record& record) {
+  auto now = std::make_unique<MapSnapshot>(TakeSnapshot(m));
+  const size_t bytes = record.whole ? BytesOfItsOwn(*now, *record.whole) : 0;
+  return {.name = record.name, .whole = std::move(now), .one = nullptr, .groups = nullptr, .bytes = bytes};
+}
+
+bool History::undo(map& m, const Limits& limits) {
   if (records_.empty()) return false;
+  close();
   Record record = std::move(records_.back());
   records_.pop_back();
-  if (levels > 1) {
-    auto now = std::make_unique<MapSnapshot>(TakeSnapshot(m, record.whole.get()));
-    redo_.push_back({record.name, std::move(now), nullptr, nullptr});
-  }
-  if (record.whole) RestoreSnapshot(m, *record.whole, levels <= 1);
+  if (limits.levels > 1) redo_.push_back(present(m, record));
+  if (record.whole) RestoreSnapshot(m, *record.whole, limits.levels <= 1);
   if (record.one) restoreOne(m, *record.one);
   if (record.groups) m.groups = *record.groups;
   if (!record.whole) m.modified = true;
-  m.notify(MapNotice::Groups);
   return true;
 }
 
-bool UndoHistory::redo(map& m) {
+bool History::redo(map& m) {
   if (redo_.empty()) return false;
+  close();
   Record record = std::move(redo_.back());
   redo_.pop_back();
-  auto now = std::make_unique<MapSnapshot>(TakeSnapshot(m, record.whole.get()));
-  records_.push_back({record.name, std::move(now), nullptr, nullptr});
+  records_.push_back(present(m, record));
   RestoreSnapshot(m, *record.whole, false);
   return true;
 }
