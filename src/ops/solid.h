@@ -14,4 +14,14 @@ int PolygonCount(const brush& b);
 // Of a solid brush, in cubic units.
 double Volume(const brush& b);
 
+// The volume over the area of the largest polygon: how thick a sliver is.
+double Thickness(const brush& b);
+
+// Takes out the faces without polygon.
+void DropEmptyFaces(brush& b);
+
+// Adds the faces of `from` that have polygons and lie in no plane that is there already; `to` must be
+// rebuilt.
+void AddFaces(brush& to, const brush& from);
+
 }  // namespace velk
