@@ -9,16 +9,9 @@ struct LeakSearchTest : test::MapTest {
   // A box from x 64 on whose side towards -x leans by so many units over 640.
   brush& leaning(float by, float gap = 0) {
     brush& b = box({64 + gap, 0, 0}, {128, 640, 640});
-    for (face& f : b.editFaces()) {
-      if (f.facePlane.normal.x > -0.5) continue;
-      f.planepts[0] = {64 + gap, 0, 0};
-      f.planepts[1] = {64 + gap, 640, 0};
-      f.planepts[2] = {64 + gap + by, 640, 640};
-      if (PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], f.facePlane);
-          f.facePlane.normal.x > 0) {
-        std::swap(f.planepts[0], f.planepts[2]);
-      }
-    }
+    vec3* points = b.editFaces()[0].planepts;
+    points[0] = {64 + gap + by, 640, 640};
+    points[1] = {64 + gap + by, 0, 640};
     b.buildWindings();
     return b;
   }

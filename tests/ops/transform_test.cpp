@@ -18,11 +18,7 @@ struct TransformTest : test::MapTest {
 };
 
 void ExpectBox(const brush& b, const vec3& mins, const vec3& maxs) {
-  EXPECT_FALSE(b.invalid);
-  for (int axis = 0; axis < 3; ++axis) {
-    EXPECT_EQ(b.mins[axis], mins[axis]) << "lowest on axis " << axis;
-    EXPECT_EQ(b.maxs[axis], maxs[axis]) << "highest on axis " << axis;
-  }
+  EXPECT_TRUE(!b.invalid && VecEqual(b.mins, mins) && VecEqual(b.maxs, maxs)) << test::Bounds(b);
 }
 
 TEST_F(TransformTest, MirrorsAndQuarterTurnsAboutTheGrid) {
@@ -80,19 +76,6 @@ TEST_F(TransformTest, ScalesAboutThePivot) {
   EXPECT_EQ(ScaleSelection(m, 2, 2, 2, false).status, "Must have at least one selected brush...");
 }
 
-TEST_F(TransformTest, CopiesAndMovesByTheOffset) {
-  settings.cloneDeltaX = 100;
-  brush& b = selectedBox({0, 0, 0}, {16, 16, 16});
-  EXPECT_EQ(CopyMoveSelection(m, {16, 16, 0}, false).status, "Copied and moved selected brushes...");
-  EXPECT_EQ(summary(), "worldspawn -*");
-  ExpectBox(b, {0, 0, 0}, {16, 16, 16});
-  ExpectBox(*world().at(1), {16, 16, 0}, {32, 32, 16});
-  EXPECT_EQ(CopyMoveSelection(m, {0, 0, 8}, true).status, "Moved selected brushes...");
-  ExpectBox(*world().at(1), {16, 16, 8}, {32, 32, 24});
-  EXPECT_EQ(DeleteSelection(m).status, "Deleting...");
-  EXPECT_EQ(summary(), "worldspawn -");
-}
-
 TEST_F(TransformTest, SnapsFacesToTheGrid) {
   const struct {
     float low, high, letterLow, letterHigh, carefulLow, carefulHigh;
@@ -115,7 +98,7 @@ TEST_F(TransformTest, SnapsFacesToTheGrid) {
   ExpectBox(light, {-5, -5, -5}, {11, 11, 11});
 }
 
-TEST_F(TransformTest, ReshapesTheOneSelectedBrush) {
+TEST_F(TransformTest, ReshapesTheOneSelectedBrushAndCopiesIt) {
   entity& door = addEntity("func_door");
   brush& b = boxIn(door, {0, 0, 32}, {16, 16, 64}, "rock");
   EXPECT_EQ(MakeTall(m, false).status, "Must only have one selected brush...");
@@ -133,10 +116,10 @@ TEST_F(TransformTest, ReshapesTheOneSelectedBrush) {
   EXPECT_EQ(world().at(0)->group(), 3);
   EXPECT_EQ(world().at(0)->brushTexture().name, "rock");
 
-  DeleteSelection(m);
-  addPoint("light", {0, 0, 0}).at(0)->select();
-  EXPECT_EQ(MakeTall(m, true).status, kPointBoxStays);
-  EXPECT_EQ(summary(), "worldspawn  light *");
+  settings.cloneDeltaX = 100;
+  EXPECT_EQ(CopyMoveSelection(m, {16, 16, 0}, false).status, "Copied and moved selected brushes...");
+  EXPECT_EQ(summary(), "worldspawn -*");
+  ExpectBox(*world().at(1), {16, 16, 0}, {32, 32, 16});
 }
 
 TEST_F(TransformTest, ExtrudesAShell) {
@@ -146,8 +129,8 @@ TEST_F(TransformTest, ExtrudesAShell) {
   EXPECT_EQ(summary(), "worldspawn ******");
   ExpectBox(*world().at(0), {-8, 0, 0}, {0, 64, 64});
   ExpectBox(*world().at(4), {0, 0, 64}, {64, 64, 72});
+  DeleteSelection(m);
   while (world().numbrushes() < MAX_ENTITY_BRUSHES) cube(50);
-  for (brush& b : world().brushes()) b.select(false);
   world().at(9)->select();
   EXPECT_FATAL(ExtrudeSelection(m, 8, false), "entity->addobject, too many objects");
   EXPECT_TRUE(world().at(9)->selected()) << "nothing is half done";

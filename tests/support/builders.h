@@ -92,4 +92,13 @@ inline face Face(const vec3& p0, const vec3& p1, const vec3& p2, std::string_vie
   return f;
 }
 
+// A brush's bounds, truncated: "0..64 0..64 -8..8".
+inline std::string Bounds(const brush& b) {
+  std::string text;
+  for (int axis = 0; axis < 3; ++axis) {
+    text += (axis ? " " : "") + std::to_string(int(b.mins[axis])) + ".." + std::to_string(int(b.maxs[axis]));
+  }
+  return text;
+}
+
 }  // namespace velk::test
