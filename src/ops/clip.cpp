@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "ops/split_by_face.h"
+#include "ops/solids/split_by_face.h"
 #include "ops/visit_until.h"
 
 namespace velk {
@@ -183,11 +183,11 @@ std::unique_ptr<brush> splitBrush(brush& b, const face& clipFace) {
   return front->invalid ? nullptr : std::move(front);
 }
 
-Outcome Carve(map& m, int depthAxis, bool careful) {
+Outcome CarveSelection(map& m, int depthAxis, bool careful) {
   return CutSelection(m, depthAxis, careful, kClipCarved, CarveBrush);
 }
 
-Outcome Split(map& m, int depthAxis, bool careful) {
+Outcome SplitSelection(map& m, int depthAxis, bool careful) {
   return CutSelection(m, depthAxis, careful, kClipSplit, SplitOne);
 }
 

@@ -81,7 +81,7 @@ std::unique_ptr<brush> splitBrush(brush& b, const face& clipFace);
 // Cut the selected brushes of visible groups by the clip plane and take the clip points away. Carve keeps
 // what is behind the plane, Split both parts. Brushes of which nothing is left are destroyed. Careful: says
 // so and keeps the points when there is no plane, and leaves the boxes of point entities alone.
-Outcome Carve(map& m, int depthAxis, bool careful);
-Outcome Split(map& m, int depthAxis, bool careful);
+Outcome CarveSelection(map& m, int depthAxis, bool careful);
+Outcome SplitSelection(map& m, int depthAxis, bool careful);
 
 }  // namespace velk

@@ -9,7 +9,7 @@ namespace velk {
 class ClipPreview {
  public:
   // Takes the map's clip plane as it is now; to be called before a picture is drawn. `depthAxis` is as for
-  // makeClipFace, `careful` as for Carve.
+  // makeClipFace, `careful` as for CarveSelection.
   void begin(const map& m, int depthAxis, bool careful);
   bool active() const { return map_ != nullptr; }
 

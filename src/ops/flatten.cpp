@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "ops/solid.h"
+#include "ops/solids/solid.h"
 #include "ops/transform.h"
 #include "ops/visit_until.h"
 

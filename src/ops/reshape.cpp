@@ -6,7 +6,7 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "ops/solid.h"
+#include "ops/solids/solid.h"
 
 namespace velk {
 namespace {

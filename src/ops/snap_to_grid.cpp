@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "ops/solid.h"
+#include "ops/solids/solid.h"
 #include "ops/visit_until.h"
 
 namespace velk {

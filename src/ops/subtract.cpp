@@ -6,7 +6,7 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "ops/split_by_face.h"
+#include "ops/solids/split_by_face.h"
 
 namespace velk {
 namespace {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "ops/solids/split_by_face.h"
 #include "ops/visit_until.h"
 
 namespace velk {
@@ -53,6 +54,14 @@ Place Moved(const vec3& p, const Transform& t) {
   return place;
 }
 
+void TransformOrMove(brush& b, const Transform& transform) {
+  if (b.owner->isModel) {
+    TransformBrush(b, transform);
+  } else {
+    MoveBox(b, transform);
+  }
+}
+
 // The exact transforms, of which careful tools spare the boxes of point entities.
 Outcome Apply(map& m, const Matrix& matrix, bool reverse, bool careful, const char* status) {
   const entity* current = m.currentEntity();
@@ -60,8 +69,8 @@ Outcome Apply(map& m, const Matrix& matrix, bool reverse, bool careful, const ch
     const Transform transform{matrix, SelectionPivot(m), false, reverse};
     m.modified = true;
     VisitBrushes(m, BrushFilter::Selected, [&](brush& b) {
-      if (careful && !b.owner->isModel) {
-        MoveBox(b, transform);
+      if (careful) {
+        TransformOrMove(b, transform);
       } else {
         TransformBrush(b, transform);
       }
@@ -159,13 +168,19 @@ void ApplyToSelection(map& m, const Transform& transform) {
   m.modified = true;
   VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (!b.selected()) return;
-    if (b.owner->isModel) {
-      TransformBrush(b, transform);
-    } else {
-      MoveBox(b, transform);
-    }
+    TransformOrMove(b, transform);
     if (b.invalid) DestroyBrush(b);
   });
+}
+
+std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform) {
+  std::vector<std::unique_ptr<brush>> copies;
+  VisitBrushes(m, BrushFilter::Every, [&](const brush& b) {
+    if (!b.selected()) return;
+    copies.push_back(FreshCopy(b));
+    TransformOrMove(*copies.back(), transform);
+  });
+  return copies;
 }
 
 Outcome RotateSelection(map& m, int roll, int pitch, int yaw, bool careful) {

@@ -1,6 +1,9 @@
 // Turning, mirroring and scaling the selection: plane points move, texture definitions stay.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "base/outcome.h"
 #include "model/map.h"
 
@@ -58,6 +61,9 @@ Outcome QuarterTurnSelection(map& m, int axis, bool careful);
 // Applies a whole-numbered transform to every selected brush, those of hidden groups too. Boxes of point
 // entities are moved; brushes that come out invalid are destroyed.
 void ApplyToSelection(map& m, const Transform& transform);
+// Copies of the selected brushes as that would leave them, for ghosts in the views; they are in no list.
+std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform);
+
 // Angles in degrees. Without a selection says so.
 Outcome RotateSelection(map& m, int roll, int pitch, int yaw, bool careful);
 Outcome ScaleSelection(map& m, double x, double y, double z, bool careful);

@@ -38,7 +38,7 @@ TEST_F(ClipTest, CarveKeepsTheRightOfTheWayInEveryView) {
       selectedCube();
       clickUpwards(orientation);
       if (flipped) FlipClipper(m.clip);
-      EXPECT_EQ(Carve(m, AxesOf(orientation).depth, false).status, "Carved...");
+      EXPECT_EQ(CarveSelection(m, AxesOf(orientation).depth, false).status, "Carved...");
       EXPECT_EQ(boxes(), kept[orientation][flipped]) << orientation;
       EXPECT_EQ(m.clip.count, 0);
     }
@@ -86,7 +86,7 @@ TEST_F(ClipTest, SplitKeepsBothPartsOrTheOneThereIs) {
   selectedCube();
   addPoint("light", {0, 0, 0}).at(0)->select();
   clickUpwards(0);
-  EXPECT_EQ(Split(m, 2, true).status, "Split...");
+  EXPECT_EQ(SplitSelection(m, 2, true).status, "Split...");
   EXPECT_EQ(boxes(), "*0..32 -32..32 -32..32\n*-32..0 -32..32 -32..32\n");
   EXPECT_EQ(summary(), "worldspawn ** light *") << "careful tools leave boxes of point entities whole";
 
@@ -95,10 +95,10 @@ TEST_F(ClipTest, SplitKeepsBothPartsOrTheOneThereIs) {
   entity& door = addEntity("func_door");
   boxIn(door, {-64, 0, 0}, {-32, 32, 32}).select();
   clickUpwards(0);
-  Split(m, 2, false);
+  SplitSelection(m, 2, false);
   EXPECT_EQ(summary(), "worldspawn  func_door *");
   clickUpwards(0);
-  Carve(m, 2, false);
+  CarveSelection(m, 2, false);
   EXPECT_EQ(summary(), "worldspawn ") << "nothing of it lies behind";
 }
 
@@ -108,7 +108,7 @@ TEST_F(ClipTest, WithoutAPlane) {
     for (int i = 0; i < 3; ++i) m.clip.points[i] = {8.0f * i, 0, 0};
     m.clip.count = 3;
     EXPECT_FALSE(makeClipFace(m.clip, 2));
-    EXPECT_EQ(Carve(m, 2, careful).status, careful ? "No clip plane..." : "Carved...");
+    EXPECT_EQ(CarveSelection(m, 2, careful).status, careful ? "No clip plane..." : "Carved...");
     EXPECT_EQ(m.clip.count, careful ? 3 : 0);
     EXPECT_EQ(boxes(), "*-32..32 -32..32 -32..32\n");
   }

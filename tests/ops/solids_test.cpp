@@ -1,10 +1,10 @@
 // Hollow, merge, intersect, align and flatten.
 #include "ops/align.h"
 #include "ops/flatten.h"
-#include "ops/hollow.h"
-#include "ops/intersect.h"
-#include "ops/merge.h"
-#include "ops/solid.h"
+#include "ops/solids/hollow.h"
+#include "ops/solids/intersect.h"
+#include "ops/solids/merge.h"
+#include "ops/solids/solid.h"
 #include "support/builders.h"
 
 namespace velk {

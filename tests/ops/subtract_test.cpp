@@ -1,6 +1,6 @@
 #include "ops/subtract.h"
 
-#include "ops/solid.h"
+#include "ops/solids/solid.h"
 #include "support/builders.h"
 #include "support/fatal.h"
 

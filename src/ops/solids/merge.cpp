@@ -1,4 +1,4 @@
-#include "ops/merge.h"
+#include "ops/solids/merge.h"
 
 #include <algorithm>
 #include <memory>
@@ -7,9 +7,9 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "ops/replace_brushes.h"
-#include "ops/solid.h"
-#include "ops/split_by_face.h"
+#include "ops/solids/replace_brushes.h"
+#include "ops/solids/solid.h"
+#include "ops/solids/split_by_face.h"
 #include "ops/transform.h"
 
 namespace velk {

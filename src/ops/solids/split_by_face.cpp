@@ -1,4 +1,4 @@
-#include "ops/split_by_face.h"
+#include "ops/solids/split_by_face.h"
 
 #include <utility>
 

@@ -1,14 +1,14 @@
-#include "ops/hollow.h"
+#include "ops/solids/hollow.h"
 
 #include <memory>
 #include <utility>
 #include <vector>
 
 #include "base/text.h"
-#include "ops/replace_brushes.h"
 #include "ops/reshape.h"
-#include "ops/solid.h"
-#include "ops/split_by_face.h"
+#include "ops/solids/replace_brushes.h"
+#include "ops/solids/solid.h"
+#include "ops/solids/split_by_face.h"
 #include "ops/transform.h"
 #include "ops/visit_until.h"
 

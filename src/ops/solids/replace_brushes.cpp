@@ -1,4 +1,4 @@
-#include "ops/replace_brushes.h"
+#include "ops/solids/replace_brushes.h"
 
 #include <unordered_map>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "ops/solid.h"
+#include "ops/solids/solid.h"
 
 #include <algorithm>
 #include <cmath>

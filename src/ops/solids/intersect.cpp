@@ -1,13 +1,13 @@
-#include "ops/intersect.h"
+#include "ops/solids/intersect.h"
 
 #include <memory>
 #include <utility>
 #include <vector>
 
 #include "base/text.h"
-#include "ops/replace_brushes.h"
-#include "ops/solid.h"
-#include "ops/split_by_face.h"
+#include "ops/solids/replace_brushes.h"
+#include "ops/solids/solid.h"
+#include "ops/solids/split_by_face.h"
 
 namespace velk {
 namespace {
