@@ -15,11 +15,7 @@ struct ClipTest : test::MapTest {
     addClipPoint(m, AxesOf(orientation), 0, 0, centre);
     addClipPoint(m, AxesOf(orientation), 0, 64, centre);
   }
-  brush& selectedCube() {
-    brush& b = box({-32, -32, -32}, {32, 32, 32});
-    b.select();
-    return b;
-  }
+  brush& selectedCube() { return selectedBox({-32, -32, -32}, {32, 32, 32}); }
   std::string boxes() {
     std::string text;
     for (const brush& b : world().brushes()) text += (b.selected() ? "*" : "-") + Bounds(b) + "\n";
@@ -118,10 +114,8 @@ TEST_F(ClipTest, WithoutAPlane) {
 
 TEST_F(ClipTest, ThePreviewShowsWhatCarveWouldLeave) {
   brush& b = selectedCube();
-  brush& behind = box({64, 0, 0}, {96, 32, 32});
-  brush& inFront = box({-96, 0, 0}, {-64, 32, 32});
-  behind.select();
-  inFront.select();
+  brush& behind = selectedBox({64, 0, 0}, {96, 32, 32});
+  brush& inFront = selectedBox({-96, 0, 0}, {-64, 32, 32});
   ClipPreview preview;
   preview.begin(m, 2, false);
   EXPECT_EQ(preview.of(b), &b) << "no plane yet";

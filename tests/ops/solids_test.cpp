@@ -11,11 +11,6 @@ namespace velk {
 namespace {
 
 struct SolidsTest : test::MapTest {
-  brush& selectedBox(const vec3& mins, const vec3& maxs) {
-    brush& b = box(mins, maxs);
-    b.select();
-    return b;
-  }
   double volume() {
     double sum = 0;
     for (const brush& b : world().brushes()) sum += Volume(b);

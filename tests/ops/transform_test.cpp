@@ -9,13 +9,7 @@
 namespace velk {
 namespace {
 
-struct TransformTest : test::MapTest {
-  brush& selectedBox(const vec3& mins, const vec3& maxs) {
-    brush& b = box(mins, maxs, "rock");
-    b.select();
-    return b;
-  }
-};
+typedef test::MapTest TransformTest;
 
 void ExpectBox(const brush& b, const vec3& mins, const vec3& maxs) {
   EXPECT_TRUE(!b.invalid && VecEqual(b.mins, mins) && VecEqual(b.maxs, maxs)) << test::Bounds(b);

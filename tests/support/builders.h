@@ -65,6 +65,12 @@ struct TestMap {
     return boxIn(world(), mins, maxs, texture);
   }
 
+  brush& selectedBox(const vec3& mins, const vec3& maxs, std::string_view texture = "wall") {
+    brush& b = box(mins, maxs, texture);
+    b.select();
+    return b;
+  }
+
   // Every entity with its brushes, '*' for a selected one: "worldspawn -*- light *".
   std::string summary() const {
     std::string text;
