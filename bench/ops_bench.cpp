@@ -17,6 +17,7 @@
 #include "ops/snap_to_grid.h"
 #include "ops/subtract.h"
 #include "ops/transform.h"
+#include "ops/visit_until.h"
 
 namespace velk {
 namespace {
@@ -87,7 +88,9 @@ struct BenchMap {
     }
   }
 
-  void selectAll() { m.MGPerform(Method::Select); }
+  void selectAll() {
+    VisitBrushes(m, BrushFilter::Every, [](brush& b) { b.select(); });
+  }
 
   // Boxes over every so many brushes, selected.
   void addSubtractors(int count) {
