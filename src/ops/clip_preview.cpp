@@ -28,7 +28,6 @@ Reach ReachOf(const brush& b, const plane& p) {
 
 void CopyShape(const brush& from, brush& to) {
   to.owner = from.owner;
-  to.hidden = from.hidden;
   to.select();
   to.setGroup(from.group());
   to.setColor(from.color());

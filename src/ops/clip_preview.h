@@ -13,8 +13,9 @@ class ClipPreview {
   void begin(const map& m, int depthAxis, bool careful);
   bool active() const { return map_ != nullptr; }
 
-  // What to draw in place of the brush: the brush itself unless it is selected, in a visible group and
-  // crossed by a plane; none when nothing of it would be left. A cut one is good until the next call.
+  // What to draw in place of a brush that is shown: the brush itself unless it is selected, in a visible
+  // group and crossed by a plane; none when nothing of it would be left. A cut one is good until the next
+  // call.
   const brush* of(const brush& b);
 
  private:
