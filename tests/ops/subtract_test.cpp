@@ -37,7 +37,7 @@ TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
 TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
   for (int i = 0; i < 4; ++i) cube(i);
   subtractSelection(m, false);
-  EXPECT_EQ(Order(world()), "96 64 32 0 ") << "by the letter";
+  EXPECT_EQ(Order(world()), "96 64 32 0 ") << "without careful tools";
   EXPECT_EQ(subtractSelection(m, true).status, "Must have at least one selected brush...");
   EXPECT_EQ(Order(world()), "96 64 32 0 ");
 

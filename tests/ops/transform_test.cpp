@@ -66,13 +66,13 @@ TEST_F(TransformTest, ScalesAboutThePivot) {
   ScaleSelection(m, -1, 1, 1, true);
   ExpectBox(b, {-16, 0, 8}, {48, 32, 24});
   ScaleSelection(m, -1, 1, 1, false);
-  EXPECT_EQ(summary(), "worldspawn ") << "by the letter it is turned inside out";
+  EXPECT_EQ(summary(), "worldspawn ") << "turned inside out";
   EXPECT_EQ(ScaleSelection(m, 2, 2, 2, false).status, "Must have at least one selected brush...");
 }
 
 TEST_F(TransformTest, SnapsFacesToTheGrid) {
   const struct {
-    float low, high, letterLow, letterHigh, carefulLow, carefulHigh;
+    float low, high, plainLow, plainHigh, carefulLow, carefulHigh;
   } cases[] = {
       {0, 3, -8, 8, 0, 3}, {-24, -8, -32, -8, -24, -8}, {-13, 20, -16, 24, -16, 24}, {3, 5, 0, 8, 0, 8}};
   for (const auto& c : cases) {
@@ -80,8 +80,8 @@ TEST_F(TransformTest, SnapsFacesToTheGrid) {
       world().destroyBrushes();
       brush& b = selectedBox({c.low, 0, 0}, {c.high, 64, 64});
       SnapSelectionToGrid(m, careful);
-      EXPECT_EQ(b.mins.x, careful ? c.carefulLow : c.letterLow) << c.low;
-      EXPECT_EQ(b.maxs.x, careful ? c.carefulHigh : c.letterHigh) << c.high;
+      EXPECT_EQ(b.mins.x, careful ? c.carefulLow : c.plainLow) << c.low;
+      EXPECT_EQ(b.maxs.x, careful ? c.carefulHigh : c.plainHigh) << c.high;
     }
   }
   world().destroyBrushes();
