@@ -65,6 +65,12 @@ struct TestMap {
     return boxIn(world(), mins, maxs, texture);
   }
 
+  brush& selectedBox(const vec3& mins, const vec3& maxs, std::string_view texture = "wall") {
+    brush& b = box(mins, maxs, texture);
+    b.select();
+    return b;
+  }
+
   // Every entity with its brushes, '*' for a selected one: "worldspawn -*- light *".
   std::string summary() const {
     std::string text;
@@ -90,6 +96,15 @@ inline face Face(const vec3& p0, const vec3& p1, const vec3& p2, std::string_vie
   f.planepts[2] = p2;
   f.texture = Texture(texture);
   return f;
+}
+
+// A brush's bounds, truncated: "0..64 0..64 -8..8".
+inline std::string Bounds(const brush& b) {
+  std::string text;
+  for (int axis = 0; axis < 3; ++axis) {
+    text += (axis ? " " : "") + std::to_string(int(b.mins[axis])) + ".." + std::to_string(int(b.maxs[axis]));
+  }
+  return text;
 }
 
 }  // namespace velk::test

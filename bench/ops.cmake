@@ -1,0 +1,1 @@
+velk_bench(ops SOURCES ops_bench.cpp USES mapfile)

@@ -1,0 +1,30 @@
+#include "ops/move_selection.h"
+
+#include "ops/clipboard.h"
+#include "ops/transform.h"
+#include "ops/visit_until.h"
+
+namespace velk {
+
+void MoveSelection(map& m, const vec3& offset) {
+  m.modified = true;
+  VisitBrushes(m, BrushFilter::Selected, [&](brush& b) { b.translate(offset); });
+}
+
+Outcome CopyMoveSelection(map& m, const vec3& offset, bool moveOnly) {
+  if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
+  if (moveOnly) {
+    MoveSelection(m, offset);
+    return Outcome::Drawn(Redraw::All, kMovedSelection);
+  }
+  CloneSelection(m, offset);
+  return Outcome::Drawn(Redraw::All, kCopiedSelection);
+}
+
+Outcome DeleteSelection(map& m) {
+  m.modified = true;
+  VisitBrushes(m, BrushFilter::Selected, [](brush& b) { DestroyBrush(b); });
+  return Outcome::Drawn(Redraw::All, kDeleting);
+}
+
+}  // namespace velk

@@ -1,0 +1,90 @@
+#include "ops/subtract.h"
+
+#include "ops/solids/solid.h"
+#include "support/builders.h"
+#include "support/fatal.h"
+
+namespace velk {
+namespace {
+
+// Each brush by its lowest x, '*' for a selected one.
+std::string Order(const entity& e) {
+  std::string text;
+  for (const brush& b : e.brushes()) {
+    text += (b.selected() ? "*" : "") + std::to_string(int(b.mins.x)) + " ";
+  }
+  return text;
+}
+
+typedef test::MapTest SubtractTest;
+
+TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
+  box({0, 0, 0}, {64, 64, 64}, "rock");
+  brush& inner = selectedBox({16, 16, 16}, {48, 48, 48}, "air");
+  m.modified = false;
+  EXPECT_EQ(subtractSelection(m, false).status, "Subtracting selection...");
+  EXPECT_TRUE(m.modified);
+  EXPECT_EQ(summary(), "worldspawn ------*");
+  EXPECT_EQ(world().at(6), &inner);
+  double volume = 0;
+  for (const brush& b : world().brushes()) volume += Volume(b);
+  EXPECT_EQ(volume, 64.0 * 64 * 64);
+  for (const face& f : world().at(0)->faces()) EXPECT_EQ(f.texture.name, "rock");
+  subtractSelection(m, true);
+  EXPECT_EQ(Order(world()), "0 16 48 16 16 16 *16 ") << "what only touches is not cut";
+}
+
+TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
+  for (int i = 0; i < 4; ++i) cube(i);
+  subtractSelection(m, false);
+  EXPECT_EQ(Order(world()), "96 64 32 0 ") << "without careful tools";
+  EXPECT_EQ(subtractSelection(m, true).status, "Must have at least one selected brush...");
+  EXPECT_EQ(Order(world()), "96 64 32 0 ");
+
+  selectedBox({72, 0, 0}, {200, 16, 16});   // cuts two
+  selectedBox({190, 0, 0}, {300, 16, 16});  // overlaps the other subtractor only
+  boxIn(addEntity("func_door"), {72, 0, 0}, {80, 16, 16});
+  settings.groupmode = true;
+  world().at(0)->setGroup(9);
+  subtractSelection(m, false);
+  EXPECT_EQ(Order(world()), "0 32 64 96 *190 *72 ") << "of a hidden group, one stays whole";
+  EXPECT_EQ(world().at(2)->maxs.x, 72);
+  settings.groupmode = false;
+  subtractSelection(m, false);
+  EXPECT_EQ(Order(world()), "64 32 0 *72 *190 ");
+  EXPECT_EQ(m.at(1)->numbrushes(), 1) << "of another entity";
+}
+
+TEST_F(SubtractTest, AnInvalidSubtractorGoesAndItsEntityWithIt) {
+  entity& door = addEntity("func_door");
+  boxIn(door, {8, 0, 0}, {8, 0, 0}).select();
+  m.setCurrentEntity(&door);
+  subtractSelection(m, false);
+  EXPECT_EQ(summary(), "worldspawn ");
+  EXPECT_TRUE(m.worldIsCurrent());
+}
+
+TEST_F(SubtractTest, StoppedOrFailedItLeavesTheMapAsItWas) {
+  for (int i = 0; i < 11; ++i) cube(i);
+  selectedBox({8, 8, 8}, {500, 64, 64});
+  const std::string before = Order(world());
+  std::vector<std::string> heard;
+  m.modified = false;
+  const Outcome outcome = subtractSelection(m, true, [&](const std::string& text, int top) {
+    heard.push_back(text + std::to_string(top));
+    return heard.size() < 3;
+  });
+  EXPECT_EQ(outcome.status, "Subtraction stopped...");
+  EXPECT_EQ(heard, (std::vector<std::string>{"[Subtracting 0/1]   2", "Cutting [0/11]     22",
+                                             "Cutting [5/11]     22"}));
+  EXPECT_EQ(Order(world()), before);
+  EXPECT_TRUE(!m.modified && VecEqual(m.workHigh(), {80, 80, 80}));
+
+  while (world().numbrushes() < MAX_ENTITY_BRUSHES) cube(50);
+  EXPECT_FATAL(subtractSelection(m, false), "entity->addobject, too many objects");
+  EXPECT_TRUE(Order(world()).starts_with(before));
+  EXPECT_FALSE(m.modified);
+}
+
+}  // namespace
+}  // namespace velk
