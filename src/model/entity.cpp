@@ -53,8 +53,8 @@ int entity::indexOf(const brush* b) const {
   return found == brushes_.end() ? -1 : int(found - brushes_.begin());
 }
 
-void entity::requireRoom() const {
-  if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
+void entity::requireRoom(int count) const {
+  if (numbrushes() + count > MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
 }
 
 brush& entity::addobject(std::unique_ptr<brush> added) {

@@ -28,8 +28,8 @@ int map::indexOf(const entity* e) const {
   return found == entities_.end() ? -1 : int(found - entities_.begin());
 }
 
-void map::requireRoom() const {
-  if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
+void map::requireRoom(int count) const {
+  if (numentities() + count > MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
 }
 
 entity& map::addobject(std::unique_ptr<entity> added) {
