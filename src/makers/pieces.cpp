@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/error.h"
 #include "makers/solid.h"
 
 namespace velk {
@@ -22,6 +23,16 @@ bool InReach(std::span<const FacePoints> faces) {
     }
   }
   return true;
+}
+
+// A brush that ends in a fatal error is invalid like others.
+void BuildOrSpoil(brush& b) {
+  const ErrorTrap trap;
+  try {
+    b.buildWindings();
+  } catch (const TrappedError&) {
+    b.invalid = true;
+  }
 }
 
 }  // namespace
@@ -46,10 +57,12 @@ void Pieces::addSolid(std::span<const FacePoints> faces) {
     std::ranges::copy(faces[i], list[i].planepts);
     list[i].texture = seed_.texture;
   }
-  if (InReach(faces)) {
-    made->buildWindings();
-  } else {
+  if (!InReach(faces)) {
     made->invalid = true;
+  } else if (keeping_ == Keeping::Solid) {
+    BuildOrSpoil(*made);
+  } else {
+    made->buildWindings();
   }
   keep(std::move(made));
 }

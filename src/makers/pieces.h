@@ -22,6 +22,7 @@ class Pieces {
   Pieces(const Seed& seed, Keeping keeping) : seed_(seed), keeping_(keeping) {}
 
   void addBox(const vec3& mins, const vec3& maxs);
+  // Unless only solid pieces are kept, one that cannot be built may be fatal; see brush::buildWindings.
   void addSolid(std::span<const FacePoints> faces);
   // More are of no use: no entity holds so many.
   bool full() const { return made_.tooMany; }
