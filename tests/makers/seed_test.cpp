@@ -2,16 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "makers/lights.h"
-#include "makers/made_text.h"
 #include "makers/pieces.h"
 #include "support/builders.h"
 #include "support/fatal.h"
 
 namespace velk {
 namespace {
-
-using test::BoundsOf;
 
 // Boxes in a row.
 Made Boxes(const Seed& seed, int count) {
@@ -36,29 +34,23 @@ struct SeedTest : test::MapTest {
   }
 };
 
-TEST_F(SeedTest, IsTheOnlyBrushSelected) {
-  EXPECT_EQ(OnlySelected(m), nullptr);
-  brush& seed = boxIn(door, {0, 0, 0}, {16, 16, 16});
-  seed.select();
-  EXPECT_EQ(OnlySelected(m), &seed) << "of whatever entity";
-  cube(3).select();
-  EXPECT_EQ(OnlySelected(m), nullptr);
-}
-
 TEST_F(SeedTest, ReplacedInTheWorldOrWhereItWas) {
   const struct {
     MadeFor owner;
     bool doorIsCurrent;
+    bool brushBuilt;
     const char* summary;
-  } cases[] = {{MadeFor::World, false, "worldspawn ---**"},
-               {MadeFor::Current, false, "worldspawn ---**"},
-               {MadeFor::Current, true, "worldspawn --- func_door **"},
-               {MadeFor::SeedsOwner, false, "worldspawn --- func_door **"}};
+  } cases[] = {{MadeFor::World, false, true, "worldspawn ---**"},
+               {MadeFor::Current, false, true, "worldspawn ---**"},
+               {MadeFor::Current, true, true, "worldspawn --- func_door **"},
+               {MadeFor::SeedsOwner, false, true, "worldspawn --- func_door **"},
+               {MadeFor::SeedsOwner, false, false, "worldspawn ---**"}};
   for (const auto& c : cases) {
     test::TestMap t;
     for (int i = 0; i < 3; ++i) t.cube(i);
     entity& owner = t.addEntity("func_door");
     brush& seed = t.boxIn(owner, {0, 0, 0}, {16, 16, 32});
+    owner.isModel = c.brushBuilt;
     seed.select();
     if (c.doorIsCurrent) t.m.setCurrentEntity(&owner);
     const Outcome outcome =
@@ -78,37 +70,25 @@ TEST_F(SeedTest, GivesItsGroupAndMakesRoomInTheOrderOfTheList) {
   EXPECT_EQ(made.group(), 4);
   EXPECT_EQ(made.owner, &world());
   EXPECT_TRUE(VecEqual(made.color(), ClassColour(world())));
-  EXPECT_EQ(BoundsOf(made), "0 0 0 .. 2 2 2");
+  EXPECT_EQ(made.mins.x, 0);
   world().at(2)->select(false);
 
   replace(made, 3, MadeFor::Current);
-  EXPECT_EQ(BoundsOf(*world().at(1)), "8 0 0 .. 10 2 2") << "the last one takes the seed's slot";
+  EXPECT_EQ(world().at(1)->mins.x, 8) << "the last one takes the seed's slot";
 }
 
-TEST_F(SeedTest, ASeedOfAPointEntityIsReplacedInTheWorld) {
-  entity& light = addPoint("light", {0, 0, 0});
-  replace(*light.at(0), 2, MadeFor::SeedsOwner);
-  EXPECT_EQ(summary(), "worldspawn -** func_door ") << "and the light goes with it";
-}
-
-TEST_F(SeedTest, KeptWithCareWhenNothingWasMade) {
+TEST_F(SeedTest, WithCareIsKeptWhenNothingWasMadeAndLossesAreCounted) {
   brush& seed = cube(1);
   const Outcome kept = replace(seed, 0, MadeFor::World, true);
   EXPECT_EQ(kept.status, kNothingMade);
   EXPECT_EQ(kept.redraw, Redraw::None);
   EXPECT_EQ(summary(), "worldspawn -* func_door ");
-  EXPECT_EQ(replace(seed, 0, MadeFor::World).status, "done...");
+  Made odd = Boxes(SeedOf(seed), 1);
+  odd.leftOut = 3;
+  EXPECT_EQ(ReplaceSeed(m, seed, std::move(odd), {.careful = true, .status = "done..."}).status,
+            "done... 3 left out...");
+  EXPECT_EQ(replace(*OnlySelected(m), 0, MadeFor::World).status, "done...");
   EXPECT_EQ(summary(), "worldspawn - func_door ");
-}
-
-TEST_F(SeedTest, CountsWhatWasLeftOut) {
-  for (const auto& [careful, status] : {std::pair{true, "done... 3 left out..."}, {false, "done..."}}) {
-    brush& seed = cube(1);
-    Made made = Boxes(SeedOf(seed), 1);
-    made.leftOut = 3;
-    EXPECT_EQ(ReplaceSeed(m, seed, std::move(made), {.careful = careful, .status = "done..."}).status,
-              status);
-  }
 }
 
 TEST_F(SeedTest, AFullEntityLeavesTheMapAsItWas) {
@@ -149,7 +129,9 @@ TEST_F(LightsTest, StandInRowsWithinTheSeed) {
     EXPECT_EQ(text, c.origins);
     EXPECT_EQ(LightBoxes(seed, params, classes).brushes.size(), LightOrigins(seed, params).size());
   }
-  EXPECT_EQ(BoundsOf(LightBoxes(seed, {{1, 1, 1}}, classes)), "42 42 42 .. 58 58 58");
+  EXPECT_EQ(LightBoxes(seed, {{1, 1, 1}}, classes).brushes[0]->maxs.z, 58);
+  classes.scanText("/*QUAKED Lightning (0 1 0) ?\n*/\n/*QUAKED lamp_light (0 1 0) ?\n*/\n");
+  EXPECT_EQ(LightTypes(classes), (std::vector<std::string>{"light", "Lightning"}));
 }
 
 TEST_F(LightsTest, TakeTheSeedsPlaceAndGroup) {
@@ -165,7 +147,7 @@ TEST_F(LightsTest, TakeTheSeedsPlaceAndGroup) {
   std::string pairs;
   for (const KeyPair& pair : light.pairsInOrder()) pairs += pair.key + "=" + pair.value + " ";
   EXPECT_EQ(pairs, "classname=light origin=-20 5 5 light=77 ");
-  EXPECT_EQ(BoundsOf(*light.at(0)), "-28 -3 -3 .. -12 13 13");
+  EXPECT_EQ(light.at(0)->mins.x, -28);
   EXPECT_EQ(light.at(0)->group(), 4);
   EXPECT_FALSE(light.isModel);
 }
@@ -178,11 +160,6 @@ TEST_F(LightsTest, AFullMapStaysAsItWas) {
   EXPECT_EQ(summary(), "worldspawn *");
   MakeLights(m, seed, {.counts = {11, 31, 3}});
   EXPECT_EQ(m.numentities(), MAX_ENTITIES);
-}
-
-TEST_F(LightsTest, TypesAreTheClassesThatBeginWithLight) {
-  classes.scanText("/*QUAKED Lightning (0 1 0) ?\n*/\n/*QUAKED lamp_light (0 1 0) ?\n*/\n");
-  EXPECT_EQ(LightTypes(classes), (std::vector<std::string>{"light", "Lightning"}));
 }
 
 }  // namespace
