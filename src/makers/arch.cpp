@@ -113,7 +113,7 @@ ArchParams Limited(const ArchParams& params) {
 }
 
 std::optional<Made> MakeArch(const Seed& seed, const ArchParams& params, const MakerRules& rules) {
-  const Seed fitted = rules.careful ? WholeSeed(seed) : seed;
+  const Seed fitted = FittedSeed(seed, rules);
   const Arch arch(fitted, params, rules.careful);
   if (arch.tooShort()) return std::nullopt;
   Pieces pieces(fitted, KeepingBy(rules));

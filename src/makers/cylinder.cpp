@@ -55,8 +55,8 @@ void AddEvenStrips(Segments& segments, const Seed& seed, int strips, int gridsiz
 }
 
 void AddFittingStrips(Segments& segments, const Seed& seed, int strips) {
-  const double bottom = RoundHalfAway(seed.mins.z);
-  const double height = RoundHalfAway(seed.maxs.z) - bottom;
+  const double bottom = seed.mins.z;
+  const double height = seed.maxs.z - bottom;
   const int count = std::min(strips, static_cast<int>(std::max(height, 1.0)));
   segments.leaveOut(strips - count);
   const auto edge = [&](int j) { return RoundHalfAway(bottom + j * height / count); };
@@ -77,11 +77,12 @@ CylinderParams Limited(const CylinderParams& params) {
 Made MakeCylinder(const Seed& seed, const CylinderParams& params, const MakerRules& rules) {
   const int sides = std::clamp(params.sides, kFewestSides, kMostSides);
   const int strips = std::max(params.strips, 1);
-  Segments segments(seed, SnappedMiddle(seed, rules.gridsize), sides, params, KeepingBy(rules));
+  const Seed fitted = FittedSeed(seed, rules);
+  Segments segments(fitted, SnappedMiddle(fitted, rules.gridsize), sides, params, KeepingBy(rules));
   if (rules.careful) {
-    AddFittingStrips(segments, seed, strips);
+    AddFittingStrips(segments, fitted, strips);
   } else {
-    AddEvenStrips(segments, seed, strips, rules.gridsize);
+    AddEvenStrips(segments, fitted, strips, rules.gridsize);
   }
   return segments.take();
 }

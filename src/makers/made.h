@@ -18,7 +18,7 @@ struct Made {
 // The settings that bear on making.
 struct MakerRules {
   int gridsize = 8;      // world units, at least 1
-  bool careful = false;  // pieces must be solid and meet; see each maker
+  bool careful = false;  // pieces must be solid, in whole units, and meet; see each maker
 };
 
 }  // namespace velk

@@ -13,8 +13,9 @@ PyramidParams Limited(const PyramidParams& params) {
 Made MakePyramid(const Seed& seed, const PyramidParams& params, const MakerRules& rules) {
   const int sides = std::clamp(params.sides, kFewestSides, kMostSides);
   const int height = std::max(params.height, kLeastPyramidHeight);
-  const vec3 middle = SnappedMiddle(seed, rules.gridsize);
-  const float low = seed.mins.z;
+  const Seed fitted = FittedSeed(seed, rules);
+  const vec3 middle = SnappedMiddle(fitted, rules.gridsize);
+  const float low = fitted.mins.z;
   const vec3 apex = AtHeight(middle, Truncate(double(low) + height));
   const std::vector<vec3> ring = RingAround(middle, sides, std::max(params.radius, kLeastPyramidRadius));
 
@@ -22,7 +23,7 @@ Made MakePyramid(const Seed& seed, const PyramidParams& params, const MakerRules
   for (size_t k = 0; k + 1 < ring.size(); ++k) {
     faces.push_back({AtHeight(ring[k], low), AtHeight(ring[k + 1], low), apex});
   }
-  Pieces pieces(seed, KeepingBy(rules));
+  Pieces pieces(fitted, KeepingBy(rules));
   pieces.addSolid(faces);
   return pieces.take();
 }

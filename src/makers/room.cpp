@@ -23,13 +23,14 @@ void AddHighWall(Pieces& pieces, const Seed& seed, int axis, int thickness) {
 }  // namespace
 
 Made MakeRoom(const Seed& seed, int thickness, const MakerRules& rules) {
-  Pieces pieces(seed, KeepingBy(rules));
+  const Seed fitted = FittedSeed(seed, rules);
+  Pieces pieces(fitted, KeepingBy(rules));
   for (const int axis : {0, 1}) {
-    AddLowWall(pieces, seed, axis, thickness);
-    AddHighWall(pieces, seed, axis, thickness);
+    AddLowWall(pieces, fitted, axis, thickness);
+    AddHighWall(pieces, fitted, axis, thickness);
   }
-  AddHighWall(pieces, seed, 2, thickness);
-  AddLowWall(pieces, seed, 2, thickness);
+  AddHighWall(pieces, fitted, 2, thickness);
+  AddLowWall(pieces, fitted, 2, thickness);
   return pieces.take();
 }
 

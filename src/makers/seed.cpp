@@ -27,7 +27,8 @@ brush* OnlySelected(map& m) { return m.totalSelected() == 1 ? m.firstSelected() 
 
 Seed SeedOf(const brush& b) { return {b.group(), b.mins, b.maxs, b.brushTexture()}; }
 
-Seed WholeSeed(Seed seed) {
+Seed FittedSeed(Seed seed, const MakerRules& rules) {
+  if (!rules.careful) return seed;
   RoundAll(seed.mins);
   RoundAll(seed.maxs);
   return seed;

@@ -24,8 +24,8 @@ struct Seed {
 brush* OnlySelected(map& m);
 
 Seed SeedOf(const brush& b);
-// The same seed with bounds in whole units.
-Seed WholeSeed(Seed seed);
+// With care, the seed with its bounds in whole units, as files hold them; else as it is.
+Seed FittedSeed(Seed seed, const MakerRules& rules);
 
 // Removes the brush from its entity, which goes when it was its last, and destroys it.
 Seed TakeSeed(map& m, brush& b);

@@ -17,7 +17,7 @@
 namespace velk {
 namespace {
 
-constexpr MakerRules kLetter{};
+constexpr MakerRules kByDefault{};
 constexpr MakerRules kCareful{.careful = true};
 
 const Seed kHall{3, {0, 0, 0}, {128, 128, 64}, test::Texture("stone")};
@@ -70,13 +70,15 @@ TEST(Makers, UprightOnes) {
   const BoxParams small{{1.5, 2, 3}, {0, -7, 64}};
   const BoxParams far{{8000, 0, 0}, {400, 64, 64}};
   const auto at = [](const BoxParams& p, const MakerRules& r) { return MakeBox(p, kHall.texture, 3, r); };
-  Expect({"box", at(small, kLetter), 1, 0, 0, 6, "1.5 2 3 .. 2.5 3 67", 4, "1.5 2 67, 1.5 3 67, 2.5 3 67"});
+  Expect(
+      {"box", at(small, kByDefault), 1, 0, 0, 6, "1.5 2 3 .. 2.5 3 67", 4, "1.5 2 67, 1.5 3 67, 2.5 3 67"});
+  Expect({"whole", at(small, kCareful), 1, 0, 0, 6, "2 2 3 .. 3 3 67", 4, "2 2 67, 2 3 67, 3 3 67"});
   Expect({"out of polygons", at(far, kCareful), 0, 1, 0, 0, "", 0, ""});
-  EXPECT_EQ(at(far, kLetter).brushes.size(), 1u);
+  EXPECT_EQ(at(far, kByDefault).brushes.size(), 1u);
 
   const char* walls[] = {"-8 0 0 .. 0 128 64",    "128 0 0 .. 136 128 64", "0 -8 0 .. 128 0 64",
                          "0 128 0 .. 128 136 64", "0 0 64 .. 128 128 72",  "0 0 -8 .. 128 128 0"};
-  const Made room = MakeRoom(kHall, 8, kLetter);
+  const Made room = MakeRoom(kHall, 8, kByDefault);
   for (size_t i = 0; i < 6; ++i) EXPECT_EQ(BoundsOf(*room.brushes.at(i)), walls[i]);
 
   const auto prism = [](PrismParams p) { return MakePrism(kLow, p, {.gridsize = 8}); };
@@ -106,7 +108,7 @@ TEST(Makers, Cylinder) {
 }
 
 TEST(Makers, Stairs) {
-  const auto make = [](const StairParams& p) { return MakeStairs(kWell, p, kLetter); };
+  const auto make = [](const StairParams& p) { return MakeStairs(kWell, p, kByDefault); };
   const auto block = StairType::Block;
   Expect({"first", make({}), 12, 0, 0, 6, "0 0 0 .. 64 64 8", 4, "0 0 8, 0 64 8, 64 64 8"});
   Expect({"last", make({}), 12, 0, 11, 6, "0 192 88 .. 64 256 96", 4, "0 192 96, 0 256 96, 64 256 96"});
@@ -134,7 +136,9 @@ TEST(Makers, TurnedOnes) {
   Expect({"hole", sphere(4, 40, false), 152, 0, 0, 5, "", 0, ""});
   Expect({"closed", sphere(4, 40, true), 160, 0, 0, 5, "", 0, ""});
 
-  const auto turn = [](const Profile& profile) { return MakeRevolved(kGate, profile, {4, 10, 20}, kLetter); };
+  const auto turn = [](const Profile& profile) {
+    return MakeRevolved(kGate, profile, {4, 10, 20}, kByDefault);
+  };
   Expect({"tube", turn({{1, -1}, {1, 1}}), 4, 0, 0, 6, "", 3, "74 26 48, 74 6 48, 64 16 48"});
   Expect({"pole last", turn({{1, 0}, {0, 1}}), 4, 0, 0, 5, "", 0, "64 16 38, 64 26 48, 74 16 48"});
   Expect({"upside down", turn({{1, 1}, {1, -1}}), 0, 4, 0, 0, "", 0, ""});
@@ -166,13 +170,13 @@ TEST(Makers, Arch) {
   Expect({"closed end", make(kSmallGate, {24, 30, false}, true), 26, 0, 2, 6, "0 0 25 .. 5 16 27", 3,
           "5 0 25, 0 0 26, 1 0 27"});
   for (const auto& [height, fits] : {std::pair{64.0f, false}, {65.0f, true}})
-    EXPECT_EQ(MakeArch({0, {0, 0, 0}, {128, 32, height}, {}}, {}, kLetter).has_value(), fits);
+    EXPECT_EQ(MakeArch({0, {0, 0, 0}, {128, 32, height}, {}}, {}, kByDefault).has_value(), fits);
 }
 
 TEST(Makers, WithCareFatalErrorsOnlyLoseABrush) {
   // Taller than the world, with sides that do not come out as polygons.
   const Seed seed{0, {1060, 1969, -1059}, {1249, 2178, -918}, {}};
-  EXPECT_FATAL(MakePyramid(seed, {36, 2, 18026}, kLetter), "CheckFace: non-convex");
+  EXPECT_FATAL(MakePyramid(seed, {36, 2, 18026}, kByDefault), "CheckFace: non-convex");
   EXPECT_EQ(MakePyramid(seed, {36, 2, 18026}, kCareful).leftOut, 1);
 }
 
@@ -186,12 +190,12 @@ TEST(Stairs, LevelsAreExactWhereTheHeightDivides) {
 
 TEST(Stairs, DegenerateStepsStayUnlessCareIsTaken) {
   const Seed flat{0, {0, 0, 0}, {64, 64, 6}, {}};
-  const Made kept = MakeStairs(flat, {.steps = 12, .width = 8}, kLetter);
+  const Made kept = MakeStairs(flat, {.steps = 12, .width = 8}, kByDefault);
   EXPECT_EQ(kept.brushes.size(), 12u);
   EXPECT_TRUE(kept.brushes[0]->invalid);
   EXPECT_EQ(MakeStairs(flat, {.steps = 12, .width = 8}, kCareful).leftOut, 6);
   for (const StairType type : {StairType::Regular, StairType::Spiral, StairType::Block})
-    EXPECT_TRUE(MakeStairs(flat, {.steps = INT_MAX, .type = type}, kLetter).tooMany) << int(type);
+    EXPECT_TRUE(MakeStairs(flat, {.steps = INT_MAX, .type = type}, kByDefault).tooMany) << int(type);
 }
 
 TEST(Stairs, AsksAboutStepsThatAreHardToClimb) {
