@@ -21,8 +21,8 @@ endif()
 # The ladder: a library may link only to libraries above it in this list, so that an include in
 # the wrong direction does not build. Each folder's headers are reachable only as "folder/name.h"
 # through the include directory of its own target.
-set(VELK_LADDER base settings entities geometry model mapfile textures ops planview camera mouse documents
-    panels app commands script desktop)
+set(VELK_LADDER base settings entities geometry model mapfile textures ops makers planview camera mouse
+    documents panels app commands script desktop)
 
 # What a room may hold; a larger one is two rooms. Folders within a folder count singly.
 set(VELK_ROOM_UNITS 25)

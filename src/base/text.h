@@ -48,6 +48,11 @@ std::vector<std::string> Split(std::string_view text, char separator);
 inline double RoundHalfAway(double value) {
   return value < 0 ? std::ceil(value - 0.5) + 0.0 : std::floor(value + 0.5);
 }
+// The same for results of sines and cosines: what is half but for their last bits is half, on every machine.
+inline double RoundComputed(double value) {
+  constexpr double kParts = 1 << 20;
+  return RoundHalfAway(RoundHalfAway(value * kParts) / kParts);
+}
 // Nearest multiple of step (at least 1), halves away from zero.
 inline double Snap(double value, int step) { return RoundHalfAway(value / step) * step; }
 // Integer part, the fraction dropped toward zero; a value out of an int's range gives the nearest int,

@@ -51,8 +51,8 @@ std::weak_ptr<const void> entity::identity() {
 
 int entity::indexOf(const brush* b) const { return b && at(b->place_) == b ? b->place_ : -1; }
 
-void entity::requireRoom() const {
-  if (numbrushes() >= MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
+void entity::requireRoom(int count) const {
+  if (numbrushes() + count > MAX_ENTITY_BRUSHES) Error("entity->addobject, too many objects");
 }
 
 brush& entity::addobject(std::unique_ptr<brush> added) {

@@ -47,8 +47,9 @@ class entity {
   }
   int indexOf(const brush* b) const;  // -1 when it is not there
   brush& addobject(std::unique_ptr<brush> added);
-  // Fatal as addobject is when the list is full: before something is taken out of its place to be added.
-  void requireRoom() const;
+  // Fatal as addobject is when there is no room for so many: before something is taken out of its place to
+  // be added.
+  void requireRoom(int count = 1) const;
   // Takes the brush out; the last one moves into its slot. None when it is not in the list. An entity
   // other than the world that is left empty leaves the map's list and is handed over in `emptied`, for the
   // caller to destroy; when that is null it stays in the map, empty.

@@ -25,8 +25,8 @@ map::~map() { hits.clear(); }
 
 int map::indexOf(const entity* e) const { return e && at(e->place_) == e ? e->place_ : -1; }
 
-void map::requireRoom() const {
-  if (numentities() >= MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
+void map::requireRoom(int count) const {
+  if (numentities() + count > MAX_ENTITIES) Error("map->addobject, too many brushes on entity...");
 }
 
 entity& map::addobject(std::unique_ptr<entity> added) {

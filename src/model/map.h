@@ -53,8 +53,9 @@ class map {
   int indexOf(const entity* e) const;  // -1 when it is not there
   // A 1025th is fatal "map->addobject, too many brushes on entity...".
   entity& addobject(std::unique_ptr<entity> added);
-  // Fatal as addobject is when the list is full: before brushes leave their place for a new entity.
-  void requireRoom() const;
+  // Fatal as addobject is when there is no room for so many: before brushes leave their place for a new
+  // entity.
+  void requireRoom(int count = 1) const;
   // Takes an entity other than the world out; the last one moves into its slot. If it was current the
   // world becomes current. None when it is not there.
   std::unique_ptr<entity> removeEntity(const entity* e);

@@ -1,0 +1,1 @@
+velk_bench(makers SOURCES makers_bench.cpp)
