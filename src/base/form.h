@@ -28,8 +28,8 @@ struct NumberRange {
 
 struct FormField {
   enum class Kind { Text, Whole, Real, Flag, Choice, Radio, Colour, Folder, File };
-  std::string name{};  // as scripts set it
-  std::string label{};
+  std::string name{};   // as scripts set it
+  std::string label{};  // & before its mnemonic
   Kind kind = Kind::Text;
   // As text: a number in decimal, "0" or "1" for a flag, "r g b" for a colour, the index for a choice or a
   // radio group.
@@ -58,8 +58,8 @@ struct Form {
   std::string saveLabel{};  // of the button that also writes the values to a file; "" for none
   bool cancel = true;       // has a Cancel button
   bool complete = true;     // may be accepted: OK and the like are enabled
-  // Called when the form opens and after every change. May change everything but the number and order of
-  // the fields.
+  // Called when the form opens and after every change. May change everything but the number, order, kinds
+  // and pages of the fields.
   std::function<void(Form&)> changed{};
   // Called at OK and Save; a refusal keeps the form open.
   std::function<std::optional<FormRefusal>(Form&)> check{};

@@ -1,11 +1,11 @@
 #include "base/text.h"
+#include "commands/bars.h"
 #include "commands/handlers.h"
+#include "commands/replace_form.h"
 #include "ops/face_textures.h"
 
 namespace velk::commands {
 namespace {
-
-constexpr const char* kReplaceCaption = "Velk - Replace Texture";
 
 void stepFace(Editor& editor, int direction, const char* text) {
   map* m = editor.currentMap();
@@ -35,12 +35,17 @@ void nextFace(Editor& editor) { stepFace(editor, 1, "Next face..."); }
 
 void previousFace(Editor& editor) { stepFace(editor, -1, "Previous face..."); }
 
+// The window stays open for further names, whatever map is current then.
 void replaceTexture(Editor& editor) {
-  if (!editor.currentMap() || editor.observer().showReplaceTexture()) return;
-  const auto from = editor.prompts().input({kReplaceCaption, "Find what:", ""});
-  if (!from) return;
-  const auto to = editor.prompts().input({kReplaceCaption, "Replace with:", ""});
-  if (to) replaceTextureBy(editor, *from, *to);
+  if (!editor.currentMap()) return;
+  ModelessForm replace = ReplaceForm("", "", TextureListNames(editor));
+  replace.pressed = [&editor](Form& form, size_t) {
+    editor.beginChange();
+    replaceTextureBy(editor, NameIn(form, "find"), NameIn(form, "replace"));
+    editor.endChange("Replace");
+    editor.observer().commandsChanged();
+  };
+  editor.prompts().show(std::move(replace));
 }
 
 void replaceTextureBy(Editor& editor, const std::string& from, const std::string& to) {

@@ -25,9 +25,6 @@ class Observer {
   virtual void texturesChanged() {}
   // Menus, bars and check marks may look different.
   virtual void commandsChanged() {}
-  // The user asked for the window that replaces textures, which stays open beside the others. False when
-  // there is none: the texts are asked for one after the other instead.
-  virtual bool showReplaceTexture() { return false; }
   // The user asked for the manual.
   virtual void helpRequested() {}
   // The user asked to exit and gave no Cancel.

@@ -104,22 +104,6 @@ TEST(Handlers, WindowQualityHasTheDevicesPixels) {
   EXPECT_EQ(editor.renderSize(), (RenderSize{80, 60}));
 }
 
-TEST(Handlers, ReplaceWindowTakesOverWhereThereIsOne) {
-  struct Windowed : test::RecordingObserver {
-    bool showReplaceTexture() override { return shown = true; }
-    bool shown = false;
-  } observer;
-  test::TempFolder home;
-  test::FurnishHome(home);
-  ScriptPrompts prompts;
-  Editor editor({home.path(), home.path()}, prompts, observer);
-  editor.start();
-  editor.newMap();
-  RunCommand(editor, *FindCommand("CM_REPLACE"));
-  EXPECT_TRUE(observer.shown);
-  EXPECT_TRUE(prompts.log().empty());
-}
-
 TEST(Handlers, RedrawsOnlyWhatChanged) {
   Session session;
   session.open();

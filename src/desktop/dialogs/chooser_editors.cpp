@@ -72,7 +72,7 @@ FieldEditor ColourEditor(const FormField& field, const Edited& edited) {
 FieldEditor PathEditor(const FormField& field, const Paths* paths, const Edited& edited) {
   auto* edit = new QLineEdit;
   edit->setMinimumWidth(kPathWidth);
-  auto* button = new QPushButton;
+  auto* button = new QPushButton(ShownText(field.label));
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, edit,
                    [edit, field, paths] { choosePath(*edit, field, paths); });

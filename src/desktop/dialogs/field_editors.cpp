@@ -110,13 +110,14 @@ FieldEditor flagEditor(const Edited& edited) {
 FieldEditor choiceEditor(const Edited& edited) {
   auto* box = new QComboBox;
   box->setMinimumWidth(kChoiceWidth);
+  box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   QObject::connect(box, &QComboBox::currentIndexChanged, box,
                    [edited](int index) { edited(NumberText(index)); });
   const auto show = [box](const FormField& now) {
     const QSignalBlocker blocker(box);
     setItems(*box, now.choices);
     box->setCurrentIndex(TextToInt(now.value));
-    box->setEnabled(!now.choices.empty());
+    box->setEnabled(now.enabled && !now.choices.empty());
   };
   return {nullptr, box, box, show};
 }
@@ -129,7 +130,7 @@ FieldEditor radioEditor(const FormField& field, const Edited& edited) {
   layout->setContentsMargins(0, 0, 0, 0);
   for (const std::string& choice : field.choices) {
     auto* button = new QRadioButton(ShownText(choice));
-    group->addButton(button, group->buttons().size());
+    group->addButton(button, static_cast<int>(group->buttons().size()));
     layout->addWidget(button);
   }
   layout->addStretch(1);
@@ -138,6 +139,9 @@ FieldEditor radioEditor(const FormField& field, const Edited& edited) {
   });
   const auto show = [group](const FormField& now) {
     const QSignalBlocker blocker(group);
+    for (size_t i = 0; i < now.choices.size(); ++i) {
+      group->button(static_cast<int>(i))->setText(ShownText(now.choices[i]));
+    }
     if (QAbstractButton* button = group->button(TextToInt(now.value))) button->setChecked(true);
   };
   return {nullptr, widget, group->button(0), show};

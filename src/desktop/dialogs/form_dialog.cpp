@@ -10,7 +10,8 @@
 
 namespace velk {
 
-FormDialog::FormDialog(Form& form, const Paths* paths, QWidget* parent) : QDialog(parent), form_(form) {
+FormDialog::FormDialog(Form& form, const Paths* paths, QWidget* parent)
+    : QDialog(parent), form_(form), fieldsBefore_(form.fields), noteBefore_(form.note) {
   build(paths, modalButtons());
 }
 
@@ -88,12 +89,10 @@ QDialogButtonBox* FormDialog::modelessButtons() {
 }
 
 FormAnswer FormDialog::run() {
-  const std::vector<FormField> fields = form_.fields;
-  const std::string note = form_.note;
   exec();
   if (answer_ == FormAnswer::Cancel) {
-    form_.fields = fields;
-    form_.note = note;
+    form_.fields = fieldsBefore_;
+    form_.note = noteBefore_;
   }
   return answer_;
 }

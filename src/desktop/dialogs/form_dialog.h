@@ -42,6 +42,8 @@ class FormDialog : public QDialog {
 
   std::optional<ModelessForm> modeless_;
   Form& form_;
+  const std::vector<FormField> fieldsBefore_;
+  const std::string noteBefore_;
   FormPages* pages_ = nullptr;
   QLabel* note_ = nullptr;
   QWidget* refusal_ = nullptr;  // shown after a check that failed

@@ -4,8 +4,10 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <algorithm>
 
+#include "desktop/dialogs/number_box.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int kColourRows = 7;
 constexpr int kBetweenColumns = 24;
+constexpr int kBetweenRows = 8;
 constexpr size_t kFewFields = 6;  // stand in one column, check boxes among them
 
 using Indices = std::vector<size_t>;
@@ -25,18 +28,33 @@ Indices fieldsOf(const Form& form, const std::string& page) {
   return fields;
 }
 
+// As wide as the widest of them.
+void makeAlike(const std::vector<QWidget*>& widgets) {
+  int width = 0;
+  for (const QWidget* widget : widgets) width = std::max(width, widget->sizeHint().width());
+  for (QWidget* widget : widgets) widget->setMinimumWidth(width);
+}
+
 QLayout* column(const std::vector<FieldEditor>& editors, const Indices& fields) {
   auto* layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  layout->setVerticalSpacing(kBetweenRows);
+  std::vector<QWidget*> numbers;
+  std::vector<QWidget*> buttons;
   for (const size_t i : fields) {
     const FieldEditor& editor = editors[i];
+    if (qobject_cast<NumberBox*>(editor.focus)) numbers.push_back(editor.focus);
+    if (qobject_cast<QPushButton*>(editor.label)) buttons.push_back(editor.label);
     editor.label ? layout->addRow(editor.label, editor.widget) : layout->addRow(editor.widget);
   }
+  makeAlike(numbers);
+  makeAlike(buttons);
   return layout;
 }
 
 QLayout* colourGrid(const std::vector<FieldEditor>& editors, const Indices& fields) {
   auto* grid = new QGridLayout;
+  grid->setSpacing(kBetweenRows);
   int index = 0;
   for (const size_t i : fields) {
     grid->addWidget(editors[i].widget, index % kColourRows, index / kColourRows);

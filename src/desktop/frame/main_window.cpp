@@ -256,12 +256,6 @@ void TVelkWindow::helpRequested() {
   help_->showContents();
 }
 
-bool TVelkWindow::showReplaceTexture() {
-  if (!replace_) replace_ = new ReplaceDialog(editor_, this);
-  replace_->present();
-  return true;
-}
-
 void TVelkWindow::exitRequested() {
   leaving_ = true;
   close();

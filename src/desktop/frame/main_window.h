@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "app/editor.h"
-#include "desktop/dialogs/replace_dialog.h"
 #include "desktop/frame/bars.h"
 #include "desktop/frame/child_windows.h"
 #include "desktop/frame/map_tabs.h"
@@ -57,7 +56,6 @@ class TVelkWindow : public QMainWindow, private Observer {
   void texturesChanged() override;
   void commandsChanged() override;
   void helpRequested() override;
-  bool showReplaceTexture() override;
   void exitRequested() override;
 
   void buildCentre();
@@ -70,7 +68,6 @@ class TVelkWindow : public QMainWindow, private Observer {
   QMdiArea* area_;
   TVelkStatusBar* status_;
   HelpWindow* help_ = nullptr;              // made when first asked for
-  ReplaceDialog* replace_ = nullptr;        // as well
   FileWatch* watch_ = nullptr;              // none without a user
   MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
