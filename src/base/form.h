@@ -21,6 +21,7 @@ struct NumberRange {
   double step = 1;     // of the field's arrows
   int decimals = 0;    // shown; of real numbers only
   std::string unit{};  // shown behind the number, "px"
+  friend bool operator==(const NumberRange&, const NumberRange&) = default;
   bool holds(double value) const { return value >= low && value <= high; }
   // "1 to 64 px", "at least 1", "at most 64"; empty without limits.
   std::string text() const;

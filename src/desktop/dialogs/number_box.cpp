@@ -21,6 +21,7 @@ NumberBox::NumberBox(const FormField& field) {
 }
 
 void NumberBox::setNumberRange(const NumberRange& range) {
+  if (range_ == range) return;  // a number that is half typed would be completed
   range_ = range;
   setSingleStep(range.step);
   setSuffix(range.unit.empty() ? QString() : ' ' + ShownText(range.unit));
