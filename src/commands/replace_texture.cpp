@@ -1,21 +1,24 @@
 #include "commands/replace_texture.h"
 
 #include "base/text.h"
+#include "commands/bars.h"
+#include "commands/replace_form.h"
 #include "ops/face_textures.h"
 
 namespace velk {
-namespace {
 
-constexpr const char* kReplaceCaption = "Velk - Replace Texture";
-
-}  // namespace
-
-Outcome AskForReplacing(Editor& editor, map& m) {
-  Prompts& prompts = editor.services().prompts;
-  const auto from = prompts.input({kReplaceCaption, "Find what:", ""});
-  if (!from) return {};
-  const auto to = prompts.input({kReplaceCaption, "Replace with:", ""});
-  return to ? ReplaceTextureBy(editor, m, *from, *to) : Outcome{};
+Outcome AskForReplacing(Editor& editor, map&) {
+  ModelessForm replace = ReplaceForm("", "", TextureListNames(editor));
+  // The form stays open; another map may be shown then, or none.
+  replace.pressed = [&editor](Form& form, size_t) {
+    map* m = editor.documents().currentMap();
+    if (!m) return;
+    editor.door().perform({.name = "Replace"}, [&] {
+      return ReplaceTextureBy(editor, *m, NameIn(form, "find"), NameIn(form, "replace"));
+    });
+  };
+  editor.services().prompts.show(std::move(replace));
+  return {};
 }
 
 Outcome ReplaceTextureBy(Editor& editor, map& m, const std::string& from, const std::string& to) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "settings/key_table.h"
 
 namespace velk {
 namespace {
@@ -13,49 +14,69 @@ struct Labelled {
   const char* key;
   const char* label;
   Kind kind;
+  const char* page = "";
+  const char* unit = "";
+  int step = 1;
 };
 
-// In the order in which the dialog shows them.
+constexpr const char* kPlanViews = "Plan Views";
+constexpr const char* kEditing = "Editing";
+constexpr const char* kCamera = "Camera View";
+constexpr const char* kTextures = "Textures";
+constexpr const char* kWindow = "Main Window";
+
+// In the order in which the dialog shows them, page by page.
 constexpr Labelled kPreferences[] = {
-    {"gridsize", "Grid Size", Kind::Text},
-    {"start_set->scale", "Start Scale (percent)", Kind::Text},
-    {"stepsize", "Step Size", Kind::Text},
-    {"steps_per_turn", "Steps Per Turn", Kind::Text},
-    {"far_clip_distance", "Far Clip Distance", Kind::Text},
-    {"select_delta", "Selection Delta", Kind::Text},
-    {"drag_vertex", "Vertex Mode (0 = off, 1, or 2)", Kind::Text},
-    {"vertex_drag_sensitivity", "Vertex Drag Sensitivity", Kind::Text},
-    {"face_drag_percent", "Face Drag Percent", Kind::Text},
-    {"lightintensity", "Light Intensity", Kind::Text},
-    {"ambientintensity", "Ambient Intensity", Kind::Text},
-    {"texture_width", "Texture Width", Kind::Text},
-    {"texture_height", "Texture Height", Kind::Text},
-    {"height_fav", "Favorites Height", Kind::Text},
-    {"height_frq", "Frequent Height", Kind::Text},
-    {"undo_levels", "Undo Levels", Kind::Text},
-    {"gammashift", "Gammashift (0 = off)*", Kind::Text},
-    {"velk_font", "Velk Font*", Kind::Text},
-    {"velk_font_size", "Velk Font Size*", Kind::Text},
-    {"show_tabs", "Show Tabs (0/off, 1/top, 2/bottom)*", Kind::Text},
-    {"show_grid", "Grid On", Kind::Flag},
-    {"show_coordinates", "Show Grid Coordinates", Kind::Flag},
-    {"show_names", "Show Entity Names", Kind::Flag},
-    {"showeye", "Show Eye in XY Views", Kind::Flag},
-    {"show_cameras", "Show Cameras", Kind::Flag},
-    {"lock_cameras", "Unlock Cameras", Kind::Flag},
-    {"groupmode", "Group Mode On", Kind::Flag},
-    {"multi_select", "Allow Multiple Selection", Kind::Flag},
-    {"vertex_use_grid", "Vertex Dragging Uses Grid", Kind::Flag},
-    {"query_wall_width", "Query Wall Width", Kind::Flag},
-    {"texture_alignment", "Alt. 45 Deg. Face Texturing", Kind::Flag},
-    {"shadeflats", "Shade Flats", Kind::Flag},
-    {"shadetextures", "Shade Textures", Kind::Flag},
-    {"stretch_textures", "Stretch Textures", Kind::Flag},
-    {"show_favorites", "Show Favorites", Kind::Flag},
-    {"show_frequent", "Show Frequent", Kind::Flag},
-    {"wheel_zoom", "Wheel Zooms Plan Views", Kind::Flag},
-    {"middle_drag", "Middle Button Drags Plan Views", Kind::Flag},
+    {"gridsize", "Grid Size", Kind::Whole, kPlanViews, "units"},
+    {"start_set->scale", "Start Scale (percent)", Kind::Whole, kPlanViews, "%", 10},
+    {"select_delta", "Selection Delta", Kind::Whole, kPlanViews, "px"},
+    {"show_grid", "Grid On", Kind::Flag, kPlanViews},
+    {"show_coordinates", "Show Grid Coordinates", Kind::Flag, kPlanViews},
+    {"show_names", "Show Entity Names", Kind::Flag, kPlanViews},
+    {"showeye", "Show Eye in XY Views", Kind::Flag, kPlanViews},
+    {"wheel_zoom", "Wheel Zooms Plan Views", Kind::Flag, kPlanViews},
+    {"middle_drag", "Middle Button Drags Plan Views", Kind::Flag, kPlanViews},
+    {"drag_vertex", "Vertex Mode (0 = off, 1, or 2)", Kind::Choice, kEditing},
+    {"vertex_drag_sensitivity", "Vertex Drag Sensitivity", Kind::Whole, kEditing},
+    {"face_drag_percent", "Face Drag Percent", Kind::Whole, kEditing, "%"},
+    {"undo_levels", "Undo Levels", Kind::Whole, kEditing, "", 10},
+    {"vertex_use_grid", "Vertex Dragging Uses Grid", Kind::Flag, kEditing},
+    {"groupmode", "Group Mode On", Kind::Flag, kEditing},
+    {"multi_select", "Allow Multiple Selection", Kind::Flag, kEditing},
+    {"query_wall_width", "Query Wall Width", Kind::Flag, kEditing},
+    {"stepsize", "Step Size", Kind::Whole, kCamera, "units", 8},
+    {"steps_per_turn", "Steps Per Turn", Kind::Whole, kCamera},
+    {"far_clip_distance", "Far Clip Distance", Kind::Whole, kCamera, "units", 256},
+    {"lightintensity", "Light Intensity", Kind::Whole, kCamera},
+    {"ambientintensity", "Ambient Intensity", Kind::Whole, kCamera},
+    {"show_cameras", "Show Cameras", Kind::Flag, kCamera},
+    {"lock_cameras", "Unlock Cameras", Kind::Flag, kCamera},
+    {"shadeflats", "Shade Flats", Kind::Flag, kCamera},
+    {"shadetextures", "Shade Textures", Kind::Flag, kCamera},
+    {"texture_width", "Texture Width", Kind::Whole, kTextures, "px", 8},
+    {"texture_height", "Texture Height", Kind::Whole, kTextures, "px", 8},
+    {"height_fav", "Favorites Height", Kind::Whole, kTextures, "px", 8},
+    {"height_frq", "Frequent Height", Kind::Whole, kTextures, "px", 8},
+    {"gammashift", "Gammashift (0 = off)*", Kind::Whole, kTextures},
+    {"stretch_textures", "Stretch Textures", Kind::Flag, kTextures},
+    {"show_favorites", "Show Favorites", Kind::Flag, kTextures},
+    {"show_frequent", "Show Frequent", Kind::Flag, kTextures},
+    {"texture_alignment", "Alt. 45 Deg. Face Texturing", Kind::Flag, kTextures},
+    {"velk_font", "Velk Font*", Kind::Text, kWindow},
+    {"velk_font_size", "Velk Font Size*", Kind::Whole, kWindow, "px"},
+    {"show_tabs", "Show Tabs (0/off, 1/top, 2/bottom)*", Kind::Choice, kWindow},
 };
+
+// What the numbers of a key mean; an entry a number.
+struct Choices {
+  const char* key;
+  std::vector<std::string> texts;
+};
+const std::vector<Choices>& keyChoices() {
+  static const std::vector<Choices> all{{"drag_vertex", {"Off", "1", "2"}},
+                                        {"show_tabs", {"Off", "Top", "Bottom"}}};
+  return all;
+}
 
 constexpr Labelled kColours[] = {
     {"fgcolor", "Window Foreground", Kind::Colour},
@@ -100,31 +121,69 @@ bool isReversed(std::string_view key) { return key == "lock_cameras"; }
 
 std::string reversed(const std::string& flag) { return TextToInt(flag) != 0 ? "0" : "1"; }
 
+std::vector<std::string> choicesOf(std::string_view key) {
+  for (const Choices& choices : keyChoices()) {
+    if (choices.key == key) return choices.texts;
+  }
+  return {};
+}
+
+// The dialog's own; those of other keys stand in the key table.
+constexpr Limits kFaceDrag{1, 49};
+
+Limits limitsOf(const std::string& key) {
+  const SettingKey* known = FindSettingKey(key);
+  if (key == "face_drag_percent") return kFaceDrag;
+  return known ? known->limits : Limits{};
+}
+
+NumberRange rangeOf(const Labelled& from) {
+  const auto [low, high] = limitsOf(from.key);
+  NumberRange range;
+  range.low = low;
+  range.high = high;
+  range.step = from.step;
+  range.unit = from.unit;
+  return range;
+}
+
 FormField fieldOf(const Labelled& from, const Settings& settings, const char* chooser = "") {
-  FormField field{from.key, from.label, from.kind, SettingText(settings, from.key).value_or(""), {}, chooser};
+  FormField field;
+  field.name = from.key;
+  field.label = from.label;
+  field.kind = from.kind;
+  field.page = from.page;
+  field.title = chooser;
+  field.value = SettingText(settings, from.key).value_or("");
+  field.choices = choicesOf(from.key);
+  if (field.isNumber()) field.range = rangeOf(from);
   if (isReversed(from.key)) field.value = reversed(field.value);
   return field;
 }
 
 int shownScale(const Settings& settings) { return Truncate(RoundHalfAway(settings.scale * 100.0)); }
 
-// Limits that only the dialog has.
+// A number without digits keeps what the key holds.
 std::string limited(const FormField& field) {
-  if (field.name != "face_drag_percent") return field.value;
-  return Format("%i", std::clamp(TextToInt(field.value), 1, 49));
+  const auto number = LeadingInt(field.value);
+  if (!number || !field.isNumber()) return field.value;
+  const auto [low, high] = limitsOf(field.name);
+  return Format("%i", std::clamp(*number, low, high));
 }
 
-FormField choiceOf(const char* name, const char* label, const std::vector<std::string>& setups, int current) {
-  return {name, label, Kind::Choice, Format("%i", current), setups, ""};
+Form dialogOf(const char* title, const char* saveLabel, const char* note = "") {
+  Form form;
+  form.title = title;
+  form.saveLabel = saveLabel;
+  form.note = note;
+  return form;
 }
 
 }  // namespace
 
 Form PreferencesForm(const Settings& settings) {
-  Form form{"Preferences",
-            {},
-            "* = Must Save to Velk.ini and Restart Velk for Changes to Take Effect",
-            "Save to VELK.INI"};
+  Form form = dialogOf("Preferences", "Save to VELK.INI",
+                       "* = Must Save to Velk.ini and Restart Velk for Changes to Take Effect");
   Settings now = settings;
   now.start_set_scale = shownScale(settings);
   for (const Labelled& preference : kPreferences) form.fields.push_back(fieldOf(preference, now));
@@ -132,27 +191,24 @@ Form PreferencesForm(const Settings& settings) {
 }
 
 Form ColoursForm(const Settings& settings) {
-  Form form{"Set Colors...", {}, "", "Save"};
+  Form form = dialogOf("Set Colors...", "Save");
   for (const Labelled& colour : kColours) form.fields.push_back(fieldOf(colour, settings, colour.label));
   return form;
 }
 
 Form DirectoriesForm(const Settings& settings) {
-  Form form{"Set Directories & File Locations...",
-            {},
-            "Multiple .wad or .qc files are specified as:\nwad1.wad;wad2.wad;wad3.wad",
-            "Save to .ini"};
+  Form form = dialogOf("Set Directories & File Locations...", "Save to .ini",
+                       "Multiple .wad or .qc files are specified as:\nwad1.wad;wad2.wad;wad3.wad");
   for (const auto& [field, chooser] : kDirectories) form.fields.push_back(fieldOf(field, settings, chooser));
   return form;
 }
 
 Form MouseForm(const std::vector<std::string>& planSetups, int planCurrent,
                const std::vector<std::string>& cameraSetups, int cameraCurrent) {
-  return {"Mouse Settings",
-          {choiceOf("XY", "XY Settings", planSetups, planCurrent),
-           choiceOf("3D", "3D Settings", cameraSetups, cameraCurrent)},
-          "",
-          ""};
+  Form form = dialogOf("Mouse Settings", "");
+  form.fields = {ChoiceField("XY", "XY Settings", planCurrent, planSetups),
+                 ChoiceField("3D", "3D Settings", cameraCurrent, cameraSetups)};
+  return form;
 }
 
 void ApplyForm(const Form& form, Settings& settings) {
@@ -160,9 +216,8 @@ void ApplyForm(const Form& form, Settings& settings) {
     SetSettingText(settings, field.name, isReversed(field.name) ? reversed(field.value) : limited(field));
   }
   // The form shows whole percents; a scale that it did not change keeps its fraction.
-  const auto scale = std::find_if(form.fields.begin(), form.fields.end(),
-                                  [](const FormField& field) { return field.name == "start_set->scale"; });
-  const bool changed = scale != form.fields.end() && TextToInt(scale->value) != shownScale(settings);
+  const FormField* scale = form.find("start_set->scale");
+  const bool changed = scale && TextToInt(scale->value) != shownScale(settings);
   if (changed) settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
 }
 

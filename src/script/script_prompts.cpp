@@ -35,6 +35,22 @@ bool hasButton(MessageBox::Buttons buttons, Answer answer) {
   throw ScriptFailure(Format("%s: %s %s", what, ScriptQuoted(caption).c_str(), ScriptQuoted(text).c_str()));
 }
 
+void tellChanged(Form& form) {
+  if (form.changed) form.changed(form);
+}
+
+// The value as a user could give it.
+std::string valueFor(const Form& form, const FormField& field, const std::string& given) {
+  if (field.kind == FormField::Kind::Text) return CutText(given, field.maxLength);
+  if (!field.isChosen()) return given;
+  const auto same = [&given](const std::string& choice) { return EqualNoCase(choice, given); };
+  const auto count = static_cast<int>(field.choices.size());
+  const auto named = std::find_if(field.choices.begin(), field.choices.end(), same) - field.choices.begin();
+  const int index = named < count ? static_cast<int>(named) : LeadingInt(given).value_or(-1);
+  if (index < 0 || index >= count) failPrompt("no such choice of a field of", form.title, given);
+  return NumberText(index);
+}
+
 }  // namespace
 
 std::string ScriptQuoted(const std::string& text) {
@@ -111,19 +127,56 @@ std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) 
   return Colour{channel(0), channel(1), channel(2)};
 }
 
-FormAnswer ScriptPrompts::fill(Form& form) {
-  const Queued given = take("form", form.title, "");
+void ScriptPrompts::giveSets(Form& form) {
   for (const auto& [name, value] : std::exchange(sets_, {})) {
-    const auto field =
-        std::find_if(form.fields.begin(), form.fields.end(),
-                     [&, &wanted = name](const FormField& f) { return EqualNoCase(f.name, wanted); });
-    if (field == form.fields.end()) failPrompt("no such field in", form.title, name);
-    field->value = value;
+    FormField* field = form.find(name);
+    if (!field) failPrompt("no such field in", form.title, name);
+    if (!field->enabled) failPrompt("the field is disabled in", form.title, name);
+    field->value = valueFor(form, *field, value);
+    tellChanged(form);
   }
-  if (EqualNoCase(given.words[0], "ok")) return FormAnswer::Ok;
-  if (EqualNoCase(given.words[0], "save") && !form.saveLabel.empty()) return FormAnswer::Save;
-  if (EqualNoCase(given.words[0], "cancel")) return FormAnswer::Cancel;
-  failPrompt("the answer is none of the buttons of", form.title, "");
+}
+
+// A form that its check refuses stays open: it takes the next answer, with the reason as its text.
+std::optional<size_t> ScriptPrompts::accept(Form& form, const std::vector<std::string>& buttons) {
+  tellChanged(form);
+  std::string reason;
+  for (;;) {
+    const Queued given = take("form", form.title, reason);
+    giveSets(form);
+    if (given.cancels()) return std::nullopt;
+    const auto button = std::find_if(buttons.begin(), buttons.end(), [&given](const std::string& label) {
+      return given.words.size() == 1 && EqualNoCase(given.words[0], label);
+    });
+    if (button == buttons.end()) failPrompt("the answer is none of the buttons of", form.title, "");
+    if (!form.complete) failPrompt("not all that it needs is filled in", form.title, "");
+    const auto refusal = form.check ? form.check(form) : std::nullopt;
+    if (!refusal) return static_cast<size_t>(button - buttons.begin());
+    reason = refusal->text;
+  }
+}
+
+FormAnswer ScriptPrompts::fill(Form& form) {
+  const std::vector<FormField> fields = form.fields;
+  const std::string note = form.note;
+  std::vector<std::string> buttons{"ok"};
+  if (!form.saveLabel.empty()) buttons.push_back("save");
+  const std::optional<size_t> button = accept(form, buttons);
+  if (button) return *button == 0 ? FormAnswer::Ok : FormAnswer::Save;
+  form.fields = fields;
+  form.note = note;
+  return FormAnswer::Cancel;
+}
+
+// Beside the labels of its buttons, "ok" is the first one.
+void ScriptPrompts::show(ModelessForm modeless) {
+  std::vector<std::string> buttons{"ok"};
+  for (std::string label : modeless.buttons) {
+    std::erase(label, '&');
+    buttons.push_back(label);
+  }
+  const std::optional<size_t> button = accept(modeless.form, buttons);
+  if (button) modeless.pressed(modeless.form, *button == 0 ? 0 : *button - 1);
 }
 
 }  // namespace velk

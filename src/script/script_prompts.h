@@ -36,8 +36,10 @@ class ScriptPrompts : public Prompts {
   std::optional<std::string> input(const TextInput& input) override;
   std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
   FormAnswer fill(Form& form) override;
+  // Fills the form in, presses one of its buttons and closes it.
+  void show(ModelessForm form) override;
 
-  // The value of a field of the next form to be filled.
+  // The value of a field of the next form: its text, or one of its choices by text or number.
   void set(const std::string& field, const std::string& value) { sets_.emplace_back(field, value); }
 
  private:
@@ -48,6 +50,9 @@ class ScriptPrompts : public Prompts {
     bool cancels() const;
   };
   Queued take(const char* kind, const std::string& caption, const std::string& text);
+  // Gives the form what was set for it. The index of the button that accepts it, none for Cancel.
+  std::optional<size_t> accept(Form& form, const std::vector<std::string>& buttons);
+  void giveSets(Form& form);
 
   std::deque<Queued> answers_;
   std::vector<std::pair<std::string, std::string>> sets_;

@@ -158,6 +158,7 @@ struct Declining : Prompts {
   std::optional<std::string> input(const TextInput&) override { return std::nullopt; }
   std::optional<Colour> chooseColour(const ColourChooser&) override { return std::nullopt; }
   FormAnswer fill(Form&) override { return FormAnswer::Cancel; }
+  void show(ModelessForm) override {}
 };
 
 // Disabled rows are called, too, as a stale button would.

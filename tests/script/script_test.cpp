@@ -116,5 +116,59 @@ TEST(ScriptPrompts, AnswersByKind) {
       ScriptFailure);
 }
 
+// A number that is out of its limits is taken as typed; the check refuses it.
+TEST(ScriptPrompts, FormsTakeWhatAUserCouldGive) {
+  const auto form = [] {
+    Form made;
+    made.title = "Stairs";
+    made.fields = {WholeField("steps", "Steps", 12, {.low = 2}),
+                   RadioField("type", "Type", 0, {"Up", "2", "1"}), RealField("turns", "Turns", 2, {})};
+    made.changed = [](Form& f) { f.fields[2].enabled = f.whole("type") == 2; };
+    made.check = [](Form& f) {
+      return f.whole("steps") < 2 ? std::optional(FormRefusal{"too few", "steps"}) : std::nullopt;
+    };
+    return made;
+  };
+  const struct {
+    std::vector<std::pair<const char*, const char*>> sets;
+    const char* values;  // after OK
+    const char* failure = nullptr;
+  } cases[] = {
+      {{{"STEPS", "7"}, {"type", "up"}}, "7 0 2"},
+      {{{"type", "1"}, {"turns", "4.5"}}, "12 2 4.5"},  // the entry "1" is the third
+      {{{"type", "0"}}, "12 0 2"},
+      {{{"turns", "4"}}, "", "the field is disabled in: \"Stairs\" \"turns\""},
+      {{{"type", "3"}}, "", "no such choice of a field of: \"Stairs\" \"3\""},
+      {{{"depth", "3"}}, "", "no such field in: \"Stairs\" \"depth\""},
+      {{{"steps", "1"}}, "", "no answer for the prompt: \"Stairs\" \"too few\""},
+  };
+  for (const auto& [sets, values, failure] : cases) {
+    ScriptPrompts prompts;
+    Form filled = form();
+    for (const auto& [field, value] : sets) prompts.set(field, value);
+    prompts.queue({"ok"}, false);
+    try {
+      EXPECT_EQ(prompts.fill(filled), FormAnswer::Ok);
+      EXPECT_FALSE(failure) << failure;
+      EXPECT_EQ(filled.text("steps") + ' ' + filled.text("type") + ' ' + filled.text("turns"), values);
+    } catch (const ScriptFailure& failed) {
+      EXPECT_STREQ(failed.what(), failure);
+    }
+  }
+}
+
+TEST(ScriptPrompts, ARefusedFormTakesTheNextAnswerAndCancelTakesAllBack) {
+  ScriptPrompts prompts;
+  Form form;
+  form.fields = {TextField("name", "Name", "old")};
+  form.check = [](Form&) { return std::optional(FormRefusal{"never", ""}); };
+  prompts.set("name", "new");
+  prompts.queue({"ok"}, false);
+  prompts.queue({"cancel"}, false);
+  EXPECT_EQ(prompts.fill(form), FormAnswer::Cancel);
+  EXPECT_EQ(form.text("name"), "old");
+  EXPECT_EQ(prompts.log().back(), "form \"\" \"never\" cancel");
+}
+
 }  // namespace
 }  // namespace velk

@@ -49,6 +49,10 @@ class ScriptedPrompts : public Prompts {
                                                                                : FormAnswer::Cancel;
   }
 
+  void show(ModelessForm form) override {
+    if (next<Answer>(form.form.title, "") == Answer::Ok) form.pressed(form.form, 0);
+  }
+
   size_t unused() const { return queue_.size(); }
 
   // Every prompt so far as "caption|text", and as it was given, by kind.

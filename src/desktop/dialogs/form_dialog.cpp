@@ -1,201 +1,152 @@
 #include "desktop/dialogs/form_dialog.h"
 
-#include <QCheckBox>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPainter>
-#include <QPushButton>
+#include <QPointer>
+#include <QStyle>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <cstdio>
-#include <memory>
 
-#include "base/text.h"
+#include "desktop/dialogs/picture_panel.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
-namespace {
-
-constexpr int kColourRows = 10;
-constexpr int kSwatchWidth = 28;
-constexpr int kSwatchHeight = 16;
-
-QColor colourOf(const std::string& value) {
-  int red = 0;
-  int green = 0;
-  int blue = 0;
-  std::sscanf(value.c_str(), "%i %i %i", &red, &green, &blue);
-  return QColor(red, green, blue);
-}
-
-// Framed, since a colour may be that of the button.
-QIcon swatch(const std::string& value) {
-  QPixmap pixmap(kSwatchWidth, kSwatchHeight);
-  pixmap.fill(colourOf(value));
-  QPainter painter(&pixmap);
-  painter.setPen(Qt::gray);
-  painter.drawRect(0, 0, kSwatchWidth - 1, kSwatchHeight - 1);
-  painter.end();
-  return QIcon(pixmap);
-}
-
-bool isColour(const FormField& field) { return field.kind == FormField::Kind::Colour; }
-bool isFlag(const FormField& field) { return field.kind == FormField::Kind::Flag; }
-
-}  // namespace
 
 FormDialog::FormDialog(Form& form, const Paths* paths, QWidget* parent)
-    : QDialog(parent), form_(form), paths_(paths) {
-  setWindowTitle(ShownText(form.title));
+    : QDialog(parent), form_(form), fieldsBefore_(form.fields), noteBefore_(form.note) {
+  build(paths, modalButtons());
+}
+
+FormDialog::FormDialog(ModelessForm form, const Paths* paths, QWidget* parent)
+    : QDialog(parent), modeless_(std::move(form)), form_(modeless_->form) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  build(paths, modelessButtons());
+}
+
+// Upright buttons stand beside the fields, others below.
+void FormDialog::build(const Paths* paths, QDialogButtonBox* buttons) {
+  setWindowTitle(ShownText(form_.title));
+  std::vector<FieldEditor> editors;
+  for (size_t i = 0; i < form_.fields.size(); ++i) {
+    const auto edited = [this, i](const std::string& value) { change(i, value); };
+    editors.push_back(MakeFieldEditor(form_.fields[i], paths, edited));
+  }
   auto* whole = new QVBoxLayout(this);
-  auto* columns = new QHBoxLayout;
-  columns->setSpacing(24);
-  const bool colours = std::any_of(form.fields.begin(), form.fields.end(), isColour);
-  const bool flags = std::any_of(form.fields.begin(), form.fields.end(), isFlag);
-  columns->addWidget(colours ? colourGrid() : column(false));
-  if (flags) columns->addWidget(column(true), 0, Qt::AlignTop);
-  whole->addLayout(columns);
-  if (!form.note.empty()) whole->addWidget(new QLabel(ShownText(form.note)));
-  whole->addWidget(buttons());
+  auto* row = new QHBoxLayout;
+  whole->addLayout(row, 1);
+  row->addWidget(pages_ = new FormPages(form_, std::move(editors)));
+  if (form_.picture) row->addWidget(picture_ = new PicturePanel(form_.picture), 1);
+  whole->addWidget(note_ = new QLabel);
+  whole->addWidget(refusal_ = refusalRow());
+  if (buttons->orientation() == Qt::Vertical) {
+    row->addWidget(buttons);
+  } else {
+    whole->addWidget(buttons);
+  }
+  tellChanged();
+}
+
+QWidget* FormDialog::refusalRow() {
+  auto* widget = new QWidget;
+  auto* row = new QHBoxLayout(widget);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* icon = new QLabel;
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
+  reason_ = new QLabel;
+  reason_->setObjectName("reason");
+  reason_->setTextFormat(Qt::PlainText);
+  row->addWidget(icon);
+  row->addWidget(reason_, 1);
+  widget->hide();
+  return widget;
+}
+
+QDialogButtonBox* FormDialog::modalButtons() {
+  auto* box = new QDialogButtonBox(QDialogButtonBox::Ok);
+  if (form_.cancel) box->addButton(QDialogButtonBox::Cancel);
+  connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  const auto accepts = [this](QPushButton* button, FormAnswer answer) {
+    accepting_.push_back(button);
+    connect(button, &QPushButton::clicked, this, [this, answer] { finish(answer); });
+  };
+  accepts(box->button(QDialogButtonBox::Ok), FormAnswer::Ok);
+  if (!form_.saveLabel.empty()) {
+    accepts(box->addButton(ShownText(form_.saveLabel), QDialogButtonBox::ActionRole), FormAnswer::Save);
+  }
+  return box;
+}
+
+QDialogButtonBox* FormDialog::modelessButtons() {
+  auto* box = new QDialogButtonBox(Qt::Vertical);
+  for (const std::string& label : modeless_->buttons) {
+    QPushButton* button = box->addButton(ShownText(label), QDialogButtonBox::ActionRole);
+    connect(button, &QPushButton::clicked, this, [this, number = accepting_.size()] { press(number); });
+    accepting_.push_back(button);
+  }
+  if (!accepting_.empty()) accepting_.front()->setDefault(true);
+  box->addButton(QDialogButtonBox::Close)->setAutoDefault(false);
+  connect(box, &QDialogButtonBox::rejected, this, &QWidget::close);
+  return box;
 }
 
 FormAnswer FormDialog::run() {
   exec();
-  if (answer_ != FormAnswer::Cancel) {
-    for (const auto& collect : collect_) collect();
+  if (answer_ == FormAnswer::Cancel) {
+    form_.fields = fieldsBefore_;
+    form_.note = noteBefore_;
   }
   return answer_;
 }
 
-QWidget* FormDialog::column(bool flags) {
-  auto* widget = new QWidget;
-  auto* layout = new QFormLayout(widget);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setVerticalSpacing(flags ? 6 : 3);
-  layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (FormField& field : form_.fields) {
-    if (isFlag(field) != flags) continue;
-    QWidget* editor = editorFor(field);
-    if (flags) {
-      layout->addRow(editor);
-    } else {
-      layout->addRow(ShownText(field.label), editor);
-    }
+void FormDialog::present() {
+  show();
+  raise();
+  activateWindow();
+  if (!form_.fields.empty()) pages_->focus(0);
+}
+
+void FormDialog::change(size_t field, const std::string& value) {
+  form_.fields[field].value = value;
+  refusal_->hide();
+  tellChanged();
+}
+
+void FormDialog::tellChanged() {
+  if (form_.changed) form_.changed(form_);
+  pages_->refresh(form_);
+  note_->setText(ShownText(form_.note));
+  note_->setVisible(!form_.note.empty());
+  for (QPushButton* button : accepting_) button->setEnabled(form_.complete);
+  if (picture_) picture_->findChild<PictureView*>()->update();
+}
+
+bool FormDialog::isAccepted() {
+  const auto refusal = form_.check ? form_.check(form_) : std::nullopt;
+  if (refusal) showRefusal(*refusal);
+  return !refusal;
+}
+
+void FormDialog::showRefusal(const FormRefusal& refusal) {
+  QString reason = ShownText(refusal.text);
+  if (const FormField* field = form_.find(refusal.field)) {
+    reason = ShownText(field->label).remove('&') + ": " + reason;
+    pages_->focus(static_cast<size_t>(field - form_.fields.data()));
   }
-  return widget;
+  reason_->setText(reason);
+  refusal_->setVisible(!refusal.text.empty());
 }
 
-QWidget* FormDialog::colourGrid() {
-  auto* widget = new QWidget;
-  auto* grid = new QGridLayout(widget);
-  grid->setContentsMargins(0, 0, 0, 0);
-  int index = 0;
-  for (FormField& field : form_.fields) {
-    grid->addWidget(colourEditor(field), index % kColourRows, index / kColourRows);
-    ++index;
-  }
-  return widget;
+void FormDialog::finish(FormAnswer answer) {
+  if (!isAccepted()) return;
+  answer_ = answer;
+  accept();
 }
 
-QWidget* FormDialog::editorFor(FormField& field) {
-  switch (field.kind) {
-    case FormField::Kind::Flag:
-      return flagEditor(field);
-    case FormField::Kind::Choice:
-      return choiceEditor(field);
-    case FormField::Kind::Colour:
-      return colourEditor(field);
-    case FormField::Kind::Folder:
-    case FormField::Kind::File:
-      return pathEditor(field);
-    case FormField::Kind::Text:
-      break;
-  }
-  return textEditor(field);
-}
-
-QWidget* FormDialog::textEditor(FormField& field) {
-  auto* edit = new QLineEdit(ShownText(field.value));
-  edit->setMinimumWidth(110);
-  collect_.emplace_back([edit, &field] { field.value = GivenText(edit->text()); });
-  return edit;
-}
-
-QWidget* FormDialog::flagEditor(FormField& field) {
-  auto* box = new QCheckBox(ShownText(field.label));
-  box->setChecked(TextToInt(field.value) != 0);
-  collect_.emplace_back([box, &field] { field.value = box->isChecked() ? "1" : "0"; });
-  return box;
-}
-
-QWidget* FormDialog::choiceEditor(FormField& field) {
-  auto* list = new QComboBox;
-  list->setMinimumWidth(180);
-  for (const std::string& choice : field.choices) list->addItem(ShownText(choice));
-  list->setCurrentIndex(TextToInt(field.value));
-  list->setEnabled(!field.choices.empty());
-  collect_.emplace_back([list, &field] { field.value = Format("%i", list->currentIndex()); });
-  return list;
-}
-
-QWidget* FormDialog::colourEditor(FormField& field) {
-  auto* button = new QPushButton(swatch(field.value), ShownText(field.label));
-  button->setIconSize(QSize(kSwatchWidth, kSwatchHeight));
-  button->setStyleSheet("text-align: left; padding: 4px 8px;");
-  button->setAutoDefault(false);
-  auto chosen = std::make_shared<std::string>(field.value);
-  connect(button, &QPushButton::clicked, this, [this, button, chosen, &field] {
-    const QColor colour = QColorDialog::getColor(colourOf(*chosen), this, ShownText(field.title));
-    if (!colour.isValid()) return;
-    *chosen = Format("%i %i %i", colour.red(), colour.green(), colour.blue());
-    button->setIcon(swatch(*chosen));
-  });
-  collect_.emplace_back([chosen, &field] { field.value = *chosen; });
-  return button;
-}
-
-QWidget* FormDialog::pathEditor(FormField& field) {
-  auto* widget = new QWidget;
-  auto* row = new QHBoxLayout(widget);
-  row->setContentsMargins(0, 0, 0, 0);
-  auto* edit = new QLineEdit(ShownText(field.value));
-  edit->setMinimumWidth(320);
-  auto* button = new QPushButton("Choose...");
-  button->setAutoDefault(false);
-  row->addWidget(edit, 1);
-  row->addWidget(button);
-  connect(button, &QPushButton::clicked, this, [this, edit, &field] {
-    const QString start = paths_ ? ShownText(paths_->native(GivenText(edit->text())).string()) : edit->text();
-    const bool folder = field.kind == FormField::Kind::Folder;
-    const QString chosen = folder ? QFileDialog::getExistingDirectory(this, ShownText(field.title), start)
-                                  : QFileDialog::getOpenFileName(this, ShownText(field.title), start);
-    if (!chosen.isEmpty()) edit->setText(folder ? ShownText(WithSeparator(GivenText(chosen + '/'))) : chosen);
-  });
-  collect_.emplace_back([edit, &field] { field.value = GivenText(edit->text()); });
-  return widget;
-}
-
-QWidget* FormDialog::buttons() {
-  auto* box = new QDialogButtonBox(QDialogButtonBox::Ok);
-  if (form_.cancel) box->addButton(QDialogButtonBox::Cancel);
-  const auto finish = [this](FormAnswer answer) {
-    answer_ = answer;
-    accept();
-  };
-  connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(box->button(QDialogButtonBox::Ok), &QPushButton::clicked, this,
-          [finish] { finish(FormAnswer::Ok); });
-  if (!form_.saveLabel.empty()) {
-    QPushButton* save = box->addButton(ShownText(form_.saveLabel), QDialogButtonBox::ActionRole);
-    connect(save, &QPushButton::clicked, this, [finish] { finish(FormAnswer::Save); });
-  }
-  return box;
+// What runs may end the program's windows, this one too.
+void FormDialog::press(size_t button) {
+  if (!isAccepted()) return;
+  const QPointer<FormDialog> self(this);
+  if (modeless_->pressed) modeless_->pressed(form_, button);
+  if (self) present();
 }
 
 }  // namespace velk

@@ -35,4 +35,6 @@ std::optional<Colour> PicturePrompts::chooseColour(const ColourChooser& chooser)
 
 FormAnswer PicturePrompts::fill(Form& form) { refuse(form.title, ""); }
 
+void PicturePrompts::show(ModelessForm form) { refuse(form.form.title, ""); }
+
 }  // namespace velk

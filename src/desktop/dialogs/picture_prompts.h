@@ -17,6 +17,7 @@ class PicturePrompts : public Prompts {
   std::optional<std::string> input(const TextInput& input) override;
   std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
   FormAnswer fill(Form& form) override;
+  void show(ModelessForm form) override;
 
  private:
   const Settings* settings_ = nullptr;

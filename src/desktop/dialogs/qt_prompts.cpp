@@ -11,7 +11,6 @@
 #include <QTreeView>
 
 #include "base/text.h"
-#include "desktop/dialogs/form_dialog.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -167,6 +166,15 @@ std::optional<Colour> QtPrompts::chooseColour(const ColourChooser& chooser) {
 FormAnswer QtPrompts::fill(Form& form) {
   FormDialog dialog(form, paths_, owner_);
   return dialog.run();
+}
+
+void QtPrompts::show(ModelessForm form) {
+  std::erase_if(open_, [](const auto& dialog) { return dialog.isNull(); });
+  for (const auto& dialog : open_) {
+    if (dialog->windowTitle() == ShownText(form.form.title)) return dialog->present();
+  }
+  open_.emplace_back(new FormDialog(std::move(form), paths_, owner_));
+  open_.back()->present();
 }
 
 }  // namespace velk

@@ -1,10 +1,13 @@
 // The editor's questions as Qt's dialogs.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
+#include <vector>
 
 #include "base/paths.h"
 #include "base/prompts.h"
+#include "desktop/dialogs/form_dialog.h"
 
 namespace velk {
 
@@ -20,10 +23,12 @@ class QtPrompts : public Prompts {
   std::optional<std::string> input(const TextInput& input) override;
   std::optional<Colour> chooseColour(const ColourChooser& chooser) override;
   FormAnswer fill(Form& form) override;
+  void show(ModelessForm form) override;
 
  private:
   QWidget* owner_ = nullptr;
   const Paths* paths_ = nullptr;
+  std::vector<QPointer<FormDialog>> open_;  // forms beside the windows; those that were closed are null
 };
 
 }  // namespace velk

@@ -1,0 +1,74 @@
+#include "desktop/frame/menus.h"
+
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+#include "application.h"
+#include "support/session.h"
+
+namespace velk {
+namespace {
+
+// The item of a command, brought up to date as an opening menu does.
+QAction& itemOf(QMenuBar& bar, int id) {
+  for (QMenu* menu : bar.findChildren<QMenu*>()) {
+    for (QAction* action : menu->actions()) {
+      if (action->menu() || action->data().toInt() != id) continue;
+      Q_EMIT menu->aboutToShow();
+      return *action;
+    }
+  }
+  throw std::runtime_error("no item of the command " + std::to_string(id));
+}
+
+TEST(Menus, ItemsHaveLabelsKeysMarksAndStates) {
+  test::application();
+  test::Session session;
+  QMenuBar bar;
+  BuildMenus(bar, session.editor);
+  const auto item = [&bar](const char* name) -> QAction& { return itemOf(bar, FindCommand(name)->id); };
+
+  EXPECT_EQ(item("CM_FILESAVE").text(), "&Save\tCtrl-S");
+  EXPECT_FALSE(item("CM_FILESAVE").isEnabled());
+  EXPECT_FALSE(item("CM_FILESAVE").isCheckable());
+  session.open();
+  EXPECT_TRUE(item("CM_FILESAVE").isEnabled());
+
+  QAction& outline = item("CM_TOGGLE_OUTLINE");
+  EXPECT_TRUE(outline.isCheckable());
+  for (const bool on : {true, false}) {
+    outline.trigger();
+    EXPECT_EQ(item("CM_TOGGLE_OUTLINE").isChecked(), on);
+  }
+}
+
+// A map's name may hold what the menu takes for the sign of a mnemonic.
+TEST(Menus, NamesOfMapsAreShownAsTheyAre) {
+  test::application();
+  test::Session session;
+  QMenuBar bar;
+  BuildMenus(bar, session.editor);
+  EXPECT_FALSE(itemOf(bar, kFirstRecentMap).isVisible());
+  session.editor.attend();
+  session.open("this & that.map");
+  EXPECT_TRUE(itemOf(bar, kFirstRecentMap).isVisible());
+  EXPECT_TRUE(itemOf(bar, kFirstRecentMap).text().contains("this && that.map"));
+}
+
+// Of the items that exclude each other exactly one is marked, whichever was chosen.
+TEST(Menus, OneOfTheGridsIsMarked) {
+  test::application();
+  test::Session session;
+  session.open();
+  QMenuBar bar;
+  BuildMenus(bar, session.editor);
+  constexpr int kGridOf1 = 550;
+  for (const int chosen : {3, 0}) {
+    itemOf(bar, kGridOf1 + chosen).trigger();
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(itemOf(bar, kGridOf1 + i).isChecked(), i == chosen) << i;
+  }
+}
+
+}  // namespace
+}  // namespace velk
