@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include "base/error.h"
 #include "mapfile/map_reader.h"
 #include "mapfile/map_writer.h"
+#include "require.h"
 
 namespace {
 
@@ -39,12 +39,6 @@ std::string Resaved(std::string_view text, bool merge) {
   velk::GroupExportText(m, -1);
   velk::MapFileText(m, {.comments = false, .selectedOnly = true});
   return velk::MapFileText(m, {});
-}
-
-void Require(bool truth, const char* what) {
-  if (truth) return;
-  std::fprintf(stderr, "%s\n", what);
-  std::abort();
 }
 
 }  // namespace
