@@ -78,11 +78,11 @@ struct Desk {
 
 void Count(benchmark::State& state, Desk& desk) { state.counters["brushes"] = desk.m().brushCount(); }
 
-enum Changed { kNothing, kOneBrush, kAllBrushes };
+enum Changed { KNothing, KOneBrush, KAllBrushes };
 
 void Change(Desk& desk, Changed changed, int round) {
-  if (changed == kOneBrush) desk.moveOne(round);
-  if (changed == kAllBrushes) desk.moveAll();
+  if (changed == KOneBrush) desk.moveOne(round);
+  if (changed == KAllBrushes) desk.moveAll();
 }
 
 // The copy alone, of a map that was changed since the last one.
@@ -97,9 +97,9 @@ void TakeCopy(benchmark::State& state, Changed changed) {
   }
   Count(state, desk);
 }
-BENCHMARK_CAPTURE(TakeCopy, unchanged, kNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(TakeCopy, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(TakeCopy, all_brushes_moved, kAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TakeCopy, unchanged, KNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TakeCopy, one_brush_moved, KOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(TakeCopy, all_brushes_moved, KAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
 
 // What a command pays for being undoable, before and after its change.
 void RunCommand(benchmark::State& state, Changed changed) {
@@ -114,9 +114,9 @@ void RunCommand(benchmark::State& state, Changed changed) {
   }
   Count(state, desk);
 }
-BENCHMARK_CAPTURE(RunCommand, nothing_changed, kNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(RunCommand, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(RunCommand, all_brushes_moved, kAllBrushes)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RunCommand, nothing_changed, KNothing)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RunCommand, one_brush_moved, KOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(RunCommand, all_brushes_moved, KAllBrushes)->Arg(100)->Unit(benchmark::kMillisecond);
 
 void Undo(benchmark::State& state, Changed changed) {
   Desk desk(static_cast<int>(state.range(0)));
@@ -130,8 +130,8 @@ void Undo(benchmark::State& state, Changed changed) {
   }
   Count(state, desk);
 }
-BENCHMARK_CAPTURE(Undo, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Undo, all_brushes_moved, kAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Undo, one_brush_moved, KOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Undo, all_brushes_moved, KAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
 
 double HeapBytes() {
   const struct mallinfo2 heap = mallinfo2();

@@ -19,7 +19,7 @@ struct FatalError : std::runtime_error {
 };
 
 const velk::EntityClassList& Classes() {
-  static const velk::EntityClassList classes = [] {
+  static const velk::EntityClassList kClasses = [] {
     velk::EntityClassList list;
     list.scanText(
         "/*QUAKED worldspawn (0 0 0) ?\n*/\n"
@@ -27,7 +27,7 @@ const velk::EntityClassList& Classes() {
         "/*QUAKED info_player_start (1 0 0) (-16 -16 -24) (16 16 32)\n*/\n");
     return list;
   }();
-  return classes;
+  return kClasses;
 }
 
 // The text that a save of `text` makes.

@@ -167,23 +167,23 @@ CameraOutcome ResetAngles(map& m) {
 }
 
 CameraOutcome FloorUp(map& m) {
-  constexpr double none = 32767;
-  double best = none;
+  constexpr double kNone = 32767;
+  double best = kNone;
   VisitFloors(m, [&](double height) {
     if (height > 0 && height < best) best = height;
   });
-  if (best == none) return {"Already at top level"};
+  if (best == kNone) return {"Already at top level"};
   Shift(m, 0, 0, best);
   return Moved("Moved up a floor");
 }
 
 CameraOutcome FloorDown(map& m) {
-  constexpr double none = -32765;
-  double best = none;
+  constexpr double kNone = -32765;
+  double best = kNone;
   VisitFloors(m, [&](double height) {
     if (height < 0 && height > best) best = height;
   });
-  if (best == none) return {"Already at bottom level"};
+  if (best == kNone) return {"Already at bottom level"};
   Shift(m, 0, 0, best);
   return Moved("Moved down a floor");
 }

@@ -10,26 +10,26 @@
 namespace velk {
 namespace {
 
-std::string named(const Command& command) { return std::to_string(command.id) + " " + command.name; }
+std::string Named(const Command& command) { return std::to_string(command.id) + " " + command.name; }
 
 TEST(CommandTable, EveryRowIsSound) {
   std::set<int> ids;
   std::set<std::string> names;
   std::set<std::string> places;
   for (const Command& command : Commands()) {
-    EXPECT_TRUE(ids.insert(command.id).second) << "twice: " << named(command);
+    EXPECT_TRUE(ids.insert(command.id).second) << "twice: " << Named(command);
     if (*command.name) {
-      EXPECT_TRUE(names.insert(command.name).second) << "twice: " << named(command);
+      EXPECT_TRUE(names.insert(command.name).second) << "twice: " << Named(command);
     }
-    EXPECT_STRNE(command.label, "") << named(command);
+    EXPECT_STRNE(command.label, "") << Named(command);
     if (*command.menu) {
-      EXPECT_TRUE(places.insert(std::string(command.menu) + "|" + command.label).second) << named(command);
+      EXPECT_TRUE(places.insert(std::string(command.menu) + "|" + command.label).second) << Named(command);
     } else {
-      EXPECT_TRUE(*command.name || *command.keys || command.id == 229) << "nowhere: " << named(command);
+      EXPECT_TRUE(*command.name || *command.keys || command.id == 229) << "nowhere: " << Named(command);
     }
     // The one row that has no hint.
-    EXPECT_NE(*command.hint == '\0', command.id != 560) << named(command);
-    EXPECT_NE(command.run == nullptr, *command.reason == '\0') << "handler or reason: " << named(command);
+    EXPECT_NE(*command.hint == '\0', command.id != 560) << Named(command);
+    EXPECT_NE(command.run == nullptr, *command.reason == '\0') << "handler or reason: " << Named(command);
   }
 }
 
@@ -37,8 +37,8 @@ TEST(CommandTable, NoTwoRowsOnOneKey) {
   std::map<std::string, std::string> owners;
   for (const Command& command : Commands()) {
     for (const KeyStroke& stroke : StrokesOf(command)) {
-      EXPECT_NE(stroke.key, KeyStroke::Key::None) << named(command);
-      EXPECT_EQ(CommandOnKey(stroke), &command) << named(command) << " and " << named(*CommandOnKey(stroke));
+      EXPECT_NE(stroke.key, KeyStroke::Key::None) << Named(command);
+      EXPECT_EQ(CommandOnKey(stroke), &command) << Named(command) << " and " << Named(*CommandOnKey(stroke));
     }
   }
 }
@@ -130,7 +130,7 @@ constexpr const char* kNeedMap =
 constexpr const char* kOtherRules =
     "CM_FILENEW CM_FILEOPEN CM_EDITCOPY CM_EDITCLONE CM_COPY_MOVE 11844 1100 298 24337 98 24338";
 
-std::set<const Command*> namedIn(const char* list) {
+std::set<const Command*> NamedIn(const char* list) {
   std::set<const Command*> commands;
   for (const std::string& name : Split(list, ' ')) commands.insert(FindCommand(name));
   EXPECT_FALSE(commands.contains(nullptr)) << list;
@@ -138,14 +138,14 @@ std::set<const Command*> namedIn(const char* list) {
 }
 
 TEST(CommandTable, WhatNeedsAMapAndWhatDoesNot) {
-  const std::set<const Command*> needMap = namedIn(kNeedMap);
-  const std::set<const Command*> other = namedIn(kOtherRules);
+  const std::set<const Command*> needMap = NamedIn(kNeedMap);
+  const std::set<const Command*> other = NamedIn(kOtherRules);
   for (const Command& command : Commands()) {
     if (other.contains(&command) || (command.id >= 1000 && command.id < 1200)) continue;
     const bool needs = needMap.contains(&command) || command.checked;
-    EXPECT_EQ(command.when, needs ? When::MapOpen : When::Always) << named(command);
+    EXPECT_EQ(command.when, needs ? When::MapOpen : When::Always) << Named(command);
   }
-  for (const Command* command : other) EXPECT_NE(command->when, When::Always) << named(*command);
+  for (const Command* command : other) EXPECT_NE(command->when, When::Always) << Named(*command);
 }
 
 // Answers every question with Cancel.
@@ -178,9 +178,9 @@ TEST(Commands, LoseNothingWhenDeclined) {
       if (m) m->modified = true;
       const int brushes = m ? m->brushCount() : 0;
       if (!RunCommand(editor, command) && command.run) command.run(editor);
-      EXPECT_GE(editor.mapCount(), maps) << named(command);
-      EXPECT_TRUE(!m || editor.document(0)->model.brushCount() == brushes) << named(command);
-      EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << named(command);
+      EXPECT_GE(editor.mapCount(), maps) << Named(command);
+      EXPECT_TRUE(!m || editor.document(0)->model.brushCount() == brushes) << Named(command);
+      EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << Named(command);
       while (editor.mapCount() > maps) editor.closeDocument(maps);
     }
   }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kDelay{300};
 
-bool isBusy() {
+bool IsBusy() {
   return QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
          QApplication::mouseButtons() != Qt::NoButton;
 }
@@ -55,7 +55,7 @@ bool FileWatch::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FileWatch::check() {
-  if (isBusy()) {
+  if (IsBusy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
     editor_.checkDisk();

@@ -31,7 +31,7 @@ class Pictures : public ScriptPictures {
   Editor& editor_;
 };
 
-int report(const std::string& file, const ScriptResult& result) {
+int Report(const std::string& file, const ScriptResult& result) {
   if (result.ok) return 0;
   if (result.line > 0) {
     std::fprintf(stderr, "%s:%i: %s\n", file.c_str(), result.line, result.message.c_str());
@@ -52,12 +52,12 @@ int RunScriptFile(const std::string& file, const std::vector<std::string>& maps)
     editor.start();
     for (const std::string& map : maps) editor.openFile(map);
   } catch (const ScriptFailure& failure) {
-    return report(file, {false, 0, failure.what()});
+    return Report(file, {false, 0, failure.what()});
   }
   ScriptRunner runner(editor, prompts, &pictures, std::cout);
   const ScriptResult result = runner.runFile(file);
   std::cout.flush();
-  return report(file, result);
+  return Report(file, result);
 }
 
 }  // namespace velk

@@ -17,7 +17,7 @@ constexpr int kTabStops[] = {30, 100, 150, 200};
 
 QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
-std::string readoutOf(const map* m, const brush* shown, int selected) {
+std::string ReadoutOf(const map* m, const brush* shown, int selected) {
   if (!m || !shown) return Format("[%i] Selected", selected);
   return Format("[%i] Selected   (%g %g %g) - (%g %g %g)", selected, double(shown->mins.x),
                 double(shown->mins.y), double(shown->mins.z), double(shown->maxs.x), double(shown->maxs.y),
@@ -62,7 +62,7 @@ void TSelectedBrushWindow::refresh() {
   refreshing_ = true;
   map* m = editor_.currentMap();
   const brush* shown = m ? m->firstSelected() : nullptr;
-  readout_->setText(ShownText(readoutOf(m, shown, m ? m->totalSelected() : 0)));
+  readout_->setText(ShownText(ReadoutOf(m, shown, m ? m->totalSelected() : 0)));
   useColours();
   faces_->clear();
   if (shown) listFaces(*shown);

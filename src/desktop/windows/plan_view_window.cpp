@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree in one notch
 
-Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
+Colour ColourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
 
 }  // namespace
 
@@ -23,8 +23,8 @@ QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, cons
   const PlanView& record = editor.planViews().views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  const StripColours strip{colourOf(palette.color(QPalette::Window)),
-                           colourOf(palette.color(QPalette::WindowText))};
+  const StripColours strip{ColourOf(palette.color(QPalette::Window)),
+                           ColourOf(palette.color(QPalette::WindowText))};
   drawPlanView(canvas, editor.planScene(strip), view);
   return image;
 }
