@@ -43,7 +43,7 @@ std::string Fitted(const Canvas& canvas, const std::string& text, int width) {
   const std::string dots = "..";
   for (size_t length = text.size(); length-- > 0;) {
     if ((static_cast<unsigned char>(text[length]) & 0xc0) == 0x80) continue;
-    const std::string shorter = text.substr(0, length) + dots;
+    std::string shorter = text.substr(0, length) + dots;
     if (canvas.textWidth(shorter, kTextHeight) <= width) return shorter;
   }
   return "";
