@@ -20,7 +20,6 @@ endif()
 if(VELK_COVERAGE)
   target_compile_options(velk_rules INTERFACE --coverage)
   target_link_options(velk_rules INTERFACE --coverage)
-  add_custom_target(coverage ${CMAKE_SOURCE_DIR}/tools/coverage.sh USES_TERMINAL)
 endif()
 
 # The ladder: a library may link only to libraries above it in this list, so that an include in
