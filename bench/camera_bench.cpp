@@ -103,8 +103,8 @@ Level* TheLevel() {
   for (const char* needed : {"VELK_BENCH_MAP", "VELK_BENCH_WAD", "VELK_BENCH_PAL", "VELK_BENCH_COLORMAP"}) {
     if (!std::getenv(needed)) return nullptr;
   }
-  static const std::unique_ptr<Level> level = std::make_unique<Level>();
-  return level->views.empty() ? nullptr : level.get();
+  static const std::unique_ptr<Level> kLevel = std::make_unique<Level>();
+  return kLevel->views.empty() ? nullptr : kLevel.get();
 }
 
 struct Totals {

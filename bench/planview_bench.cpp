@@ -35,7 +35,7 @@ struct Scene {
   map m{settings, classes};
 };
 
-std::unique_ptr<Scene> fromFile() {
+std::unique_ptr<Scene> FromFile() {
   const char* file = std::getenv("VELK_BENCH_MAP");
   if (!file) return nullptr;
   auto scene = std::make_unique<Scene>();
@@ -44,7 +44,7 @@ std::unique_ptr<Scene> fromFile() {
 }
 
 // Boxes of 16..128 units a side, spread over 4096 x 4096 x 1024 units.
-std::unique_ptr<Scene> generated(int brushes) {
+std::unique_ptr<Scene> Generated(int brushes) {
   auto scene = std::make_unique<Scene>();
   entity& world = scene->m.addobject(std::make_unique<entity>(scene->m));
   world.setKey("classname", "worldspawn");
@@ -62,7 +62,7 @@ std::unique_ptr<Scene> generated(int brushes) {
 }
 
 // Puts the map into the middle of the view at the largest power of two that shows all of it, or at `scale`.
-void frame(Scene& scene, PlanViewSet& set, float scale) {
+void Frame(Scene& scene, PlanViewSet& set, float scale) {
   vec3 low{1e9f, 1e9f, 1e9f}, high{-1e9f, -1e9f, -1e9f};
   for (const entity& e : scene.m.entities()) {
     for (brush& b : e.brushes()) {
@@ -78,11 +78,11 @@ void frame(Scene& scene, PlanViewSet& set, float scale) {
 }
 
 // Arguments: scale (0 shows the whole map), view, device pixels per pixel.
-void repaint(benchmark::State& state, Scene* scene) {
+void Repaint(benchmark::State& state, Scene* scene) {
   if (!scene) return state.SkipWithError("VELK_BENCH_MAP names no map");
   PlanViewSet set;
   scene->settings.show_grid = true;
-  frame(*scene, set, float(state.range(0)));
+  Frame(*scene, set, float(state.range(0)));
   const int view = static_cast<int>(state.range(1)), dense = static_cast<int>(state.range(2));
   set.views[static_cast<size_t>(view)].clientWidth = kWidth;
   set.views[static_cast<size_t>(view)].clientHeight = kHeight;
@@ -99,21 +99,21 @@ void repaint(benchmark::State& state, Scene* scene) {
   state.counters["inked"] = double(inked);
 }
 
-void BM_RepaintFile(benchmark::State& state) {
-  static const std::unique_ptr<Scene> scene = fromFile();
-  repaint(state, scene.get());
+void BmRepaintFile(benchmark::State& state) {
+  static const std::unique_ptr<Scene> kScene = FromFile();
+  Repaint(state, kScene.get());
 }
-void BM_RepaintGenerated(benchmark::State& state) {
-  const std::unique_ptr<Scene> scene = generated(static_cast<int>(state.range(3)));
-  repaint(state, scene.get());
+void BmRepaintGenerated(benchmark::State& state) {
+  const std::unique_ptr<Scene> scene = Generated(static_cast<int>(state.range(3)));
+  Repaint(state, scene.get());
 }
 
-BENCHMARK(BM_RepaintFile)
+BENCHMARK(BmRepaintFile)
     ->Unit(benchmark::kMillisecond)
     ->ArgNames({"scale", "view", "dense"})
     ->ArgsProduct({{0, 1}, {0, 1, 2}, {1}})
     ->Args({0, 0, 2});
-BENCHMARK(BM_RepaintGenerated)
+BENCHMARK(BmRepaintGenerated)
     ->Unit(benchmark::kMillisecond)
     ->ArgNames({"scale", "view", "dense", "brushes"})
     ->Args({0, 0, 1, 1000})

@@ -17,6 +17,10 @@ if(VELK_SANITIZE)
   target_compile_options(velk_rules INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(velk_rules INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELK_COVERAGE)
+  target_compile_options(velk_rules INTERFACE --coverage)
+  target_link_options(velk_rules INTERFACE --coverage)
+endif()
 
 # The ladder: a library may link only to libraries above it in this list, so that an include in
 # the wrong direction does not build. Each folder's headers are reachable only as "folder/name.h"

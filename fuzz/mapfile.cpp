@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include "base/error.h"
 #include "mapfile/map_reader.h"
 #include "mapfile/map_writer.h"
+#include "require.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ struct FatalError : std::runtime_error {
 };
 
 const velk::EntityClassList& Classes() {
-  static const velk::EntityClassList classes = [] {
+  static const velk::EntityClassList kClasses = [] {
     velk::EntityClassList list;
     list.scanText(
         "/*QUAKED worldspawn (0 0 0) ?\n*/\n"
@@ -27,7 +27,7 @@ const velk::EntityClassList& Classes() {
         "/*QUAKED info_player_start (1 0 0) (-16 -16 -24) (16 16 32)\n*/\n");
     return list;
   }();
-  return classes;
+  return kClasses;
 }
 
 // The text that a save of `text` makes.
@@ -39,12 +39,6 @@ std::string Resaved(std::string_view text, bool merge) {
   velk::GroupExportText(m, -1);
   velk::MapFileText(m, {.comments = false, .selectedOnly = true});
   return velk::MapFileText(m, {});
-}
-
-void Require(bool truth, const char* what) {
-  if (truth) return;
-  std::fprintf(stderr, "%s\n", what);
-  std::abort();
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/error.h"
+#include "require.h"
 #include "textures/texture_set.h"
 #include "textures/wad.h"
 
@@ -17,6 +18,7 @@ struct NoPrompts : velk::Prompts {
   std::vector<std::string> chooseFiles(const velk::FileChooser&) override { return {}; }
   std::optional<std::string> input(const velk::TextInput&) override { return {}; }
   std::optional<velk::Colour> chooseColour(const velk::ColourChooser&) override { return {}; }
+  velk::FormAnswer fill(velk::Form&) override { return velk::FormAnswer::Cancel; }
 };
 
 // Every texture must hold what its size promises, and be found by its name.
@@ -26,8 +28,9 @@ void Check(velk::Wad& wad) {
   set.build({&wad});
   for (const auto& texture : wad.textures) {
     const size_t pixels = static_cast<size_t>(texture->width) * static_cast<size_t>(texture->height);
-    if (pixels == 0 || texture->pixels.size() != pixels + velk::Texture::kSparePixels) __builtin_trap();
-    if (!set.findTexture(texture->name)) __builtin_trap();
+    Require(pixels > 0 && texture->pixels.size() == pixels + velk::Texture::kSparePixels,
+            "a texture does not hold what its size promises");
+    Require(set.findTexture(texture->name) != nullptr, "a texture is not found by its name");
     if (texture->sky)
       velk::composeSky(texture->width, texture->height, *texture->sky, 5, texture->pixels.data());
   }

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What ./run and ./test share; sourced by them.
+# What ./run, ./test, ./lint and the other scripts share; sourced by them.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export LANG=${LANG:-C.UTF-8}
@@ -45,14 +45,18 @@ install_packages() {
   apt_quietly install --no-install-recommends "${missing[@]}" >/dev/null || fail "Installing failed."
 }
 
-# build PRESET [TARGET...]: everything, or only the targets named.
-build() {
+configure() {
   local preset=$1 log launcher=()
-  shift
   command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   if ! log=$(cd "$root" && cmake --preset "$preset" "${launcher[@]}" 2>&1); then
     printf '%s\n' "$log" >&2
     return 1
   fi
-  cmake --build "$root/build/$preset" ${1+--target "$@"}
+}
+
+# build PRESET [TARGET...]: everything, or only the targets named.
+build() {
+  local preset=$1
+  shift
+  configure "$preset" && cmake --build "$root/build/$preset" ${1+--target "$@"}
 }

@@ -17,20 +17,20 @@ struct ErrorState {
 };
 
 // The one piece of program-wide state: how fatal errors reach the user, and where they come from.
-ErrorState& state() {
+ErrorState& State() {
   static ErrorState instance;
   return instance;
 }
 
 // A report under way; over when the handler throws.
 struct Report {
-  Report() { state().reporting = true; }
-  ~Report() { state().reporting = false; }
+  Report() { State().reporting = true; }
+  ~Report() { State().reporting = false; }
   Report(const Report&) = delete;
   Report& operator=(const Report&) = delete;
 };
 
-[[noreturn]] void endProgram(int status) {
+[[noreturn]] void EndProgram(int status) {
   std::fflush(nullptr);
   std::_Exit(status);
 }
@@ -38,15 +38,15 @@ struct Report {
 }  // namespace
 
 ErrorHandler SetErrorHandler(ErrorHandler handler) {
-  return std::exchange(state().handler, std::move(handler));
+  return std::exchange(State().handler, std::move(handler));
 }
 
 ErrorPlace::ErrorPlace(std::function<std::string()> describe)
-    : outer_(std::exchange(state().place, this)), describe_(std::move(describe)) {}
+    : outer_(std::exchange(State().place, this)), describe_(std::move(describe)) {}
 
-ErrorPlace::~ErrorPlace() { state().place = outer_; }
+ErrorPlace::~ErrorPlace() { State().place = outer_; }
 
-std::string WhereErrorsHappen() { return state().place ? state().place->describe_() : ""; }
+std::string WhereErrorsHappen() { return State().place ? State().place->describe_() : ""; }
 
 ErrorTrap::ErrorTrap()
     : before_(SetErrorHandler([](const std::string& message) {
@@ -55,16 +55,16 @@ ErrorTrap::ErrorTrap()
       })) {}
 
 void Error(const char* format, ...) {
-  if (state().reporting) endProgram(0);
+  if (State().reporting) EndProgram(0);
   const Report report;
   va_list arguments;
   va_start(arguments, format);
   const std::string message = FormatList(format, arguments);
   va_end(arguments);
   // A copy, so that a handler may install another one.
-  if (const ErrorHandler handler = state().handler) handler(message);
+  if (const ErrorHandler handler = State().handler) handler(message);
   std::fprintf(stderr, "%s\n", message.c_str());
-  endProgram(3);
+  EndProgram(3);
 }
 
 }  // namespace velk

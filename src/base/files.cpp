@@ -16,17 +16,17 @@ namespace {
 constexpr off_t kLargestFile = off_t(1) << 30;
 constexpr size_t kChunk = 16384;
 
-ReadResult unopened(std::string reason) { return {false, false, std::move(reason), {}}; }
+ReadResult Unopened(std::string reason) { return {false, false, std::move(reason), {}}; }
 
 // Why the open file is not read; empty when it is.
-std::string refusal(const struct stat& info) {
+std::string Refusal(const struct stat& info) {
   if (S_ISDIR(info.st_mode)) return std::strerror(EISDIR);
   if (!S_ISREG(info.st_mode)) return "Not a regular file";
   return info.st_size > kLargestFile ? std::strerror(EFBIG) : "";
 }
 
 // Bytes read into `contents`: fewer than its size when the file has shrunk or the system refuses.
-size_t fill(int file, std::string& contents) {
+size_t Fill(int file, std::string& contents) {
   size_t done = 0;
   while (done < contents.size()) {
     const ssize_t got = ::read(file, contents.data() + done, contents.size() - done);
@@ -48,12 +48,12 @@ ReadResult ReadFile(const std::filesystem::path& file) {
   // Without blocking, so that a named pipe nobody writes to does not hang the editor.
   const Descriptor source(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
   struct stat info {};
-  if (!source.ok() || ::fstat(source.get(), &info) != 0) return unopened(std::strerror(errno));
-  if (std::string reason = refusal(info); !reason.empty()) return unopened(std::move(reason));
+  if (!source.ok() || ::fstat(source.get(), &info) != 0) return Unopened(std::strerror(errno));
+  if (std::string reason = Refusal(info); !reason.empty()) return Unopened(std::move(reason));
 
   ReadResult result;
   result.contents.resize(static_cast<size_t>(info.st_size));
-  const size_t got = fill(source.get(), result.contents);
+  const size_t got = Fill(source.get(), result.contents);
   if (got == result.contents.size()) return result;
   const size_t fullChunks = result.contents.size() / kChunk * kChunk;
   return {false, true, got < fullChunks ? "(Big) file read failure" : "File read failure", {}};

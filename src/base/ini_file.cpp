@@ -9,26 +9,26 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view withoutQuotes(std::string_view value) {
+std::string_view WithoutQuotes(std::string_view value) {
   const bool quoted =
       value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
 // The name in a [section] line; none for any other line.
-std::optional<std::string_view> sectionName(std::string_view line) {
+std::optional<std::string_view> SectionName(std::string_view line) {
   if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
   line = Trimmed(line);
   if (!line.starts_with('[')) return std::nullopt;
   return Trimmed(line.substr(1, std::min(line.find(']'), line.size()) - 1));
 }
 
-bool isSection(std::string_view line, std::string_view section) {
-  const auto name = sectionName(line);
+bool IsSection(std::string_view line, std::string_view section) {
+  const auto name = SectionName(line);
   return name && EqualNoCase(*name, section);
 }
 
-bool hasKey(std::string_view line, std::string_view key) {
+bool HasKey(std::string_view line, std::string_view key) {
   const size_t equals = line.find('=');
   return equals != line.npos && !Trimmed(line).starts_with(';') &&
          EqualNoCase(Trimmed(line.substr(0, equals)), key);
@@ -36,18 +36,18 @@ bool hasKey(std::string_view line, std::string_view key) {
 
 // The value as it has to stand in the file to be read back the same: on one line, quoted where blanks or
 // quotes at its ends would be lost.
-std::string fileForm(std::string_view value) {
+std::string FileForm(std::string_view value) {
   value = value.substr(0, value.find_first_of("\r\n"));
-  const bool plain = withoutQuotes(Trimmed(value)) == value;
+  const bool plain = WithoutQuotes(Trimmed(value)) == value;
   return plain ? std::string(value) : '"' + std::string(value) + '"';
 }
 
 // The line with another value, its blanks and its line end kept.
-std::string withValue(std::string_view line, std::string_view value) {
+std::string WithValue(std::string_view line, std::string_view value) {
   const size_t afterEquals = line.find('=') + 1;
   const size_t begin = std::min(line.find_first_not_of(" \t", afterEquals), line.size());
   const size_t lineEnd = std::min(line.find_last_not_of("\r\n") + 1, line.size());
-  return std::string(line.substr(0, std::min(begin, lineEnd))) + fileForm(value) +
+  return std::string(line.substr(0, std::min(begin, lineEnd))) + FileForm(value) +
          std::string(line.substr(lineEnd));
 }
 
@@ -69,9 +69,9 @@ IniFile IniFile::Parse(std::string_view text) {
 std::optional<size_t> IniFile::lineOf(std::string_view section, std::string_view key) const {
   bool inside = false;
   for (size_t i = 0; i < lines_.size(); ++i) {
-    if (sectionName(lines_[i])) {
-      inside = isSection(lines_[i], section);
-    } else if (inside && hasKey(lines_[i], key)) {
+    if (SectionName(lines_[i])) {
+      inside = IsSection(lines_[i], section);
+    } else if (inside && HasKey(lines_[i], key)) {
       return i;
     }
   }
@@ -82,7 +82,7 @@ std::optional<std::string> IniFile::find(std::string_view section, std::string_v
   const auto line = lineOf(section, key);
   if (!line) return std::nullopt;
   const std::string_view text = lines_[*line];
-  return std::string(withoutQuotes(Trimmed(text.substr(text.find('=') + 1))));
+  return std::string(WithoutQuotes(Trimmed(text.substr(text.find('=') + 1))));
 }
 
 std::string IniFile::string(std::string_view section, std::string_view key, std::string_view fallback) const {
@@ -95,22 +95,22 @@ int IniFile::integer(std::string_view section, std::string_view key, int fallbac
 
 void IniFile::set(std::string_view section, std::string_view key, std::string_view value) {
   if (const auto line = lineOf(section, key)) {
-    lines_[*line] = withValue(lines_[*line], value);
+    lines_[*line] = WithValue(lines_[*line], value);
   } else {
-    insertLine(endOfSection(section), std::string(key) + '=' + fileForm(value));
+    insertLine(endOfSection(section), std::string(key) + '=' + FileForm(value));
   }
 }
 
 size_t IniFile::endOfSection(std::string_view section) {
   const auto header =
-      std::find_if(lines_.begin(), lines_.end(), [&](const auto& line) { return isSection(line, section); });
+      std::find_if(lines_.begin(), lines_.end(), [&](const auto& line) { return IsSection(line, section); });
   if (header == lines_.end()) {
     if (!lines_.empty()) insertLine(lines_.size(), "");
     insertLine(lines_.size(), '[' + std::string(section) + ']');
     return lines_.size();
   }
   auto end =
-      std::find_if(header + 1, lines_.end(), [](const auto& line) { return sectionName(line).has_value(); });
+      std::find_if(header + 1, lines_.end(), [](const auto& line) { return SectionName(line).has_value(); });
   while (Trimmed(*(end - 1)).empty()) --end;
   return static_cast<size_t>(end - lines_.begin());
 }

@@ -9,23 +9,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isSeparator(char c) { return c == '\\' || c == '/'; }
+bool IsSeparator(char c) { return c == '\\' || c == '/'; }
 
-bool hasDrive(std::string_view path) {
+bool HasDrive(std::string_view path) {
   const char letter = path.empty() ? '\0' : path[0];
   return path.size() >= 2 && path[1] == ':' &&
          ((letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z'));
 }
 
 // Links count even when they lead nowhere.
-bool present(const fs::path& path) {
+bool Present(const fs::path& path) {
   std::error_code ignored;
   return fs::exists(fs::symlink_status(path, ignored));
 }
 
 // The entry of `folder` whose name is `name` but for letter case (the first in byte order); the name
 // itself when there is none.
-fs::path entryNoCase(const fs::path& folder, const std::string& name) {
+fs::path EntryNoCase(const fs::path& folder, const std::string& name) {
   std::string best;
   std::error_code error;
   fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
@@ -36,11 +36,11 @@ fs::path entryNoCase(const fs::path& folder, const std::string& name) {
   return best.empty() ? name : best;
 }
 
-fs::path withActualNames(const fs::path& wanted) {
+fs::path WithActualNames(const fs::path& wanted) {
   fs::path found;
   for (const fs::path& part : wanted) {
-    const bool asWritten = part.empty() || present(found / part);
-    found /= asWritten ? part : entryNoCase(found, part.string());
+    const bool asWritten = part.empty() || Present(found / part);
+    found /= asWritten ? part : EntryNoCase(found, part.string());
   }
   return found;
 }
@@ -53,11 +53,11 @@ fs::path Paths::native(std::string_view path) const {
     if (c == '\\') c = '/';
   }
   fs::path wanted = slashes;
-  if (hasDrive(slashes)) {
+  if (HasDrive(slashes)) {
     const size_t name = std::min(slashes.find_first_not_of('/', 2), slashes.size());
     wanted = dataFolder_ / LowerCase(slashes.substr(0, 1)) / slashes.substr(name);
   }
-  return present(wanted) ? wanted : withActualNames(wanted);
+  return Present(wanted) ? wanted : WithActualNames(wanted);
 }
 
 bool Paths::exists(std::string_view path) const {
@@ -66,7 +66,7 @@ bool Paths::exists(std::string_view path) const {
 }
 
 std::string Paths::absolute(const std::string& path) const {
-  const bool fixed = path.empty() || isSeparator(path[0]) || hasDrive(path);
+  const bool fixed = path.empty() || IsSeparator(path[0]) || HasDrive(path);
   std::error_code failed;
   const fs::path native = fixed ? fs::path() : fs::absolute(this->native(path), failed);
   return native.empty() ? path : native.lexically_normal().string();
@@ -74,7 +74,7 @@ std::string Paths::absolute(const std::string& path) const {
 
 std::string FileNamePart(std::string_view path) {
   size_t at = path.size();
-  while (at > 0 && !isSeparator(path[at - 1])) --at;
+  while (at > 0 && !IsSeparator(path[at - 1])) --at;
   return std::string(path.substr(at));
 }
 
@@ -84,7 +84,7 @@ std::string DirectoryPart(std::string_view path) {
 
 std::string WithSeparator(std::string_view directory) {
   std::string result(directory);
-  if (!result.empty() && !isSeparator(result.back())) result += '\\';
+  if (!result.empty() && !IsSeparator(result.back())) result += '\\';
   return result;
 }
 

@@ -9,25 +9,25 @@
 namespace velk {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
 
-void skipBlanks(std::string_view& text) {
+void SkipBlanks(std::string_view& text) {
   while (!text.empty() && (text.front() == ' ' || (text.front() >= '\t' && text.front() <= '\r'))) {
     text.remove_prefix(1);
   }
 }
 
 // Skips one sign and says whether it was a minus.
-bool takeSign(std::string_view& text) {
+bool TakeSign(std::string_view& text) {
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
   return negative;
 }
 
 // The nearest double to a number that is out of range: a tiny one is 0, a huge one the largest.
-double nearestInRange(std::string_view number) {
+double NearestInRange(std::string_view number) {
   const bool tiny = number.front() == '0' || number.front() == '.' || number.find("e-") != number.npos ||
                     number.find("E-") != number.npos;
   return tiny ? 0 : std::numeric_limits<double>::max();
@@ -62,12 +62,12 @@ std::string CutText(std::string_view text, size_t bytes) {
 }
 
 std::optional<int> LeadingInt(std::string_view text) {
-  skipBlanks(text);
-  const bool negative = takeSign(text);
-  if (text.empty() || !isDigit(text.front())) return std::nullopt;
+  SkipBlanks(text);
+  const bool negative = TakeSign(text);
+  if (text.empty() || !IsDigit(text.front())) return std::nullopt;
   long long value = 0;
   for (const char c : text) {
-    if (!isDigit(c)) break;
+    if (!IsDigit(c)) break;
     value = value * 10 + (c - '0');
     if (value > INT_MAX) return negative ? INT_MIN : INT_MAX;
   }
@@ -76,15 +76,15 @@ std::optional<int> LeadingInt(std::string_view text) {
 
 std::optional<double> TakeNumber(std::string_view& text) {
   std::string_view rest = text;
-  skipBlanks(rest);
-  const bool negative = takeSign(rest);
+  SkipBlanks(rest);
+  const bool negative = TakeSign(rest);
   // Keeps out a second sign, and the words for infinity and not-a-number.
-  if (rest.empty() || !(isDigit(rest.front()) || rest.front() == '.')) return std::nullopt;
+  if (rest.empty() || !(IsDigit(rest.front()) || rest.front() == '.')) return std::nullopt;
   double value = 0;
   const auto [end, error] = std::from_chars(rest.data(), rest.data() + rest.size(), value);
   if (error == std::errc::invalid_argument) return std::nullopt;
   const auto length = static_cast<size_t>(end - rest.data());
-  if (error == std::errc::result_out_of_range) value = nearestInRange(rest.substr(0, length));
+  if (error == std::errc::result_out_of_range) value = NearestInRange(rest.substr(0, length));
   text = rest.substr(length);
   return negative ? -value : value;
 }
@@ -98,20 +98,20 @@ std::string_view Trimmed(std::string_view text) {
 
 std::string LowerCase(std::string_view text) {
   std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), lower);
+  std::transform(result.begin(), result.end(), result.begin(), Lower);
   return result;
 }
 
 std::string UpperCase(std::string_view text) {
   std::string result(text);
-  std::transform(result.begin(), result.end(), result.begin(), upper);
+  std::transform(result.begin(), result.end(), result.begin(), Upper);
   return result;
 }
 
 int CompareNoCase(std::string_view a, std::string_view b) {
   const size_t common = std::min(a.size(), b.size());
   for (size_t i = 0; i < common; ++i) {
-    const int difference = static_cast<unsigned char>(lower(a[i])) - static_cast<unsigned char>(lower(b[i]));
+    const int difference = static_cast<unsigned char>(Lower(a[i])) - static_cast<unsigned char>(Lower(b[i]));
     if (difference != 0) return difference;
   }
   return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;

@@ -15,18 +15,18 @@ namespace velk {
 namespace {
 
 // Bytes of 128 and above are text.
-bool isText(char c) { return static_cast<unsigned char>(c) > 32; }
+bool IsText(char c) { return static_cast<unsigned char>(c) > 32; }
 
-bool startsComment(const char* at, const char* end) { return end - at >= 2 && at[0] == '/' && at[1] == '/'; }
+bool StartsComment(const char* at, const char* end) { return end - at >= 2 && at[0] == '/' && at[1] == '/'; }
 
-const char* find(const char* from, const char* end, char wanted) {
+const char* Find(const char* from, const char* end, char wanted) {
   const void* found = from < end ? std::memchr(from, wanted, static_cast<size_t>(end - from)) : nullptr;
   return found ? static_cast<const char*>(found) : end;
 }
 
 // The first byte that is no text. Tokens are short and of irregular length, so a byte-wise loop would
 // mostly wait for mispredicted branches.
-const char* wordEnd(const char* from, const char* end) {
+const char* WordEnd(const char* from, const char* end) {
 #ifdef __SSE2__
   const __m128i lastBlank = _mm_set1_epi8(32);
   for (; end - from >= 16; from += 16) {
@@ -35,11 +35,11 @@ const char* wordEnd(const char* from, const char* end) {
     if (blanks != 0) return from + std::countr_zero(static_cast<unsigned>(blanks));
   }
 #endif
-  return std::find_if_not(from, end, isText);
+  return std::find_if_not(from, end, IsText);
 }
 
 // The number in a comment whose text after the slashes is "dddd" in quotes, otherwise 0.
-int groupNumber(const char* comment, const char* lineEnd) {
+int GroupNumber(const char* comment, const char* lineEnd) {
   if (lineEnd - comment < 6 || comment[0] != '"' || comment[5] != '"') return 0;
   return TextToInt(std::string_view(comment + 1, 4));
 }
@@ -48,7 +48,7 @@ int groupNumber(const char* comment, const char* lineEnd) {
 
 void Tokenizer::StartScript(std::string_view text) {
   position_ = text.data();
-  end_ = find(position_, position_ + text.size(), '\0');
+  end_ = Find(position_, position_ + text.size(), '\0');
   line_ = 1;
   token_ = {};
   quoted_ = false;
@@ -56,8 +56,8 @@ void Tokenizer::StartScript(std::string_view text) {
 
 bool Tokenizer::skipComment(bool acrossLines) {
   const char* comment = position_ + 2;
-  const char* lineEnd = find(comment, end_, '\n');
-  if (capture_) capturedGroup_ = groupNumber(comment, lineEnd);
+  const char* lineEnd = Find(comment, end_, '\n');
+  if (capture_) capturedGroup_ = GroupNumber(comment, lineEnd);
   if (!acrossLines) Error("Line %i is incomplete\n", line_);
   ++line_;
   position_ = lineEnd < end_ ? lineEnd + 1 : end_;
@@ -66,12 +66,12 @@ bool Tokenizer::skipComment(bool acrossLines) {
 
 bool Tokenizer::skipToToken(bool acrossLines) {
   for (;;) {
-    for (; position_ < end_ && !isText(*position_); ++position_) {
+    for (; position_ < end_ && !IsText(*position_); ++position_) {
       if (*position_ != '\n') continue;
       if (!acrossLines) Error("Line %i is incomplete", line_);
       ++line_;
     }
-    if (position_ < end_ && !startsComment(position_, end_)) return true;
+    if (position_ < end_ && !StartsComment(position_, end_)) return true;
     if (position_ < end_ && skipComment(acrossLines)) continue;
     if (!acrossLines) Error("Line %i is incomplete", line_);
     return false;
@@ -85,7 +85,7 @@ void Tokenizer::take(const char* start, const char* stop) {
 
 void Tokenizer::takeQuoted() {
   const char* start = position_ + 1;
-  const char* stop = find(start, end_, '"');
+  const char* stop = Find(start, end_, '"');
   take(start, stop);
   if (stop == end_) Error("EOF inside quoted token");
   position_ = stop + 1;
@@ -94,7 +94,7 @@ void Tokenizer::takeQuoted() {
 bool Tokenizer::GetScriptToken(bool acrossLines) {
   // Nearly every token is a word behind a single blank.
   const char* start = position_ < end_ && *position_ == ' ' ? position_ + 1 : position_;
-  if (start == end_ || !isText(*start) || *start == '/' || *start == '"') {
+  if (start == end_ || !IsText(*start) || *start == '/' || *start == '"') {
     if (!skipToToken(acrossLines)) return false;
     start = position_;
   }
@@ -103,7 +103,7 @@ bool Tokenizer::GetScriptToken(bool acrossLines) {
     takeQuoted();
     return true;
   }
-  position_ = wordEnd(start, end_);
+  position_ = WordEnd(start, end_);
   take(start, position_);
   return true;
 }

@@ -32,7 +32,7 @@ class PictureDrawer {
 
  private:
   void makeStrip(Picture& picture, int top, int rows, DrawOver over);
-  void drawBrush(BrushDraw& brush, FaceList& faces, bool always, RenderStatistics& statistics);
+  void drawBrush(BrushDraw& draw, FaceList& faces, bool always, RenderStatistics& statistics);
   void drawFace(FaceList& faces, std::uint32_t number, bool always, RenderStatistics& statistics);
   bool hides(int left, int top, int right, int bottom, float w) const;
   void spoilTiles(const Outline& outline, int top, int bottom);

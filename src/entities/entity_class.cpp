@@ -17,7 +17,7 @@ constexpr size_t kMaxComment = 65536;
 constexpr double kFarthest = 1e6;
 
 // After blanks.
-bool takeCharacter(std::string_view& text, char wanted) {
+bool TakeCharacter(std::string_view& text, char wanted) {
   const size_t at = text.find_first_not_of(" \t\r\n\v\f");
   if (at == text.npos || text[at] != wanted) return false;
   text.remove_prefix(at + 1);
@@ -25,7 +25,7 @@ bool takeCharacter(std::string_view& text, char wanted) {
 }
 
 // Three numbers; those read before a failure are kept.
-bool takeNumbers(std::string_view& text, std::array<float, 3>& numbers) {
+bool TakeNumbers(std::string_view& text, std::array<float, 3>& numbers) {
   for (float& number : numbers) {
     const auto value = TakeNumber(text);
     if (!value) return false;
@@ -34,26 +34,26 @@ bool takeNumbers(std::string_view& text, std::array<float, 3>& numbers) {
   return true;
 }
 
-bool moveAfter(std::string_view& text, std::string_view wanted) {
+bool MoveAfter(std::string_view& text, std::string_view wanted) {
   const size_t at = text.find(wanted);
   if (at == text.npos) return false;
   text.remove_prefix(at + wanted.size());
   return true;
 }
 
-bool takeColour(std::string_view& text, std::array<float, 3>& color) {
+bool TakeColour(std::string_view& text, std::array<float, 3>& color) {
   std::string_view numbers = text;
-  return takeCharacter(numbers, '(') && takeNumbers(numbers, color) && moveAfter(text, ")");
+  return TakeCharacter(numbers, '(') && TakeNumbers(numbers, color) && MoveAfter(text, ")");
 }
 
 // The two corners, behind the first "(".
-bool takeBox(std::string_view& text, std::array<float, 3>& mins, std::array<float, 3>& maxs) {
+bool TakeBox(std::string_view& text, std::array<float, 3>& mins, std::array<float, 3>& maxs) {
   std::string_view numbers = text;
-  return takeNumbers(numbers, mins) && takeCharacter(numbers, ')') && takeCharacter(numbers, '(') &&
-         takeNumbers(numbers, maxs) && moveAfter(text, ")") && moveAfter(text, ")");
+  return TakeNumbers(numbers, mins) && TakeCharacter(numbers, ')') && TakeCharacter(numbers, '(') &&
+         TakeNumbers(numbers, maxs) && MoveAfter(text, ")") && MoveAfter(text, ")");
 }
 
-void readFlagNames(std::string_view line, std::array<std::string, 8>& names) {
+void ReadFlagNames(std::string_view line, std::array<std::string, 8>& names) {
   QuakedTokenizer tokens(line.substr(0, kMaxFlagLine));
   for (std::string& name : names) {
     if (!tokens.next()) return;
@@ -74,16 +74,16 @@ void EntityClass::parseDefinition(std::string_view text) {
   if (!header.next()) return;
   name = header.token();
   std::string_view rest = header.rest();
-  if (!takeColour(rest, color)) return;
+  if (!TakeColour(rest, color)) return;
 
   QuakedTokenizer body(rest);
   if (!body.next()) return;
   fixedSize = body.token() == "(";
   rest = body.rest();
-  if (fixedSize && !takeBox(rest, mins, maxs)) return;
+  if (fixedSize && !TakeBox(rest, mins, maxs)) return;
 
   const size_t line = std::min(rest.find('\n'), rest.size());
-  readFlagNames(rest.substr(0, line), flagNames);
+  ReadFlagNames(rest.substr(0, line), flagNames);
   rest.remove_prefix(std::min(line + 1, rest.size()));
   rest = rest.substr(0, kMaxComment);
   comments = rest.substr(0, rest.find("*/"));

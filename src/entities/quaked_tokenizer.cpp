@@ -5,12 +5,12 @@
 namespace velk {
 namespace {
 
-bool isSeparator(char c) { return static_cast<signed char>(c) <= 32; }
-bool isSingle(char c) { return std::string_view("{}()':").find(c) != std::string_view::npos; }
+bool IsSeparator(char c) { return static_cast<signed char>(c) <= 32; }
+bool IsSingle(char c) { return std::string_view("{}()':").find(c) != std::string_view::npos; }
 
-size_t wordLength(std::string_view text) {
-  if (isSingle(text.front())) return 1;
-  const auto* end = std::ranges::find_if(text, [](char c) { return isSeparator(c) || isSingle(c); });
+size_t WordLength(std::string_view text) {
+  if (IsSingle(text.front())) return 1;
+  const auto* end = std::ranges::find_if(text, [](char c) { return IsSeparator(c) || IsSingle(c); });
   return static_cast<size_t>(end - text.begin());
 }
 
@@ -18,7 +18,7 @@ size_t wordLength(std::string_view text) {
 
 void QuakedTokenizer::skipToToken() {
   for (;;) {
-    while (!rest_.empty() && isSeparator(rest_.front())) rest_.remove_prefix(1);
+    while (!rest_.empty() && IsSeparator(rest_.front())) rest_.remove_prefix(1);
     if (!rest_.starts_with("//")) return;
     rest_.remove_prefix(std::min(rest_.find('\n'), rest_.size()));
   }
@@ -34,7 +34,7 @@ bool QuakedTokenizer::next() {
     take(quote);
     rest_.remove_prefix(std::min(quote + 1, rest_.size()));
   } else {
-    const size_t length = wordLength(rest_);
+    const size_t length = WordLength(rest_);
     take(length);
     rest_.remove_prefix(length);
   }

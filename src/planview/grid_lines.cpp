@@ -14,7 +14,7 @@ constexpr long long kSmallestMajor = 64;  // world units
 // Beyond this, neighbouring positions would no longer differ in a view's coordinates.
 constexpr double kFarthest = 1e12;
 
-GridRange rangeAround(double centre, double halfExtent, int gridSize, long long step) {
+GridRange RangeAround(double centre, double halfExtent, int gridSize, long long step) {
   const double margin = double(std::min<long long>(gridSize, step));
   const double low = centre - halfExtent - margin;
   const double high = centre + halfExtent + margin;
@@ -35,11 +35,11 @@ GridLevels gridLevels(int gridSize, double scale) {
 }
 
 GridRange gridRangeU(const PlanProjection& projection, int gridSize, long long step) {
-  return rangeAround(projection.centreU, projection.width * 0.5 / projection.scale, gridSize, step);
+  return RangeAround(projection.centreU, projection.width * 0.5 / projection.scale, gridSize, step);
 }
 
 GridRange gridRangeV(const PlanProjection& projection, int gridSize, long long step) {
-  return rangeAround(projection.centreV, projection.height * 0.5 / projection.scale, gridSize, step);
+  return RangeAround(projection.centreV, projection.height * 0.5 / projection.scale, gridSize, step);
 }
 
 }  // namespace velk

@@ -27,23 +27,23 @@ constexpr FieldWidth kFields[] = {{StripField::Grid, 26},
                                   {StripField::DepthRange, 130},
                                   {StripField::Group, 120}};
 
-bool contains(const PixelRect& rect, Pixel at) {
+bool Contains(const PixelRect& rect, Pixel at) {
   return at.x >= rect.left && at.x - rect.left < rect.width && at.y >= rect.top &&
          at.y - rect.top < rect.height;
 }
 
-Colour mix(Colour a, Colour b, int percentOfB) {
+Colour Mix(Colour a, Colour b, int percentOfB) {
   const auto channel = [&](int from, int to) { return from + (to - from) * percentOfB / 100; };
   return {channel(a.red, b.red), channel(a.green, b.green), channel(a.blue, b.blue)};
 }
 
 // Leaves out characters from the end until the text fits; never cuts through a character of several bytes.
-std::string fitted(const Canvas& canvas, const std::string& text, int width) {
+std::string Fitted(const Canvas& canvas, const std::string& text, int width) {
   if (canvas.textWidth(text, kTextHeight) <= width) return text;
   const std::string dots = "..";
   for (size_t length = text.size(); length-- > 0;) {
     if ((static_cast<unsigned char>(text[length]) & 0xc0) == 0x80) continue;
-    const std::string shorter = text.substr(0, length) + dots;
+    std::string shorter = text.substr(0, length) + dots;
     if (canvas.textWidth(shorter, kTextHeight) <= width) return shorter;
   }
   return "";
@@ -64,7 +64,7 @@ std::vector<StripSlot> layoutStrip(int width) {
 
 std::optional<StripField> stripFieldAt(int width, Pixel at) {
   for (const StripSlot& slot : layoutStrip(width)) {
-    if (contains(slot.rect, at)) return slot.field;
+    if (Contains(slot.rect, at)) return slot.field;
   }
   return std::nullopt;
 }
@@ -107,14 +107,14 @@ std::string stripText(StripField field, const PlanView& view, const Settings& se
 
 void drawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& settings, const map* m,
                      const std::string& groupName, const StripColours& colours) {
-  const Colour divider = mix(colours.face, colours.text, 25);
+  const Colour divider = Mix(colours.face, colours.text, 25);
   canvas.fill({0, 0, view.clientWidth, kStripHeight}, colours.face);
   canvas.fill({0, kStripHeight - 1, view.clientWidth, 1}, divider);
   for (const StripSlot& slot : layoutStrip(view.clientWidth)) {
     canvas.fill({slot.rect.left + slot.rect.width - 1, 3, 1, kStripHeight - 7}, divider);
     std::string text = stripText(slot.field, view, settings, m, groupName);
     text.erase(0, text.find_first_not_of(' '));  // numbers are padded for the caption
-    text = fitted(canvas, text, slot.rect.width - kTextLeft - kTextRight);
+    text = Fitted(canvas, text, slot.rect.width - kTextLeft - kTextRight);
     const int top = (kStripHeight - 1 - kTextHeight) / 2;
     if (!text.empty())
       canvas.text(text, {slot.rect.left + kTextLeft, top}, kTextHeight, colours.text, nullptr);

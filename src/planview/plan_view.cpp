@@ -23,7 +23,7 @@ constexpr Title kTitles[][2] = {{{"Top  ", "XY", "Up"}, {"Bottom  ", "XY", "Down
                                 {{"Right", "YZ", "Right"}, {"Left", "YZ", "Left"}},
                                 {{"Front", "XZ", "Front"}, {"Back", "XZ", "Back"}}};
 
-const Title& titleOf(const PlanView& view) {
+const Title& TitleOf(const PlanView& view) {
   return kTitles[view.orientation][view.viewNormal[view.axisDepth] == -1.0f ? 0 : 1];
 }
 
@@ -63,12 +63,12 @@ std::string formatScale(double scale) {
 std::string gridText(const Settings& settings) { return Format("%i", settings.gridsize); }
 
 std::string captionText(const PlanView& view, const Settings& settings) {
-  const Title& title = titleOf(view);
+  const Title& title = TitleOf(view);
   return Format("%s - %s View - [Grid %s / Scale %s]", title.side, title.plane, gridText(settings).c_str(),
                 formatScale(settings.scale).c_str());
 }
 
-std::string directionText(const PlanView& view) { return titleOf(view).direction; }
+std::string directionText(const PlanView& view) { return TitleOf(view).direction; }
 
 std::string cameraText(const map& m) { return Format("C(%i)", m.currentCamera + 1); }
 

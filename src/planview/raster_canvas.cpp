@@ -15,10 +15,10 @@ namespace {
 // Lines whose ends lie farther away are shortened first, so that exact stepping cannot overflow.
 constexpr int kFar = 1 << 20;  // device pixels
 
-bool isFar(Pixel p) { return p.x < -kFar || p.x > kFar || p.y < -kFar || p.y > kFar; }
+bool IsFar(Pixel p) { return p.x < -kFar || p.x > kFar || p.y < -kFar || p.y > kFar; }
 
 // Shortens the line to the square of half side kFar; false when it lies outside.
-bool bringNear(Pixel& from, Pixel& to) {
+bool BringNear(Pixel& from, Pixel& to) {
   double first = 0, last = 1;
   const double startX = from.x, startY = from.y;
   const double dx = double(to.x) - startX, dy = double(to.y) - startY;
@@ -41,7 +41,7 @@ bool bringNear(Pixel& from, Pixel& to) {
   return true;
 }
 
-std::int64_t ceilDivide(std::int64_t a, std::int64_t b) { return a / b + (a % b > 0 ? 1 : 0); }
+std::int64_t CeilDivide(std::int64_t a, std::int64_t b) { return a / b + (a % b > 0 ? 1 : 0); }
 
 // A line that takes a step along its longer axis ("major") with every pixel, and every now and then one
 // along the other.
@@ -58,12 +58,12 @@ struct Run {
 };
 
 // How many runs side by side look as wide as `width` does along an axis.
-int runsFor(int width, int dx, int dy) {
+int RunsFor(int width, int dx, int dy) {
   return width == 1 ? 1 : Truncate(RoundHalfAway(width * std::hypot(dx, dy) / std::max(dx, dy)));
 }
 
 // Draws the pixels of the run that lie in the picture; the same ones as without clipping.
-void drawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
+void DrawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
   // After i steps the line has climbed floor((2 climb i + length) / (2 length)).
   const std::int64_t twiceClimb = 2 * std::int64_t(run.climb), twiceLength = 2 * std::int64_t(run.length);
   std::int64_t first = std::max<std::int64_t>(0, -std::int64_t(run.major));
@@ -72,8 +72,8 @@ void drawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
   const std::int64_t highest = run.minorSign > 0 ? run.minorSize - 1 - std::int64_t(run.minor) : run.minor;
   if (highest < 0 || lowest > run.climb) return;
   if (run.climb > 0) {
-    first = std::max(first, ceilDivide(twiceLength * lowest - run.length, twiceClimb));
-    last = std::min(last, ceilDivide(twiceLength * (highest + 1) - run.length, twiceClimb) - 1);
+    first = std::max(first, CeilDivide(twiceLength * lowest - run.length, twiceClimb));
+    last = std::min(last, CeilDivide(twiceLength * (highest + 1) - run.length, twiceClimb) - 1);
   }
   if (first > last) return;
 
@@ -152,7 +152,7 @@ void RasterCanvas::devicePoints(Colour colour, std::span<const Pixel> points) {
 }
 
 void RasterCanvas::deviceLine(std::uint32_t colour, int width, Pixel from, Pixel to) {
-  if ((isFar(from) || isFar(to)) && !bringNear(from, to)) return;
+  if ((IsFar(from) || IsFar(to)) && !BringNear(from, to)) return;
   const int before = (width - 1) / 2;  // the part of a wide line above or left of it
   if (from.x == to.x || from.y == to.y) {
     fillDevice(std::min(from.x, to.x) - before, std::min(from.y, to.y) - before,
@@ -165,9 +165,9 @@ void RasterCanvas::deviceLine(std::uint32_t colour, int width, Pixel from, Pixel
   if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
   Run run = steep ? Run{from.y, from.x, dy, dx, to.x > from.x ? 1 : -1, height_, width_, stride_, 1}
                   : Run{from.x, from.y, dx, dy, to.y > from.y ? 1 : -1, width_, height_, 1, stride_};
-  const int runs = runsFor(width, dx, dy);
+  const int runs = RunsFor(width, dx, dy);
   run.minor -= (runs - 1) / 2;
-  for (int i = 0; i < runs; ++i, ++run.minor) drawRun(pixels_, run, colour);
+  for (int i = 0; i < runs; ++i, ++run.minor) DrawRun(pixels_, run, colour);
 }
 
 }  // namespace velk

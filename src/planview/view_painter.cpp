@@ -12,11 +12,11 @@ namespace {
 // Edges that clipping makes along the border lie this far outside the view, where no pen shows them.
 constexpr int kMargin = 8;  // device pixels
 
-int interpolate(int from, int to, double part) { return Truncate(from + (double(to) - from) * part); }
+int Interpolate(int from, int to, double part) { return Truncate(from + (double(to) - from) * part); }
 
 // Keeps what lies on the inner side of one border; `along` is the coordinate that the border limits.
 template <int Pixel::*Along, int Pixel::*Across, bool Upper>
-int clipAgainst(Pixel (&corners)[kMaxClipped], int count, int border) {
+int ClipAgainst(Pixel (&corners)[kMaxClipped], int count, int border) {
   const auto inside = [border](const Pixel& p) { return Upper ? p.*Along <= border : p.*Along >= border; };
   Pixel result[kMaxClipped];
   int kept = 0;
@@ -31,7 +31,7 @@ int clipAgainst(Pixel (&corners)[kMaxClipped], int count, int border) {
     const double part = (double(border) - from.*Along) / (double(to.*Along) - from.*Along);
     Pixel cut;
     cut.*Along = border;
-    cut.*Across = interpolate(from.*Across, to.*Across, part);
+    cut.*Across = Interpolate(from.*Across, to.*Across, part);
     keep(cut);
   }
   std::copy_n(result, kept, corners);
@@ -48,10 +48,10 @@ int clipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect) 
     beyondTop |= corners[i].y < rect.top;
     beyondBottom |= corners[i].y > rect.bottom;
   }
-  if (beyondLeft) count = clipAgainst<&Pixel::x, &Pixel::y, false>(corners, count, rect.left);
-  if (beyondRight) count = clipAgainst<&Pixel::x, &Pixel::y, true>(corners, count, rect.right);
-  if (beyondTop) count = clipAgainst<&Pixel::y, &Pixel::x, false>(corners, count, rect.top);
-  if (beyondBottom) count = clipAgainst<&Pixel::y, &Pixel::x, true>(corners, count, rect.bottom);
+  if (beyondLeft) count = ClipAgainst<&Pixel::x, &Pixel::y, false>(corners, count, rect.left);
+  if (beyondRight) count = ClipAgainst<&Pixel::x, &Pixel::y, true>(corners, count, rect.right);
+  if (beyondTop) count = ClipAgainst<&Pixel::y, &Pixel::x, false>(corners, count, rect.top);
+  if (beyondBottom) count = ClipAgainst<&Pixel::y, &Pixel::x, true>(corners, count, rect.bottom);
   return count;
 }
 

@@ -21,7 +21,7 @@ int clipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect);
 
 class ViewPainter {
  public:
-  ViewPainter(Canvas& canvas, const PlanScene& scene, int viewIndex);
+  ViewPainter(Canvas& target, const PlanScene& shown, int viewIndex);
 
   Canvas& canvas;
   const PlanScene& scene;

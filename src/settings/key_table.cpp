@@ -20,7 +20,7 @@ constexpr Limits kAny{-kLargest, kLargest};
 constexpr Limits kShade{0, 63};
 constexpr Limits kPicture{16, 8192};
 constexpr Limits kControl{1, 4096};
-constexpr Limits atLeast(int low) { return {low, kLargest}; }
+constexpr Limits AtLeast(int low) { return {low, kLargest}; }
 
 constexpr SettingKey kKeys[] = {
     {"newmap", Form::Text, &S::newmap, kNone, SavedBy::Directories, 6},
@@ -32,9 +32,9 @@ constexpr SettingKey kKeys[] = {
     {"bspbuild_directory", Form::Directory, &S::bspbuild_directory},
     {"badtex", Form::Path, &S::badtex, kNone, SavedBy::Directories, 5},
     {"entities", Form::Text, &S::entities, kNone, SavedBy::Directories, 8},
-    {"gridsize", Form::Number, &S::gridsize, atLeast(1), SavedBy::Preferences, 8},
+    {"gridsize", Form::Number, &S::gridsize, AtLeast(1), SavedBy::Preferences, 8},
     {"drawmode", Form::Number, &S::drawmode, {0, 2}},
-    {"stepsize", Form::Number, &S::stepsize, atLeast(1), SavedBy::Preferences, 9},
+    {"stepsize", Form::Number, &S::stepsize, AtLeast(1), SavedBy::Preferences, 9},
     {"far_clip_distance", Form::Number, &S::far_clip_distance, {-16384, -2}, SavedBy::Preferences, 10},
     {"show_grid", Form::Flag, &S::show_grid, kNone, SavedBy::Preferences, 22},
     {"show_coordinates", Form::Flag, &S::show_coordinates, kNone, SavedBy::Preferences, 23},
@@ -45,10 +45,10 @@ constexpr SettingKey kKeys[] = {
     {"debugmode", Form::Flag, &S::debugmode},
     {"showeye", Form::Flag, &S::showeye, kNone, SavedBy::Preferences, 25},
     {"drag_vertex", Form::Number, &S::drag_vertex, {0, 2}, SavedBy::Preferences, 1},
-    {"select_delta", Form::Number, &S::select_delta, atLeast(1), SavedBy::Preferences, 6},
+    {"select_delta", Form::Number, &S::select_delta, AtLeast(1), SavedBy::Preferences, 6},
     {"vertex_use_grid", Form::Flag, &S::vertex_use_grid, kNone, SavedBy::Preferences, 20},
-    {"steps_per_turn", Form::Number, &S::steps_per_turn, atLeast(4), SavedBy::Preferences, 7},
-    {"vertex_drag_sensitivity", Form::Number, &S::vertex_drag_sensitivity, atLeast(1), SavedBy::Preferences,
+    {"steps_per_turn", Form::Number, &S::steps_per_turn, AtLeast(4), SavedBy::Preferences, 7},
+    {"vertex_drag_sensitivity", Form::Number, &S::vertex_drag_sensitivity, AtLeast(1), SavedBy::Preferences,
      4},
     {"face_drag_percent", Form::Fraction, &S::face_drag_percent, {0, 49}, SavedBy::Preferences, 5},
     {"cloneDeltaX", Form::Number, &S::cloneDeltaX, kAny},
@@ -78,7 +78,7 @@ constexpr SettingKey kKeys[] = {
     {"t_small_w", Form::Number, &S::t_small_w, {1, kLargestCell}},
     {"t_small_h", Form::Number, &S::t_small_h, {1, kLargestCell}},
     {"granularity", Form::Number, &S::granularity, kAny},
-    {"t_skyspeed", Form::Number, &S::t_skyspeed, atLeast(1)},
+    {"t_skyspeed", Form::Number, &S::t_skyspeed, AtLeast(1)},
     {"t_animatesky", Form::Flag, &S::t_animatesky},
     {"tex_button_height", Form::Number, &S::tex_button_height, kControl},
     {"tex_field_width", Form::Number, &S::tex_field_width, kControl},
@@ -86,7 +86,7 @@ constexpr SettingKey kKeys[] = {
     {"stretch_textures", Form::Flag, &S::stretch_textures, kNone, SavedBy::Preferences, 26},
     {"nosmallstretch", Form::Flag, &S::nosmallstretch},
     {"animate", Form::Flag, &S::animate},
-    {"timerdelay", Form::Number, &S::timerdelay, atLeast(1)},
+    {"timerdelay", Form::Number, &S::timerdelay, AtLeast(1)},
     {"brush_outline", Form::Rgb, &S::brush_outline, kNone, SavedBy::Colours, 18},
     {"select_outline", Form::Rgb, &S::select_outline, kNone, SavedBy::Colours, 19},
     {"face_outline", Form::Rgb, &S::face_outline, kNone, SavedBy::Colours, 20},
@@ -100,7 +100,7 @@ constexpr SettingKey kKeys[] = {
     {"camera_w", Form::Number, &S::camera_w, kPicture},
     {"camera_h", Form::Number, &S::camera_h, kPicture},
     {"camera_minmax", Form::Flag, &S::camera_minmax},
-    {"camera_steps", Form::Number, &S::camera_steps, atLeast(1)},
+    {"camera_steps", Form::Number, &S::camera_steps, AtLeast(1)},
     {"camera_mode", Form::Number, &S::camera_mode, kAny},
     {"sort_entities", Form::Flag, &S::sort_entities},
     {"group_button_height", Form::Number, &S::group_button_height, kControl},
@@ -121,8 +121,8 @@ constexpr SettingKey kKeys[] = {
     {"box_font_size", Form::Number, &S::box_font_size, {5, kLargestFont}},
     {"use_crosshair", Form::Flag, &S::use_crosshair},
     {"drag_brushes", Form::Number, &S::drag_brushes, kAny},
-    {"select_delay", Form::Number, &S::select_delay, atLeast(0)},
-    {"start_set->scale", Form::Number, &S::start_set_scale, atLeast(1), SavedBy::Preferences, 18},
+    {"select_delay", Form::Number, &S::select_delay, AtLeast(0)},
+    {"start_set->scale", Form::Number, &S::start_set_scale, AtLeast(1), SavedBy::Preferences, 18},
     {"grid_style", Form::Number, &S::grid_style, kAny},
     {"wheel_zoom", Form::Flag, &S::wheel_zoom, kNone, SavedBy::Preferences, 36},
     {"middle_drag", Form::Flag, &S::middle_drag, kNone, SavedBy::Preferences, 37},

@@ -27,7 +27,7 @@ auto& valueOf(Record& settings, Colour ViewColours::*member) {
 }
 
 // "red green blue"; channels that are missing or unreadable keep their values.
-Colour parseColour(const std::string& text, Colour colour) {
+Colour ParseColour(const std::string& text, Colour colour) {
   const char* rest = text.c_str();
   for (int* channel : {&colour.red, &colour.green, &colour.blue}) {
     char* end = nullptr;
@@ -40,7 +40,7 @@ Colour parseColour(const std::string& text, Colour colour) {
 }
 
 // A value without digits keeps what the record holds.
-int limited(const SettingKey& key, const std::string& text, int held) {
+int Limited(const SettingKey& key, const std::string& text, int held) {
   return std::clamp(LeadingInt(text).value_or(held), key.limits.low, key.limits.high);
 }
 
@@ -49,23 +49,23 @@ void assign(const SettingKey& key, const std::string& text, std::string& value) 
   value = text.substr(0, key.form == KeyForm::Text ? kMaxText : kMaxPath);
   if (key.form == KeyForm::Directory) value = WithSeparator(value);
 }
-void assign(const SettingKey&, const std::string& text, Colour& value) { value = parseColour(text, value); }
+void assign(const SettingKey&, const std::string& text, Colour& value) { value = ParseColour(text, value); }
 void assign(const SettingKey&, const std::string& text, bool& value) {
   value = LeadingInt(text).value_or(value ? 1 : 0) != 0;
 }
-void assign(const SettingKey& key, const std::string& text, int& value) { value = limited(key, text, value); }
+void assign(const SettingKey& key, const std::string& text, int& value) { value = Limited(key, text, value); }
 void assign(const SettingKey& key, const std::string& text, double& value) {
-  if (const auto hundredths = LeadingInt(text)) value = limited(key, text, *hundredths) * 0.01;
+  if (const auto hundredths = LeadingInt(text)) value = Limited(key, text, *hundredths) * 0.01;
 }
 void assign(const SettingKey& key, const std::string& text, float& value) {
   if (key.form == KeyForm::Number) {
-    value = static_cast<float>(limited(key, text, Truncate(value)));
+    value = static_cast<float>(Limited(key, text, Truncate(value)));
   } else if (const auto number = static_cast<float>(std::min(TextToDouble(text), 1e30)); number > 0) {
     value = number;
   }
 }
 
-std::string shortest(float value) {
+std::string Shortest(float value) {
   char text[32];
   return {text, std::to_chars(std::begin(text), std::end(text), value).ptr};
 }
@@ -79,31 +79,31 @@ std::string written(const SettingKey&, int value) { return std::to_string(value)
 // A fraction may lie just below its hundredth.
 std::string written(const SettingKey&, double value) { return std::to_string(Truncate(value * 100 + 1e-9)); }
 std::string written(const SettingKey& key, float value) {
-  return key.form == KeyForm::Number ? std::to_string(Truncate(value)) : shortest(value);
+  return key.form == KeyForm::Number ? std::to_string(Truncate(value)) : Shortest(value);
 }
 
-std::string textOf(const SettingKey& key, const Settings& settings) {
+std::string TextOf(const SettingKey& key, const Settings& settings) {
   return std::visit([&](auto member) { return written(key, valueOf(settings, member)); }, key.member);
 }
 
-void readKey(const SettingKey& key, const std::string& text, Settings& settings) {
+void ReadKey(const SettingKey& key, const std::string& text, Settings& settings) {
   std::visit([&](auto member) { assign(key, text, valueOf(settings, member)); }, key.member);
 }
 
 // Rules that are not a plain range.
-void applyOddLimits(Settings& settings) {
+void ApplyOddLimits(Settings& settings) {
   if (settings.texture_list_width < 0) settings.texture_list_width = 80;
   settings.texture_list_width = std::min(settings.texture_list_width, 320);
   settings.granularity = 1;  // the texture browser scrolls by single rows, whatever the file says
 }
 
-void store(SavedBy dialog, const Settings& settings, IniFile& ini) {
+void Store(SavedBy dialog, const Settings& settings, IniFile& ini) {
   std::vector<const SettingKey*> keys;
   for (const SettingKey& key : SettingKeys()) {
     if (key.savedBy == dialog) keys.push_back(&key);
   }
   std::ranges::sort(keys, {}, &SettingKey::place);
-  for (const SettingKey* key : keys) ini.set(SectionName(key->section), key->name, textOf(*key, settings));
+  for (const SettingKey* key : keys) ini.set(SectionName(key->section), key->name, TextOf(*key, settings));
 }
 
 }  // namespace
@@ -111,9 +111,9 @@ void store(SavedBy dialog, const Settings& settings, IniFile& ini) {
 Settings LoadSettings(const IniFile& ini) {
   Settings settings;
   for (const SettingKey& key : SettingKeys()) {
-    if (const auto text = ini.find(SectionName(key.section), key.name)) readKey(key, *text, settings);
+    if (const auto text = ini.find(SectionName(key.section), key.name)) ReadKey(key, *text, settings);
   }
-  applyOddLimits(settings);
+  ApplyOddLimits(settings);
   settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
   return settings;
 }
@@ -121,24 +121,24 @@ Settings LoadSettings(const IniFile& ini) {
 void StorePreferences(const Settings& settings, IniFile& ini) {
   Settings saved = settings;
   saved.start_set_scale = std::max(1, Truncate(RoundHalfAway(settings.scale * 100.0)));
-  store(SavedBy::Preferences, saved, ini);
+  Store(SavedBy::Preferences, saved, ini);
 }
 
-void StoreColours(const Settings& settings, IniFile& ini) { store(SavedBy::Colours, settings, ini); }
+void StoreColours(const Settings& settings, IniFile& ini) { Store(SavedBy::Colours, settings, ini); }
 
-void StoreDirectories(const Settings& settings, IniFile& ini) { store(SavedBy::Directories, settings, ini); }
+void StoreDirectories(const Settings& settings, IniFile& ini) { Store(SavedBy::Directories, settings, ini); }
 
 std::optional<std::string> SettingText(const Settings& settings, std::string_view name) {
   const SettingKey* key = FindSettingKey(name);
   if (!key) return std::nullopt;
-  return textOf(*key, settings);
+  return TextOf(*key, settings);
 }
 
 bool SetSettingText(Settings& settings, std::string_view name, const std::string& text) {
   const SettingKey* key = FindSettingKey(name);
   if (!key) return false;
-  readKey(*key, text, settings);
-  applyOddLimits(settings);
+  ReadKey(*key, text, settings);
+  ApplyOddLimits(settings);
   return true;
 }
 

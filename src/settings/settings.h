@@ -186,9 +186,9 @@ void StoreColours(const Settings& settings, IniFile& ini);
 void StoreDirectories(const Settings& settings, IniFile& ini);
 
 // The value of any key of either section as velk.ini would hold it; none for an unknown key.
-std::optional<std::string> SettingText(const Settings& settings, std::string_view key);
+std::optional<std::string> SettingText(const Settings& settings, std::string_view name);
 // Gives a key the value that `text` would give it in velk.ini, limits and unreadable values included; false
 // for an unknown key.
-bool SetSettingText(Settings& settings, std::string_view key, const std::string& text);
+bool SetSettingText(Settings& settings, std::string_view name, const std::string& text);
 
 }  // namespace velk

@@ -9,7 +9,7 @@ namespace {
 
 using test::Session;
 
-bool overlap(const WindowPlacement& a, const WindowPlacement& b) {
+bool Overlap(const WindowPlacement& a, const WindowPlacement& b) {
   return a.normal[0] < b.normal[2] && b.normal[0] < a.normal[2] && a.normal[1] < b.normal[3] &&
          b.normal[1] < a.normal[3];
 }
@@ -21,7 +21,7 @@ TEST(Windows, FirstLayoutShowsEveryWindowBesideTheOthers) {
       const auto& [left, top, right, bottom] = layout[i].normal;
       EXPECT_TRUE(left >= 0 && top >= 0 && right <= width && bottom <= height) << i;
       EXPECT_TRUE(right - left >= 200 && bottom - top >= 100) << i;
-      for (size_t k = 0; k < i; ++k) EXPECT_FALSE(overlap(layout[i], layout[k])) << i << " " << k;
+      for (size_t k = 0; k < i; ++k) EXPECT_FALSE(Overlap(layout[i], layout[k])) << i << " " << k;
     }
   }
 }

@@ -11,7 +11,7 @@ namespace {
 using test::Session;
 
 // "bars" as text: commands by number, "|" for a separator, "T" for the texture list, bars parted by '/'.
-std::string summary(std::string_view file) {
+std::string Summary(std::string_view file) {
   std::string text;
   for (const ButtonBar& bar : ParseButtonBars(file)) {
     for (const BarGadget& gadget : bar) {
@@ -38,12 +38,12 @@ TEST(Bars, ReadsRecordsUpToTheFirstThingThatIsNone) {
       {"bars 1", "/"},
       {"bars -3\nbar 1 CM_FILENEW\n", ""},
   };
-  for (const auto& [file, bars] : cases) EXPECT_EQ(summary(file), bars) << file;
+  for (const auto& [file, bars] : cases) EXPECT_EQ(Summary(file), bars) << file;
 }
 
 TEST(Bars, EveryNameGivesItsButton) {
   for (const auto& [name, id] : test::kBarNames) {
-    EXPECT_EQ(summary(std::string("bars 1\nbar 1 ") + name), std::to_string(id) + " /") << name;
+    EXPECT_EQ(Summary(std::string("bars 1\nbar 1 ") + name), std::to_string(id) + " /") << name;
   }
 }
 

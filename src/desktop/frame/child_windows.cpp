@@ -69,12 +69,12 @@ class ChildWindow : public QMdiSubWindow {
   }
 };
 
-QRect rectOf(const WindowPlacement& placement) {
+QRect RectOf(const WindowPlacement& placement) {
   const auto& [left, top, right, bottom] = placement.normal;
   return {QPoint(left, top), QSize(right - left, bottom - top)};
 }
 
-int share(int position, int from, int to) { return from > 0 ? (position * to + from / 2) / from : position; }
+int Share(int position, int from, int to) { return from > 0 ? (position * to + from / 2) / from : position; }
 
 }  // namespace
 
@@ -122,7 +122,7 @@ WindowPlacement ChildWindows::placement(ToolWindow window) const {
 }
 
 void ChildWindows::place(ToolWindow window, const WindowPlacement& placement) {
-  const QRect rect = rectOf(placement);
+  const QRect rect = RectOf(placement);
   if (rect.width() <= 0 || rect.height() <= 0) return;
   QMdiSubWindow& target = child(window);
   target.showNormal();
@@ -212,10 +212,10 @@ void ChildWindows::keepShares(const QSize& from, const QSize& to) {
   for (QMdiSubWindow* window : children_) {
     if (!window || window->isMinimized() || window->isMaximized()) continue;
     const QRect old = window->geometry();
-    const int left = share(old.left(), from.width(), to.width());
-    const int top = share(old.top(), from.height(), to.height());
-    const int right = share(old.left() + old.width(), from.width(), to.width());
-    const int bottom = share(old.top() + old.height(), from.height(), to.height());
+    const int left = Share(old.left(), from.width(), to.width());
+    const int top = Share(old.top(), from.height(), to.height());
+    const int right = Share(old.left() + old.width(), from.width(), to.width());
+    const int bottom = Share(old.top() + old.height(), from.height(), to.height());
     window->setGeometry(left, top, right - left, bottom - top);
   }
 }

@@ -19,18 +19,18 @@ constexpr const char* kKey = "color-scheme";
 constexpr uint kPrefersDark = 1;
 
 // Qt's own style with its own colours: nobody else has chosen any.
-bool coloursAreFree() {
+bool ColoursAreFree() {
   const QStyle& style = *QApplication::style();
   return style.name() == QLatin1String("fusion") && QApplication::palette() == style.standardPalette();
 }
 
 // Looked for first, since asking Qt for the bus where there is none may start one.
-bool hasSessionBus() {
+bool HasSessionBus() {
   return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
          QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
-QPalette darkPalette() {
+QPalette DarkPalette() {
   const QColor text(0xe4e6ea);
   const QColor faint(0x84878d);
   const QColor window(0x2f3136);
@@ -57,16 +57,16 @@ QPalette darkPalette() {
 }
 
 // The value may stand in variants of its own.
-void use(QVariant value) {
+void Use(QVariant value) {
   while (value.metaType() == QMetaType::fromType<QDBusVariant>())
     value = value.value<QDBusVariant>().variant();
-  QApplication::setPalette(value.toUInt() == kPrefersDark ? darkPalette() : QPalette());
+  QApplication::setPalette(value.toUInt() == kPrefersDark ? DarkPalette() : QPalette());
 }
 
 }  // namespace
 
 ColourScheme::ColourScheme(QObject* parent) : QObject(parent) {
-  if (!coloursAreFree() || !hasSessionBus()) return;
+  if (!ColoursAreFree() || !HasSessionBus()) return;
   QDBusConnection bus = QDBusConnection::sessionBus();
   bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
               SLOT(settingChanged(QDBusMessage)));
@@ -79,7 +79,7 @@ ColourScheme::ColourScheme(QObject* parent) : QObject(parent) {
 void ColourScheme::takeAnswer() {
   if (!question_ || !question_->isFinished()) return;
   const QDBusPendingReply<QDBusVariant> reply = *question_;
-  if (reply.isValid()) use(QVariant::fromValue(reply.value()));
+  if (reply.isValid()) Use(QVariant::fromValue(reply.value()));
   question_->deleteLater();
   question_ = nullptr;
 }
@@ -89,7 +89,7 @@ void ColourScheme::settingChanged(const QDBusMessage& message) {
   const QVariantList parts = message.arguments();
   if (parts.size() == 3 && parts[0].toString() == QLatin1String(kGroup) &&
       parts[1].toString() == QLatin1String(kKey)) {
-    use(parts[2]);
+    Use(parts[2]);
   }
 }
 

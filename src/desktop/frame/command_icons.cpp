@@ -21,7 +21,7 @@ constexpr int kMotifDepth = 4;
 using Drawings = QHash<QString, QString>;
 
 // Each line is a name and the pieces of its drawing.
-Drawings readDrawings() {
+Drawings ReadDrawings() {
   Drawings drawings;
   QFile file(QStringLiteral(":/icons/commands.txt"));
   if (!file.open(QIODevice::ReadOnly)) return drawings;
@@ -34,34 +34,34 @@ Drawings readDrawings() {
   return drawings;
 }
 
-const Drawings& drawings() {
-  static const Drawings read = readDrawings();
+const Drawings& Drawings() {
+  static const Drawings read = ReadDrawings();
   return read;
 }
 
-QString expand(const QString& body, int depth);
+QString Expand(const QString& body, int depth);
 
-QString circle(const QString& numbers) {
+QString Circle(const QString& numbers) {
   const QStringList parts = numbers.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   if (parts.size() != 3) return {};
   return QStringLiteral("<circle cx='%1' cy='%2' r='%3'/>").arg(parts[0], parts[1], parts[2]);
 }
 
 // "{name}" or "{name} transform".
-QString motif(const QString& text, int depth) {
+QString Motif(const QString& text, int depth) {
   const int end = static_cast<int>(text.indexOf(QLatin1Char('}')));
-  const QString inner = expand(drawings().value(text.mid(1, end - 1)), depth + 1);
+  const QString inner = Expand(Drawings().value(text.mid(1, end - 1)), depth + 1);
   return QStringLiteral("<g transform='%1'>%2</g>").arg(text.mid(end + 1).trimmed(), inner);
 }
 
-QString shape(const QString& text, int depth) {
-  if (text.startsWith(QLatin1Char('{'))) return motif(text, depth);
-  if (text.startsWith(QLatin1Char('o'))) return circle(text.mid(1));
+QString Shape(const QString& text, int depth) {
+  if (text.startsWith(QLatin1Char('{'))) return Motif(text, depth);
+  if (text.startsWith(QLatin1Char('o'))) return Circle(text.mid(1));
   return QStringLiteral("<path d='%1'/>").arg(text);
 }
 
 // A piece is a shape behind its marks: '+' accent, '*' filled, '~' faint.
-QString piece(QString text, int depth) {
+QString Piece(QString text, int depth) {
   QString colour;
   QString style;
   bool filled = false;
@@ -81,14 +81,14 @@ QString piece(QString text, int depth) {
   } else if (!colour.isEmpty()) {
     style += QStringLiteral(" stroke='%1'").arg(colour);
   }
-  return QStringLiteral("<g%1>%2</g>").arg(style, shape(text, depth));
+  return QStringLiteral("<g%1>%2</g>").arg(style, Shape(text, depth));
 }
 
-QString expand(const QString& body, int depth) {
+QString Expand(const QString& body, int depth) {
   QString svg;
   if (depth > kMotifDepth) return svg;
   for (const QString& text : body.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-    svg += piece(text.trimmed(), depth);
+    svg += Piece(text.trimmed(), depth);
   }
   return svg;
 }
@@ -139,13 +139,13 @@ class CommandIconEngine : public QIconEngine {
 }  // namespace
 
 QByteArray CommandSvg(std::string_view name, const IconColours& colours) {
-  const QString body = drawings().value(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
+  const QString body = Drawings().value(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
   if (body.isEmpty()) return {};
   QString svg = QStringLiteral(
                     "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
                     "<g fill='none' stroke='%ink%' stroke-width='1.8' stroke-linecap='round' "
                     "stroke-linejoin='round'>") +
-                expand(body, 0) + QStringLiteral("</g></svg>");
+                Expand(body, 0) + QStringLiteral("</g></svg>");
   svg.replace(QStringLiteral("%ink%"), colours.ink.name());
   svg.replace(QStringLiteral("%accent%"), colours.accent.name());
   return svg.toUtf8();
@@ -153,7 +153,7 @@ QByteArray CommandSvg(std::string_view name, const IconColours& colours) {
 
 QIcon CommandIcon(std::string_view name) {
   const QString key = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
-  return drawings().contains(key) ? QIcon(new CommandIconEngine(key)) : QIcon();
+  return Drawings().contains(key) ? QIcon(new CommandIconEngine(key)) : QIcon();
 }
 
 }  // namespace velk

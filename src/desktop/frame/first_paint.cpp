@@ -8,7 +8,7 @@
 namespace velk {
 namespace {
 
-void report() {
+void Report() {
   std::printf("%.1f\n", 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
   std::fflush(stdout);
 }
@@ -21,7 +21,7 @@ class FirstPaint : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Paint) {
       watched->removeEventFilter(this);
-      QTimer::singleShot(0, this, report);
+      QTimer::singleShot(0, this, Report);
     }
     return false;
   }

@@ -24,12 +24,12 @@ void write(IniFile& file, const char* key, const QByteArray& bytes) {
   file.set(kSection, key, bytes.toBase64().toStdString());
 }
 
-int checkOf(const QByteArray& geometry, const QByteArray& bars) { return qChecksum(geometry + bars); }
+int CheckOf(const QByteArray& geometry, const QByteArray& bars) { return qChecksum(geometry + bars); }
 
 // Qt keeps restored bars from the window manager, as if they were being dragged, and shows them before the
 // frame; both lets them sink below it. A bar whose handle is on no screen could not be caught again: it goes
 // back to the frame.
-void settleFloating(QMainWindow& frame, QToolBar& bar) {
+void SettleFloating(QMainWindow& frame, QToolBar& bar) {
   const QRect place = bar.geometry();
   const bool hidden = bar.isHidden();
   bar.setWindowFlag(Qt::X11BypassWindowManagerHint, false);
@@ -52,11 +52,11 @@ void RestoreFrame(QMainWindow& frame, const std::filesystem::path& stateFile) {
   const IniFile file = IniFile::Load(stateFile);
   const QByteArray geometry = read(file, kGeometry);
   const QByteArray bars = read(file, kBars);
-  if (file.integer(kSection, kCheck, -1) != checkOf(geometry, bars)) return;
+  if (file.integer(kSection, kCheck, -1) != CheckOf(geometry, bars)) return;
   frame.restoreGeometry(geometry);
   frame.restoreState(bars);
   for (QToolBar* bar : frame.findChildren<QToolBar*>()) {
-    if (bar->isFloating()) settleFloating(frame, *bar);
+    if (bar->isFloating()) SettleFloating(frame, *bar);
   }
 }
 
@@ -66,7 +66,7 @@ void RememberFrame(const QMainWindow& frame, const std::filesystem::path& stateF
   const QByteArray bars = frame.saveState();
   write(file, kGeometry, geometry);
   write(file, kBars, bars);
-  file.set(kSection, kCheck, std::to_string(checkOf(geometry, bars)));
+  file.set(kSection, kCheck, std::to_string(CheckOf(geometry, bars)));
   (void)file.save(stateFile);
 }
 

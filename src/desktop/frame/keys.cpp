@@ -25,7 +25,7 @@ constexpr std::array<std::pair<int, Key>, 14> kNamedKeys{{
     {Qt::Key_Space, Key::Space},
 }};
 
-void setKey(KeyStroke& stroke, int key) {
+void SetKey(KeyStroke& stroke, int key) {
   for (const auto& [code, named] : kNamedKeys) {
     if (code == key) {
       stroke.key = named;
@@ -48,7 +48,7 @@ const Command* CommandForKey(const QKeyEvent& event) {
   stroke.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   stroke.alt = event.modifiers().testFlag(Qt::AltModifier);
   stroke.shift = event.modifiers().testFlag(Qt::ShiftModifier);
-  setKey(stroke, event.key());
+  SetKey(stroke, event.key());
   return CommandForStroke(stroke);
 }
 

@@ -24,7 +24,7 @@ class MenuStyle : public QProxyStyle {
 // The menu of a row: a path of labels parted by '|', made on the way where it does not exist. The line
 // before the row's group stands before the first thing that is new. Menus leave out lines that would stand
 // first, last or twice.
-QMenu* menuOf(QMenuBar& bar, const Command& command, QStyle* style) {
+QMenu* MenuOf(QMenuBar& bar, const Command& command, QStyle* style) {
   QWidget* parent = &bar;
   bool line = command.startsGroup;
   for (const std::string& label : Split(command.menu, '|')) {
@@ -48,16 +48,16 @@ QMenu* menuOf(QMenuBar& bar, const Command& command, QStyle* style) {
 }
 
 // The key text stands behind a tab: shown by the menu, but no shortcut of Qt's. Keys are the key table's.
-QString itemText(const Command& command, const Editor& editor) {
+QString ItemText(const Command& command, const Editor& editor) {
   QString text = ShownText(LabelOf(editor, command));
   if (*command.keyText) text += '\t' + QString::fromLatin1(command.keyText);
   return text;
 }
 
-void refresh(QAction& action, const Editor& editor) {
+void Refresh(QAction& action, const Editor& editor) {
   const Command* command = FindCommand(action.data().toInt());
   if (!command) return;
-  action.setText(itemText(*command, editor));
+  action.setText(ItemText(*command, editor));
   action.setVisible(!IsHidden(editor, *command));
   action.setEnabled(IsEnabled(editor, *command));
   if (action.isCheckable()) action.setChecked(IsChecked(editor, *command));
@@ -70,15 +70,15 @@ void BuildMenus(QMenuBar& bar, Editor& editor) {
   style->setParent(&bar);
   for (const Command& command : Commands()) {
     if (!*command.menu) continue;
-    QMenu* menu = menuOf(bar, command, style);
-    QAction* action = menu->addAction(itemText(command, editor));
+    QMenu* menu = MenuOf(bar, command, style);
+    QAction* action = menu->addAction(ItemText(command, editor));
     action->setData(command.id);
     action->setStatusTip(QString::fromLatin1(command.hint));
     action->setCheckable(command.checked != nullptr);
     action->setMenuRole(QAction::NoRole);
     QObject::connect(action, &QAction::triggered, [&editor, &command] { RunCommand(editor, command); });
-    QObject::connect(menu, &QMenu::aboutToShow, action, [action, &editor] { refresh(*action, editor); });
-    refresh(*action, editor);
+    QObject::connect(menu, &QMenu::aboutToShow, action, [action, &editor] { Refresh(*action, editor); });
+    Refresh(*action, editor);
   }
 }
 

@@ -23,33 +23,33 @@ struct GuardState {
   int pipe[2] = {-1, -1};   // wakes the event loop for a request
   volatile std::sig_atomic_t request = 0;
 };
-GuardState& state() {
+GuardState& State() {
   static GuardState instance;
   return instance;
 }
 
-void die(int number) {
+void Die(int number) {
   std::signal(number, SIG_DFL);
   std::raise(number);
 }
 
-void onCrash(int number) {
+void OnCrash(int number) {
   ::alarm(kTimeLimit);
   CrashGuard::RunNow();
-  die(number);
+  Die(number);
 }
 
-void onRequest(int number) {
-  if (state().request == 0) {
-    state().request = number;
-    if (::write(state().pipe[1], "", 1) == 1) return;
+void OnRequest(int number) {
+  if (State().request == 0) {
+    State().request = number;
+    if (::write(State().pipe[1], "", 1) == 1) return;
   }
-  onCrash(number);
+  OnCrash(number);
 }
 
 // No other signal interrupts the handler: it would end the program in the middle of a rescue.
 template <size_t N>
-void handle(const int (&signals)[N], void (*handler)(int)) {
+void Handle(const int (&signals)[N], void (*handler)(int)) {
   struct sigaction action {};
   action.sa_handler = handler;
   action.sa_flags = SA_ONSTACK | SA_RESTART;
@@ -61,18 +61,18 @@ void handle(const int (&signals)[N], void (*handler)(int)) {
 }  // namespace
 
 CrashGuard::CrashGuard(std::function<void()> rescue) {
-  state().rescue = std::move(rescue);
-  state().stack.resize(kStackSize);
+  State().rescue = std::move(rescue);
+  State().stack.resize(kStackSize);
   stack_t alternate{};
-  alternate.ss_sp = state().stack.data();
+  alternate.ss_sp = State().stack.data();
   alternate.ss_size = kStackSize;
   sigaltstack(&alternate, nullptr);
-  if (::pipe2(state().pipe, O_CLOEXEC | O_NONBLOCK) == 0) {
-    requests_ = std::make_unique<QSocketNotifier>(state().pipe[0], QSocketNotifier::Read);
+  if (::pipe2(State().pipe, O_CLOEXEC | O_NONBLOCK) == 0) {
+    requests_ = std::make_unique<QSocketNotifier>(State().pipe[0], QSocketNotifier::Read);
     QObject::connect(requests_.get(), &QSocketNotifier::activated, [this] { end(); });
   }
-  handle(kCrashes, onCrash);
-  handle(kRequests, onRequest);
+  Handle(kCrashes, OnCrash);
+  Handle(kRequests, OnRequest);
   // Messages that nobody reads any more are no reason to end.
   std::signal(SIGPIPE, SIG_IGN);
   // Qt ends the program by exit() when the X server is gone.
@@ -82,17 +82,17 @@ CrashGuard::CrashGuard(std::function<void()> rescue) {
 CrashGuard::~CrashGuard() {
   for (const int number : kCrashes) std::signal(number, SIG_DFL);
   for (const int number : kRequests) std::signal(number, SIG_DFL);
-  state().rescue = nullptr;
+  State().rescue = nullptr;
 }
 
 void CrashGuard::end() {
   requests_->setEnabled(false);
   RunNow();
-  die(state().request);
+  Die(State().request);
 }
 
 void CrashGuard::RunNow() {
-  const std::function<void()> rescue = std::exchange(state().rescue, nullptr);
+  const std::function<void()> rescue = std::exchange(State().rescue, nullptr);
   if (rescue) rescue();
 }
 

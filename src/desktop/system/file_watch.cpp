@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kDelay{300};
 
-bool isBusy() {
+bool IsBusy() {
   return QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
          QApplication::mouseButtons() != Qt::NoButton;
 }
@@ -56,7 +56,7 @@ bool FileWatch::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FileWatch::check() {
-  if (isBusy()) {
+  if (IsBusy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
     CheckDisk(editor_.services(), editor_.documents(), editor_.door());

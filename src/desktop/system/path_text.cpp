@@ -9,10 +9,10 @@ namespace {
 constexpr char16_t kByte = 0xDC00;  // stands before the value of a byte
 constexpr qsizetype kLongestCharacter = 4;
 
-bool isByte(QChar c) { return c.unicode() >= kByte + 0x80 && c.unicode() <= kByte + 0xFF; }
+bool IsByte(QChar c) { return c.unicode() >= kByte + 0x80 && c.unicode() <= kByte + 0xFF; }
 
 // The first character of the bytes; empty when they do not begin with one.
-QString firstCharacter(QByteArrayView bytes) {
+QString FirstCharacter(QByteArrayView bytes) {
   for (qsizetype length = 1; length <= std::min(kLongestCharacter, bytes.size()); ++length) {
     const QByteArrayView piece = bytes.first(length);
     QString text = QString::fromUtf8(piece);
@@ -26,7 +26,7 @@ QString firstCharacter(QByteArrayView bytes) {
 QString PathText(const std::string& path) {
   QString text;
   for (QByteArrayView rest(path); !rest.isEmpty();) {
-    const QString character = firstCharacter(rest);
+    const QString character = FirstCharacter(rest);
     text +=
         character.isEmpty() ? QString(QChar(kByte + static_cast<unsigned char>(rest.front()))) : character;
     rest = rest.sliced(character.isEmpty() ? 1 : character.toUtf8().size());
@@ -39,7 +39,7 @@ std::string PathBytes(const QString& text) {
   QString whole;  // characters up to the next lone byte
   const auto flush = [&] { bytes += std::exchange(whole, {}).toUtf8().toStdString(); };
   for (const QChar c : text) {
-    if (!isByte(c) || (!whole.isEmpty() && whole.back().isHighSurrogate())) {
+    if (!IsByte(c) || (!whole.isEmpty() && whole.back().isHighSurrogate())) {
       whole += c;
       continue;
     }

@@ -13,7 +13,7 @@ namespace {
 constexpr QSize kSize{760, 640};
 constexpr int kMargin = 12;  // pixels between the text and the edges
 
-std::string menuPath(const Command& command) {
+std::string MenuPath(const Command& command) {
   std::string path;
   for (std::string label : Split(command.menu, '|')) {
     std::erase(label, '&');
@@ -22,19 +22,19 @@ std::string menuPath(const Command& command) {
   return path + PlainLabel(command);
 }
 
-QString cell(const std::string& text) {
+QString Cell(const std::string& text) {
   return "<td>" + QString::fromStdString(text).toHtmlEscaped() + "</td>";
 }
 
 // As HTML, since Qt needs seconds to read a table of this length as Markdown.
-QString keysPage() {
+QString KeysPage() {
   QString page =
       "<h1>Keys</h1><table border='1' cellspacing='0' cellpadding='3'>"
       "<tr><th>key</th><th>command</th><th>what it does</th></tr>";
   for (const Command& command : Commands()) {
     if (!*command.keys) continue;
-    page += "<tr>" + cell(command.keys) + cell(*command.menu ? menuPath(command) : command.label) +
-            cell(command.hint) + "</tr>";
+    page += "<tr>" + Cell(command.keys) + Cell(*command.menu ? MenuPath(command) : command.label) +
+            Cell(command.hint) + "</tr>";
   }
   return page + "</table><p><a href='index.md'>Contents</a></p>";
 }
@@ -72,7 +72,7 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 QVariant HelpWindow::loadResource(int type, const QUrl& name) {
-  if (name.fileName() == "keys.html") return keysPage();
+  if (name.fileName() == "keys.html") return KeysPage();
   return QTextBrowser::loadResource(type, name);
 }
 

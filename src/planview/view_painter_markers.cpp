@@ -18,7 +18,7 @@ constexpr int kLargestFont = 200;       // pixels
 constexpr Colour kLeakColour{255, 0, 0};
 
 // The outline and inside of a square; right and bottom do not belong to it.
-void drawSquare(Canvas& canvas, const PixelRect& square, Colour border, Colour inside) {
+void DrawSquare(Canvas& canvas, const PixelRect& square, Colour border, Colour inside) {
   const int right = square.left + square.width - 1, bottom = square.top + square.height - 1;
   if (square.width < 1 || square.height < 1) return;
   canvas.fill(square, inside);
@@ -28,19 +28,19 @@ void drawSquare(Canvas& canvas, const PixelRect& square, Colour border, Colour i
 }
 
 // Rounded, so that an arrow along an axis stays straight.
-Pixel nearestPixel(double x, double y) { return {Truncate(RoundHalfAway(x)), Truncate(RoundHalfAway(y))}; }
+Pixel NearestPixel(double x, double y) { return {Truncate(RoundHalfAway(x)), Truncate(RoundHalfAway(y))}; }
 
 // Pixels that follow the arrow's tip in its direction.
-void drawDots(Canvas& canvas, Colour colour, const ArrowTip& tip, double b, double length, int count) {
+void DrawDots(Canvas& canvas, Colour colour, const ArrowTip& tip, double b, double length, int count) {
   std::vector<Pixel> dots;
   for (int i = 1; i <= count; ++i) {
     const double along = i * 0.4 * length;
-    dots.push_back(nearestPixel(tip.x + along * std::cos(b), tip.y + along * std::sin(b)));
+    dots.push_back(NearestPixel(tip.x + along * std::cos(b), tip.y + along * std::sin(b)));
   }
   canvas.points(colour, dots);
 }
 
-void drawCamera(ViewPainter& painter, int index) {
+void DrawCamera(ViewPainter& painter, int index) {
   const map& m = *painter.scene.shown;
   const Settings& settings = painter.settings;
   const camera& eye = m.cameras[static_cast<size_t>(index)];
@@ -53,11 +53,11 @@ void drawCamera(ViewPainter& painter, int index) {
       index == m.currentCamera ? painter.colours.color_activecamera : painter.colours.color_othercamera;
   const int left = Truncate(at.x - 0.5 * length), top = Truncate(at.y - 0.5 * length);
   const PixelRect square{left, top, Truncate(left + length) - left, Truncate(top + length) - top};
-  drawSquare(painter.canvas, square, colour, painter.colours.bgcolor);
+  DrawSquare(painter.canvas, square, colour, painter.colours.bgcolor);
   if (painter.view.orientation == kOrientationXY) {
     const double b = std::numbers::pi / 2 - eye.yaw;
     const ArrowTip tip = drawArrow(painter.canvas, {colour, 1}, at, b, length);
-    drawDots(painter.canvas, colour, tip, b, length, dots);
+    DrawDots(painter.canvas, colour, tip, b, length, dots);
   }
   if (painter.projection.scale > kNumbersAbove) {
     // Without a background of its own, which would break the marker's outline.
@@ -72,7 +72,7 @@ void drawCamera(ViewPainter& painter, int index) {
 ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length) {
   const double baseX = origin.x - 0.3 * length * std::cos(b), baseY = origin.y - 0.3 * length * std::sin(b);
   const auto from = [&](double angle, double distance) {
-    return nearestPixel(baseX + distance * std::cos(angle), baseY + distance * std::sin(angle));
+    return NearestPixel(baseX + distance * std::cos(angle), baseY + distance * std::sin(angle));
   };
   const Pixel tip = from(b, length);
   const Pixel head[] = {tip, from(b + 0.2, 0.6 * length), from(b, 0.8 * length), from(b - 0.2, 0.6 * length)};
@@ -82,7 +82,7 @@ ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, doubl
 }
 
 void drawCameras(ViewPainter& painter) {
-  for (int i = kCameras - 1; i >= 0; --i) drawCamera(painter, i);
+  for (int i = kCameras - 1; i >= 0; --i) DrawCamera(painter, i);
 }
 
 void drawClipPoints(ViewPainter& painter) {
@@ -94,7 +94,7 @@ void drawClipPoints(ViewPainter& painter) {
                         &painter.colours.bgcolor);
     const Colour inside =
         i == clip.current ? painter.colours.color_currentclipface : painter.colours.color_otherclipface;
-    drawSquare(painter.canvas,
+    DrawSquare(painter.canvas,
                {at.x - kClipPointSize / 2, at.y - kClipPointSize / 2, kClipPointSize, kClipPointSize},
                painter.colours.color_clipborder, inside);
   }

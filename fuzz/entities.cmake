@@ -1,0 +1,1 @@
+velk_fuzz(entities SOURCES entities.cpp USES entities)

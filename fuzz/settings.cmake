@@ -1,0 +1,1 @@
+velk_fuzz(settings SOURCES settings.cpp USES settings)
