@@ -25,6 +25,7 @@ class NoAnswers : public Prompts {
   std::optional<std::string> input(const TextInput&) override { return {}; }
   std::optional<Colour> chooseColour(const ColourChooser&) override { return {}; }
   FormAnswer fill(Form&) override { return {}; }
+  void show(ModelessForm) override {}
 };
 
 // An editor with one map open.

@@ -55,6 +55,7 @@ class PalettePrompts : public Prompts {
   std::optional<std::string> input(const TextInput&) override { return std::nullopt; }
   std::optional<Colour> chooseColour(const ColourChooser&) override { return std::nullopt; }
   FormAnswer fill(Form&) override { return FormAnswer::Cancel; }
+  void show(ModelessForm) override {}
 };
 
 struct Level {

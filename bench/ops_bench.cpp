@@ -17,7 +17,7 @@
 #include "ops/snap_to_grid.h"
 #include "ops/subtract.h"
 #include "ops/transform.h"
-#include "ops/visit_until.h"
+#include "model/visit.h"
 
 namespace velk {
 namespace {

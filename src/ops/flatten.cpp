@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "ops/solids/solid.h"
 #include "ops/transform.h"
-#include "ops/visit_until.h"
+#include "model/visit.h"
 
 namespace velk {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "ops/clipboard.h"
 #include "ops/transform.h"
-#include "ops/visit_until.h"
+#include "model/visit.h"
 
 namespace velk {
 

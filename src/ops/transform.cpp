@@ -6,7 +6,7 @@
 
 #include "base/text.h"
 #include "ops/solids/split_by_face.h"
-#include "ops/visit_until.h"
+#include "model/visit.h"
 
 namespace velk {
 namespace {

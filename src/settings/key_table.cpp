@@ -128,6 +128,7 @@ constexpr SettingKey kKeys[] = {
     {"middle_drag", Form::Flag, &S::middle_drag, kNone, SavedBy::Preferences, 37},
     {"window_quality", Form::Flag, &S::window_quality},
     {"undo_levels", Form::Number, &S::undo_levels, {1, 1000}, SavedBy::Preferences, 38},
+    {"careful_tools", Form::Flag, &S::careful_tools},
     {"ask_when_changed", Form::Flag, &S::ask_when_changed},
     {"undo_megabytes", Form::Number, &S::undo_megabytes, {0, 65536}},
 

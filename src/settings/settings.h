@@ -160,6 +160,7 @@ struct Settings {
   bool middle_drag = false;     // the middle button drags plan views where no binding claims it
   bool window_quality = false;  // the camera view renders at its window's own pixel size
   int undo_levels = 1;
+  bool careful_tools = false;     // tools and operations do better where their classic behaviour hurts
   bool ask_when_changed = false;  // questions before closing go by what a map holds, not by its modified flag
   int undo_megabytes = 0;         // that undo may keep; 0 for any number
 

@@ -60,7 +60,7 @@ TEST(CommandTable, HoldsWhatTheViewsMenusName) {
       if (item.separator) continue;
       const Command* command = FindCommand(item.command);
       ASSERT_NE(command, nullptr) << item.command;
-      EXPECT_NE(command->run, nullptr) << item.command;
+      EXPECT_TRUE(command->run) << item.command;
     }
   }
 }

@@ -49,11 +49,11 @@ TEST(Menus, NamesOfMapsAreShownAsTheyAre) {
   test::Session session;
   QMenuBar bar;
   BuildMenus(bar, session.editor);
-  EXPECT_FALSE(itemOf(bar, kFirstRecentMap).isVisible());
+  EXPECT_FALSE(itemOf(bar, 1010).isVisible());
   session.editor.attend();
   session.open("this & that.map");
-  EXPECT_TRUE(itemOf(bar, kFirstRecentMap).isVisible());
-  EXPECT_TRUE(itemOf(bar, kFirstRecentMap).text().contains("this && that.map"));
+  EXPECT_TRUE(itemOf(bar, 1010).isVisible());
+  EXPECT_TRUE(itemOf(bar, 1010).text().contains("this && that.map"));
 }
 
 // Of the items that exclude each other exactly one is marked, whichever was chosen.

@@ -34,7 +34,7 @@ Drawings ReadDrawings() {
   return drawings;
 }
 
-const Drawings& Drawings() {
+const Drawings& AllDrawings() {
   static const Drawings read = ReadDrawings();
   return read;
 }
@@ -50,7 +50,7 @@ QString Circle(const QString& numbers) {
 // "{name}" or "{name} transform".
 QString Motif(const QString& text, int depth) {
   const int end = static_cast<int>(text.indexOf(QLatin1Char('}')));
-  const QString inner = Expand(Drawings().value(text.mid(1, end - 1)), depth + 1);
+  const QString inner = Expand(AllDrawings().value(text.mid(1, end - 1)), depth + 1);
   return QStringLiteral("<g transform='%1'>%2</g>").arg(text.mid(end + 1).trimmed(), inner);
 }
 
@@ -139,7 +139,7 @@ class CommandIconEngine : public QIconEngine {
 }  // namespace
 
 QByteArray CommandSvg(std::string_view name, const IconColours& colours) {
-  const QString body = Drawings().value(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
+  const QString body = AllDrawings().value(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
   if (body.isEmpty()) return {};
   QString svg = QStringLiteral(
                     "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
@@ -153,7 +153,7 @@ QByteArray CommandSvg(std::string_view name, const IconColours& colours) {
 
 QIcon CommandIcon(std::string_view name) {
   const QString key = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
-  return Drawings().contains(key) ? QIcon(new CommandIconEngine(key)) : QIcon();
+  return AllDrawings().contains(key) ? QIcon(new CommandIconEngine(key)) : QIcon();
 }
 
 }  // namespace velk

@@ -10,7 +10,7 @@
 #include "ops/solids/solid.h"
 #include "ops/solids/split_by_face.h"
 #include "ops/transform.h"
-#include "ops/visit_until.h"
+#include "model/visit.h"
 
 namespace velk {
 namespace {

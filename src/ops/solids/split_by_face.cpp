@@ -27,7 +27,6 @@ SplitParts splitByFace(const face& f, const brush& b) {
 
 std::unique_ptr<brush> FreshCopy(const brush& b) {
   auto copy = std::make_unique<brush>(b);
-  copy->source = nullptr;
   return copy;
 }
 
