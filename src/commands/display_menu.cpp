@@ -20,6 +20,8 @@ Outcome SetRenderQuality(Editor& editor, int index) {
   return velk::SetRenderQuality(editor.settings(), index);
 }
 
+Outcome QualityWindow(Editor& editor) { return SetWindowQuality(editor.settings()); }
+
 Outcome CentreView(Editor& editor, map& m) {
   m.activeCamera().origin = m.selectionCentre();
   editor.views().plans.planCenter = m.activeCamera().origin;
@@ -100,7 +102,7 @@ const Command kRows[] = {
      .run = With<SetRenderQuality, 7>},
     {.id = 1090, .name = "CM_QUALITY_WINDOW", .menu = "&Display|&Render|&Quality", .startsGroup = true,
      .label = "Window",
-     .hint = "Render at the size of the window", .checked = Holds<IsOn, &Settings::window_quality>, .run = With<ChangeCameraSettings, SetWindowQuality>},
+     .hint = "Render at the size of the window", .checked = Holds<IsOn, &Settings::window_quality>, .run = QualityWindow},
     {.id = 597, .name = "CM_DRAW_CONNECTIONS", .menu = "&Display|&Show", .label = "&Connections",
      .hint = "Draw connections between entities...", .enabled = MapOpen, .checked = Holds<IsOn, &Settings::connections>,
      .run = ToggleConnections},

@@ -47,6 +47,7 @@ TEST(Disk, AChangedFileIsNotReplacedWithoutAsking) {
 
 TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   Session session;
+  session.editor.attend();
   const std::string path = session.open("a.map");
   session.open("b.map");
   session.editor.door().show(SwitchTo(session.editor.documents(), 0));
