@@ -19,6 +19,7 @@ struct NoPrompts : velk::Prompts {
   std::optional<std::string> input(const velk::TextInput&) override { return {}; }
   std::optional<velk::Colour> chooseColour(const velk::ColourChooser&) override { return {}; }
   velk::FormAnswer fill(velk::Form&) override { return velk::FormAnswer::Cancel; }
+  void show(velk::ModelessForm) override {}
 };
 
 // Every texture must hold what its size promises, and be found by its name.

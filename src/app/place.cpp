@@ -24,7 +24,7 @@ std::string Environment(const char* name) {
 
 // The system knows the user's folder where the environment does not.
 std::string UserHome() {
-  const std::string home = Environment("HOME");
+  std::string home = Environment("HOME");
   if (!home.empty()) return home;
   const passwd* user = getpwuid(getuid());
   return user && user->pw_dir ? user->pw_dir : "/";

@@ -1,9 +1,10 @@
+#include "commands/key_stroke.h"
+
 #include <array>
 #include <cctype>
 #include <utility>
 
 #include "base/text.h"
-#include "commands/command.h"
 
 namespace velk {
 namespace {

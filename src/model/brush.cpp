@@ -113,8 +113,8 @@ void brush::setTexturedef(const texturedef& texture, int faceNumber) {
 }
 
 void brush::setAllTexturedefs(const texturedef& texture) {
-  const texturedef& taken = texture;  // it may be that of one of these faces_
-  for (face& f : editFaces()) f.texture = taken;
+  // It may be that of one of these faces, which then keeps it.
+  for (face& f : editFaces()) f.texture = texture;
   buildWindings();
 }
 

@@ -11,6 +11,7 @@
 #include "documents/disk_check.h"
 #include "documents/opening.h"
 #include "script/script_print.h"
+#include "commands/key_stroke.h"
 
 namespace velk {
 namespace {

@@ -18,11 +18,11 @@ constexpr size_t kMaxPath = 4095;
 
 // The member in the record, whether it lies in the record itself or among its colours.
 template <typename Record, typename T>
-auto& valueOf(Record& settings, T Settings::*member) {
+auto& ValueOf(Record& settings, T Settings::*member) {
   return settings.*member;
 }
 template <typename Record>
-auto& valueOf(Record& settings, Colour ViewColours::*member) {
+auto& ValueOf(Record& settings, Colour ViewColours::*member) {
   return settings.colours.*member;
 }
 
@@ -44,20 +44,20 @@ int Limited(const SettingKey& key, const std::string& text, int held) {
   return std::clamp(LeadingInt(text).value_or(held), key.limits.low, key.limits.high);
 }
 
-void assign(const SettingKey& key, const std::string& text, std::string& value) {
+void Assign(const SettingKey& key, const std::string& text, std::string& value) {
   if (text.empty()) return;
   value = text.substr(0, key.form == KeyForm::Text ? kMaxText : kMaxPath);
   if (key.form == KeyForm::Directory) value = WithSeparator(value);
 }
-void assign(const SettingKey&, const std::string& text, Colour& value) { value = ParseColour(text, value); }
-void assign(const SettingKey&, const std::string& text, bool& value) {
+void Assign(const SettingKey&, const std::string& text, Colour& value) { value = ParseColour(text, value); }
+void Assign(const SettingKey&, const std::string& text, bool& value) {
   value = LeadingInt(text).value_or(value ? 1 : 0) != 0;
 }
-void assign(const SettingKey& key, const std::string& text, int& value) { value = Limited(key, text, value); }
-void assign(const SettingKey& key, const std::string& text, double& value) {
+void Assign(const SettingKey& key, const std::string& text, int& value) { value = Limited(key, text, value); }
+void Assign(const SettingKey& key, const std::string& text, double& value) {
   if (const auto hundredths = LeadingInt(text)) value = Limited(key, text, *hundredths) * 0.01;
 }
-void assign(const SettingKey& key, const std::string& text, float& value) {
+void Assign(const SettingKey& key, const std::string& text, float& value) {
   if (key.form == KeyForm::Number) {
     value = static_cast<float>(Limited(key, text, Truncate(value)));
   } else if (const auto number = static_cast<float>(std::min(TextToDouble(text), 1e30)); number > 0) {
@@ -70,24 +70,24 @@ std::string Shortest(float value) {
   return {text, std::to_chars(std::begin(text), std::end(text), value).ptr};
 }
 
-std::string written(const SettingKey&, const std::string& value) { return value; }
-std::string written(const SettingKey&, const Colour& value) {
+std::string Written(const SettingKey&, const std::string& value) { return value; }
+std::string Written(const SettingKey&, const Colour& value) {
   return Format("%i %i %i", value.red, value.green, value.blue);
 }
-std::string written(const SettingKey&, bool value) { return value ? "1" : "0"; }
-std::string written(const SettingKey&, int value) { return std::to_string(value); }
+std::string Written(const SettingKey&, bool value) { return value ? "1" : "0"; }
+std::string Written(const SettingKey&, int value) { return std::to_string(value); }
 // A fraction may lie just below its hundredth.
-std::string written(const SettingKey&, double value) { return std::to_string(Truncate(value * 100 + 1e-9)); }
-std::string written(const SettingKey& key, float value) {
+std::string Written(const SettingKey&, double value) { return std::to_string(Truncate(value * 100 + 1e-9)); }
+std::string Written(const SettingKey& key, float value) {
   return key.form == KeyForm::Number ? std::to_string(Truncate(value)) : Shortest(value);
 }
 
 std::string TextOf(const SettingKey& key, const Settings& settings) {
-  return std::visit([&](auto member) { return written(key, valueOf(settings, member)); }, key.member);
+  return std::visit([&](auto member) { return Written(key, ValueOf(settings, member)); }, key.member);
 }
 
 void ReadKey(const SettingKey& key, const std::string& text, Settings& settings) {
-  std::visit([&](auto member) { assign(key, text, valueOf(settings, member)); }, key.member);
+  std::visit([&](auto member) { Assign(key, text, ValueOf(settings, member)); }, key.member);
 }
 
 // Rules that are not a plain range.

@@ -8,6 +8,7 @@
 #include "documents/opening.h"
 #include "planview/view_steps.h"
 #include "support/session.h"
+#include "commands/key_stroke.h"
 
 namespace velk {
 namespace {

@@ -134,7 +134,8 @@ TEST(MapReader, EndsMalformedTextWithItsMessage) {
   };
   for (const auto& [text, message] : cases) {
     SampleMap sample;
-    EXPECT_FATAL(sample.read(text), message);
+    const std::string& contents = text;
+    EXPECT_FATAL(sample.read(contents), message);
   }
 }
 

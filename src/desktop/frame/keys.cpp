@@ -1,4 +1,5 @@
 #include "desktop/frame/keys.h"
+#include "commands/key_stroke.h"
 
 #include <array>
 #include <utility>
