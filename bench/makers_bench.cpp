@@ -20,27 +20,27 @@ void Check(benchmark::State& state, const Made& made, size_t least) {
 }
 
 // Arguments: stones, careful.
-void BM_Arch(benchmark::State& state) {
+void BmArch(benchmark::State& state) {
   const ArchParams params{.stones = static_cast<int>(state.range(0))};
   const MakerRules rules{.careful = state.range(1) != 0};
   std::optional<Made> made;
   for (auto _ : state) made = MakeArch(BenchSeed(), params, rules);
   Check(state, *made, static_cast<size_t>(state.range(0)) + 2);
 }
-BENCHMARK(BM_Arch)->Unit(benchmark::kMicrosecond)->Args({32, 0})->Args({32, 1});
+BENCHMARK(BmArch)->Unit(benchmark::kMicrosecond)->Args({32, 0})->Args({32, 1});
 
 // Arguments: steps, type.
-void BM_Stairs(benchmark::State& state) {
+void BmStairs(benchmark::State& state) {
   const StairParams params{.steps = static_cast<int>(state.range(0)),
                            .type = static_cast<StairType>(state.range(1))};
   Made made;
   for (auto _ : state) made = MakeStairs(BenchSeed(), params, {});
   Check(state, made, static_cast<size_t>(state.range(0)));
 }
-BENCHMARK(BM_Stairs)->Unit(benchmark::kMicrosecond)->ArgsProduct({{32}, {0, 1, 2}});
+BENCHMARK(BmStairs)->Unit(benchmark::kMicrosecond)->ArgsProduct({{32}, {0, 1, 2}});
 
 // Arguments: strips both ways, careful. The map must be as it was.
-void BM_SphereRefused(benchmark::State& state) {
+void BmSphereRefused(benchmark::State& state) {
   Settings settings;
   EntityClassList classes;
   map m(settings, classes);
@@ -60,7 +60,7 @@ void BM_SphereRefused(benchmark::State& state) {
   }
   if (m.brushCount() != 1) state.SkipWithError("the map changed");
 }
-BENCHMARK(BM_SphereRefused)->Unit(benchmark::kMillisecond)->Args({99, 0})->Args({99, 1});
+BENCHMARK(BmSphereRefused)->Unit(benchmark::kMillisecond)->Args({99, 0})->Args({99, 1});
 
 }  // namespace
 }  // namespace velk

@@ -11,13 +11,13 @@
 
 #include "mapfile/map_reader.h"
 #include "model/snapshot.h"
+#include "model/visit.h"
 #include "ops/clip.h"
 #include "ops/clip_preview.h"
 #include "ops/leak_search.h"
 #include "ops/snap_to_grid.h"
 #include "ops/subtract.h"
 #include "ops/transform.h"
-#include "model/visit.h"
 
 namespace velk {
 namespace {
@@ -121,7 +121,7 @@ void Subtract(benchmark::State& state) {
   bench.addSubtractors(int(state.range(1)));
   int after = 0;
   Repeat(state, bench, [&](map& m) {
-    subtractSelection(m, true);
+    SubtractSelection(m, true);
     after = m.brushCount();
   });
   state.counters["pieces"] = after - bench.m.brushCount();

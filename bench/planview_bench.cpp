@@ -90,7 +90,7 @@ void Repaint(benchmark::State& state, Scene* scene) {
   const PlanScene shown{.set = set, .settings = scene->settings, .shown = &scene->m};
   for (auto _ : state) {
     BenchCanvas canvas(pixels, kWidth * dense, kHeight * dense, dense);
-    drawPlanView(canvas, shown, view);
+    DrawPlanView(canvas, shown, view);
     benchmark::ClobberMemory();
   }
   const auto inked = std::ranges::count(pixels, PixelOf(scene->settings.colours.fgcolor));

@@ -48,7 +48,7 @@ void ReadAsWad(std::string_view contents) {
     wad.palette = velk::loadPalette(contents, wad.path, {settings, paths, prompts});
   } catch (const Handled&) {
   }
-  velk::loadTextures(contents, wad, settings.t_skyspeed, random, [](const velk::WadProgress&) {});
+  velk::LoadTextures(contents, wad, settings.t_skyspeed, random, [](const velk::WadProgress&) {});
   Check(wad);
 }
 

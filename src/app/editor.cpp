@@ -93,7 +93,7 @@ std::string WindowTitle(const Editor& editor, ToolWindow window) {
       break;
   }
   const int view = static_cast<int>(window) - static_cast<int>(ToolWindow::Plan1);
-  return captionText(editor.views().plans.views[static_cast<size_t>(view)], editor.settings());
+  return CaptionText(editor.views().plans.views[static_cast<size_t>(view)], editor.settings());
 }
 
 }  // namespace velk

@@ -20,7 +20,7 @@ MouseContext ViewInput::context(int view) const {
 
 std::optional<StripField> ViewInput::stripFieldAt(int view, Pixel at) const {
   if (view == kCameraView || at.y >= kStripHeight) return std::nullopt;
-  return velk::stripFieldAt(views_.plans.views[static_cast<size_t>(view)].clientWidth, at);
+  return velk::StripFieldAt(views_.plans.views[static_cast<size_t>(view)].clientWidth, at);
 }
 
 // The other fields have menus, or do nothing.
@@ -45,7 +45,7 @@ void ViewInput::press(int view, const PointerEvent& event) {
 void ViewInput::readCoordinates(int view, Pixel at) {
   PlanView& plan = views_.plans.views[static_cast<size_t>(view)];
   std::string text =
-      coordinateText(views_.plans.projection(view, services_.settings).screenToWorld(at), services_.settings);
+      CoordinateText(views_.plans.projection(view, services_.settings).screenToWorld(at), services_.settings);
   if (text == plan.coordinateText) return;
   plan.coordinateText = std::move(text);
   door_.show(Outcome::Drawn(Redraw::Strips));

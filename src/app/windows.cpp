@@ -12,7 +12,7 @@ constexpr std::int32_t kFarthest = 8192;
 
 size_t indexOf(ToolWindow window) { return static_cast<size_t>(window); }
 
-void put(std::string& bytes, std::int32_t value) {
+void Put(std::string& bytes, std::int32_t value) {
   for (int shift = 0; shift < 32; shift += 8) {
     bytes += static_cast<char>(static_cast<std::uint32_t>(value) >> shift & 255);
   }
@@ -33,35 +33,35 @@ class Integers {
   std::string_view bytes_;
 };
 
-void put(std::string& bytes, const WindowPlacement& placement) {
-  put(bytes, kRecordLength);
-  put(bytes, placement.flags);
-  put(bytes, static_cast<std::int32_t>(placement.state));
-  for (const std::int32_t value : placement.minimised) put(bytes, value);
-  for (const std::int32_t value : placement.maximised) put(bytes, value);
-  for (const std::int32_t value : placement.normal) put(bytes, value);
+void Put(std::string& bytes, const WindowPlacement& placement) {
+  Put(bytes, kRecordLength);
+  Put(bytes, placement.flags);
+  Put(bytes, static_cast<std::int32_t>(placement.state));
+  for (const std::int32_t value : placement.minimised) Put(bytes, value);
+  for (const std::int32_t value : placement.maximised) Put(bytes, value);
+  for (const std::int32_t value : placement.normal) Put(bytes, value);
 }
 
 // Other show states of the record count as normal.
-ShowState stateOf(std::int32_t value) {
+ShowState StateOf(std::int32_t value) {
   return value == 2 || value == 3 ? static_cast<ShowState>(value) : ShowState::Normal;
 }
 
-void takeCoordinates(Integers& from, std::span<std::int32_t> coordinates) {
+void TakeCoordinates(Integers& from, std::span<std::int32_t> coordinates) {
   for (std::int32_t& value : coordinates) value = std::clamp(from.next(), -kFarthest, kFarthest);
 }
 
-WindowPlacement takePlacement(Integers& from) {
+WindowPlacement TakePlacement(Integers& from) {
   WindowPlacement placement;
   placement.flags = from.next();
-  placement.state = stateOf(from.next());
-  takeCoordinates(from, placement.minimised);
-  takeCoordinates(from, placement.maximised);
-  takeCoordinates(from, placement.normal);
+  placement.state = StateOf(from.next());
+  TakeCoordinates(from, placement.minimised);
+  TakeCoordinates(from, placement.maximised);
+  TakeCoordinates(from, placement.normal);
   return placement;
 }
 
-WindowPlacement placedAt(int left, int top, int right, int bottom) {
+WindowPlacement PlacedAt(int left, int top, int right, int bottom) {
   WindowPlacement placement;
   placement.normal = {left, top, right, bottom};
   return placement;
@@ -72,7 +72,7 @@ WindowPlacement placedAt(int left, int top, int right, int bottom) {
 std::string Arrangements::bytes() const {
   std::string bytes;
   for (const Arrangement& slot : slots) {
-    for (const WindowPlacement& placement : slot) put(bytes, placement);
+    for (const WindowPlacement& placement : slot) Put(bytes, placement);
   }
   return bytes;
 }
@@ -85,7 +85,7 @@ std::optional<Arrangements> Arrangements::Parse(std::string_view bytes) {
   for (Arrangement& slot : read.slots) {
     for (WindowPlacement& placement : slot) {
       if (integers.next() != kRecordLength) return std::nullopt;
-      placement = takePlacement(integers);
+      placement = TakePlacement(integers);
     }
   }
   return read;
@@ -116,13 +116,13 @@ Arrangement FirstLayout(int width, int height) {
   const int middle = column / 2;
   const int half = height / 2;
   const auto tool = [&](int from, int to) {
-    return placedAt(column, height * from / 100, width, height * to / 100);
+    return PlacedAt(column, height * from / 100, width, height * to / 100);
   };
   Arrangement layout;
-  layout[indexOf(ToolWindow::Plan1)] = placedAt(0, 0, middle, half);
-  layout[indexOf(ToolWindow::Camera)] = placedAt(middle, 0, column, half);
-  layout[indexOf(ToolWindow::Plan2)] = placedAt(0, half, middle, height);
-  layout[indexOf(ToolWindow::Plan3)] = placedAt(middle, half, column, height);
+  layout[indexOf(ToolWindow::Plan1)] = PlacedAt(0, 0, middle, half);
+  layout[indexOf(ToolWindow::Camera)] = PlacedAt(middle, 0, column, half);
+  layout[indexOf(ToolWindow::Plan2)] = PlacedAt(0, half, middle, height);
+  layout[indexOf(ToolWindow::Plan3)] = PlacedAt(middle, half, column, height);
   layout[indexOf(ToolWindow::Textures)] = tool(0, 36);
   layout[indexOf(ToolWindow::Entities)] = tool(36, 62);
   layout[indexOf(ToolWindow::Groups)] = tool(62, 80);

@@ -10,7 +10,7 @@
 namespace velk {
 namespace {
 
-FormField fieldOf(std::string name, std::string label, FormField::Kind kind, std::string value) {
+FormField FieldOf(std::string name, std::string label, FormField::Kind kind, std::string value) {
   FormField field;
   field.name = std::move(name);
   field.label = std::move(label);
@@ -19,12 +19,12 @@ FormField fieldOf(std::string name, std::string label, FormField::Kind kind, std
   return field;
 }
 
-FormField numberOf(FormField field, NumberRange range) {
+FormField NumberOf(FormField field, NumberRange range) {
   field.range = std::move(range);
   return field;
 }
 
-FormField chosenOf(FormField field, std::vector<std::string> choices) {
+FormField ChosenOf(FormField field, std::vector<std::string> choices) {
   field.choices = std::move(choices);
   return field;
 }
@@ -62,30 +62,30 @@ double Form::real(std::string_view name) const { return TextToDouble(text(name))
 bool Form::flag(std::string_view name) const { return whole(name) != 0; }
 
 FormField TextField(std::string name, std::string label, std::string value) {
-  return fieldOf(std::move(name), std::move(label), FormField::Kind::Text, std::move(value));
+  return FieldOf(std::move(name), std::move(label), FormField::Kind::Text, std::move(value));
 }
 
 FormField WholeField(std::string name, std::string label, int value, NumberRange range) {
-  return numberOf(fieldOf(std::move(name), std::move(label), FormField::Kind::Whole, NumberText(value)),
+  return NumberOf(FieldOf(std::move(name), std::move(label), FormField::Kind::Whole, NumberText(value)),
                   std::move(range));
 }
 
 FormField RealField(std::string name, std::string label, double value, NumberRange range) {
-  return numberOf(fieldOf(std::move(name), std::move(label), FormField::Kind::Real, NumberText(value)),
+  return NumberOf(FieldOf(std::move(name), std::move(label), FormField::Kind::Real, NumberText(value)),
                   std::move(range));
 }
 
 FormField FlagField(std::string name, std::string label, bool value) {
-  return fieldOf(std::move(name), std::move(label), FormField::Kind::Flag, value ? "1" : "0");
+  return FieldOf(std::move(name), std::move(label), FormField::Kind::Flag, value ? "1" : "0");
 }
 
 FormField ChoiceField(std::string name, std::string label, int index, std::vector<std::string> choices) {
-  return chosenOf(fieldOf(std::move(name), std::move(label), FormField::Kind::Choice, NumberText(index)),
+  return ChosenOf(FieldOf(std::move(name), std::move(label), FormField::Kind::Choice, NumberText(index)),
                   std::move(choices));
 }
 
 FormField RadioField(std::string name, std::string label, int index, std::vector<std::string> choices) {
-  return chosenOf(fieldOf(std::move(name), std::move(label), FormField::Kind::Radio, NumberText(index)),
+  return ChosenOf(FieldOf(std::move(name), std::move(label), FormField::Kind::Radio, NumberText(index)),
                   std::move(choices));
 }
 

@@ -13,7 +13,9 @@ enum class Redraw { None = 0, Plans = 1, Camera = 2, All = 3, Strips = 4 };
 constexpr Redraw operator|(Redraw a, Redraw b) {
   return static_cast<Redraw>(static_cast<int>(a) | static_cast<int>(b));
 }
-constexpr bool Includes(Redraw all, Redraw one) { return (static_cast<int>(all) & static_cast<int>(one)) != 0; }
+constexpr bool Includes(Redraw all, Redraw one) {
+  return (static_cast<int>(all) & static_cast<int>(one)) != 0;
+}
 
 // Where the plan views go after the active camera moved.
 enum class Centre { Stay, Follow, Jump };  // Follow: unless cameras are locked

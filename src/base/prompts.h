@@ -53,7 +53,8 @@ class Prompts {
   virtual std::vector<std::string> chooseFiles(const FileChooser& chooser) = 0;
   virtual std::optional<std::string> input(const TextInput& input) = 0;
   virtual std::optional<Colour> chooseColour(const ColourChooser& chooser) = 0;
-  // Has the form filled in, calling its `changed` and `check`; after Cancel its fields and note are as before.
+  // Has the form filled in, calling its `changed` and `check`; after Cancel its fields and note are as
+  // before.
   virtual FormAnswer fill(Form& form) = 0;
   // Opens a form beside the windows and returns, most likely before one of its buttons is pressed; what
   // `pressed` refers to must live as long as the prompts' windows. One with the same title that is open

@@ -173,23 +173,23 @@ Outcome ResetAngles(map& m) {
 }
 
 Outcome FloorUp(map& m) {
-  constexpr double none = 32767;
-  double best = none;
+  constexpr double kNone = 32767;
+  double best = kNone;
   VisitFloors(m, [&](double height) {
     if (height > 0 && height < best) best = height;
   });
-  if (best == none) return Outcome::Said("Already at top level");
+  if (best == kNone) return Outcome::Said("Already at top level");
   Shift(m, 0, 0, best);
   return Moved("Moved up a floor");
 }
 
 Outcome FloorDown(map& m) {
-  constexpr double none = -32765;
-  double best = none;
+  constexpr double kNone = -32765;
+  double best = kNone;
   VisitFloors(m, [&](double height) {
     if (height < 0 && height > best) best = height;
   });
-  if (best == none) return Outcome::Said("Already at bottom level");
+  if (best == kNone) return Outcome::Said("Already at bottom level");
   Shift(m, 0, 0, best);
   return Moved("Moved down a floor");
 }

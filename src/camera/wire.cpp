@@ -165,7 +165,7 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Setting
   }
 }
 
-void renderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
+void RenderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
                      const WireLens& lens, const brush& b, bool selected) {
   WirePlotter plotter(canvasSize, m, settings, lens, canvas.deviceScale());
   DrawBrush(canvas, plotter, b, selected ? settings.colours.color_selection : settings.colours.fgcolor);

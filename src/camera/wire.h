@@ -12,7 +12,7 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Setting
               const WireLens& lens);
 
 // The edges of one brush.
-void renderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
+void RenderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
                      const WireLens& lens, const brush& b, bool selected);
 
 // The brush whose wire edges pass nearest to the pixel, within `reach` pixels; none when there is none

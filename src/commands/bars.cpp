@@ -14,24 +14,24 @@ namespace velk {
 namespace {
 
 // The next token, when it stands on the same line as the one before.
-bool nextOnLine(Tokenizer& tokens) {
+bool NextOnLine(Tokenizer& tokens) {
   const int line = tokens.line();
   return tokens.GetScriptToken(true) && tokens.line() == line;
 }
 
-int readBarCount(Tokenizer& tokens) {
+int ReadBarCount(Tokenizer& tokens) {
   if (!tokens.GetScriptToken(true)) Error("Parsing Button Bars: 'bars' not found");
   const std::string first(tokens.token());
   if (!EqualNoCase(first, "bars")) {
     Error("Parsing Button Bars: 'bars' not found, %s instead", first.c_str());
   }
-  const auto count = nextOnLine(tokens) ? LeadingInt(tokens.token()) : std::nullopt;
+  const auto count = NextOnLine(tokens) ? LeadingInt(tokens.token()) : std::nullopt;
   if (!count) Error("Parsing Button Bars: number of bars not found");
   return std::clamp(*count, 0, kMaxBars);
 }
 
 // Numbers, which the command table would find too, are no names.
-std::optional<BarGadget> gadgetNamed(std::string_view name) {
+std::optional<BarGadget> GadgetNamed(std::string_view name) {
   if (EqualNoCase(name, "Separator")) return BarGadget{};
   if (EqualNoCase(name, "TextureList")) return BarGadget{.kind = BarGadget::Kind::TextureList};
   const Command* command = FindCommand(name);
@@ -39,10 +39,10 @@ std::optional<BarGadget> gadgetNamed(std::string_view name) {
   return BarGadget{.kind = BarGadget::Kind::Button, .command = command};
 }
 
-void append(std::vector<ButtonBar>& bars, int number, std::string_view name) {
+void Append(std::vector<ButtonBar>& bars, int number, std::string_view name) {
   if (number < 1 || number > static_cast<int>(bars.size())) return;
   ButtonBar& bar = bars[static_cast<size_t>(number - 1)];
-  const auto gadget = gadgetNamed(name);
+  const auto gadget = GadgetNamed(name);
   if (gadget && bar.size() < kMaxBarGadgets) bar.push_back(*gadget);
 }
 
@@ -50,12 +50,12 @@ void append(std::vector<ButtonBar>& bars, int number, std::string_view name) {
 
 std::vector<ButtonBar> ParseButtonBars(std::string_view text) {
   Tokenizer tokens(text);
-  std::vector<ButtonBar> bars(static_cast<size_t>(readBarCount(tokens)));
+  std::vector<ButtonBar> bars(static_cast<size_t>(ReadBarCount(tokens)));
   while (tokens.GetScriptToken(true) && EqualNoCase(tokens.token(), "bar")) {
-    if (!nextOnLine(tokens)) break;
+    if (!NextOnLine(tokens)) break;
     const int number = TextToInt(tokens.token());
-    if (!nextOnLine(tokens)) break;
-    append(bars, number, tokens.token());
+    if (!NextOnLine(tokens)) break;
+    Append(bars, number, tokens.token());
   }
   return bars;
 }

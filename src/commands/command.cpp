@@ -6,7 +6,7 @@
 namespace velk {
 
 std::span<const Command> Commands() {
-  static const std::vector<Command> all = [] {
+  static const std::vector<Command> kAll = [] {
     std::vector<Command> rows;
     for (const auto piece :
          {FileCommands(), EditCommands(), SelectCommands(), MakeCommands(), TextureCommands(), MapCommands(),
@@ -15,7 +15,7 @@ std::span<const Command> Commands() {
     }
     return rows;
   }();
-  return all;
+  return kAll;
 }
 
 const Command* FindCommand(int id) {

@@ -26,10 +26,10 @@ struct StripMenuRow {
 };
 
 const StripMenuRow kStripMenus[] = {
-    {"grid", StripField::Grid, [](Editor& e) { return gridMenu(e.settings()); }},
-    {"scale", StripField::Scale, [](Editor& e) { return scaleMenu(e.settings()); }},
+    {"grid", StripField::Grid, [](Editor& e) { return GridMenu(e.settings()); }},
+    {"scale", StripField::Scale, [](Editor& e) { return ScaleMenu(e.settings()); }},
     {"camera", StripField::Camera,
-     [](Editor& e) { return cameraMenu(e.settings(), e.documents().currentMap()); }},
+     [](Editor& e) { return CameraMenu(e.settings(), e.documents().currentMap()); }},
 };
 
 }  // namespace

@@ -20,6 +20,8 @@ Outcome SetRenderQuality(Editor& editor, int index) {
   return velk::SetRenderQuality(editor.settings(), index);
 }
 
+Outcome QualityWindow(Editor& editor) { return SetWindowQuality(editor.settings()); }
+
 Outcome CentreView(Editor& editor, map& m) {
   m.activeCamera().origin = m.selectionCentre();
   editor.views().plans.planCenter = m.activeCamera().origin;
@@ -47,7 +49,7 @@ Outcome SetView(Editor& editor, std::string (*step)(Settings&)) {
 }
 
 Outcome SetGrid(Editor& editor, int preset) {
-  return Outcome::Drawn(Redraw::Plans, setGridPreset(editor.settings(), preset));
+  return Outcome::Drawn(Redraw::Plans, SetGridPreset(editor.settings(), preset));
 }
 
 bool GridIs(const Editor& editor, int preset) {
@@ -55,7 +57,7 @@ bool GridIs(const Editor& editor, int preset) {
 }
 
 Outcome SetScale(Editor& editor, int preset) {
-  return Outcome::Drawn(Redraw::Plans, setScalePreset(editor.settings(), preset));
+  return Outcome::Drawn(Redraw::Plans, SetScalePreset(editor.settings(), preset));
 }
 
 bool ScaleIs(const Editor& editor, int preset) {
@@ -64,9 +66,9 @@ bool ScaleIs(const Editor& editor, int preset) {
 
 Outcome OtherScale(Editor& editor) {
   const auto answer = editor.services().prompts.input(
-      {kOtherScaleTitle, kOtherScalePrompt, scalePercentText(editor.settings())});
+      {kOtherScaleTitle, kOtherScalePrompt, ScalePercentText(editor.settings())});
   if (!answer) return {};
-  const auto text = setScalePercent(editor.settings(), *answer);
+  const auto text = SetScalePercent(editor.settings(), *answer);
   return text ? Outcome::Drawn(Redraw::Plans, *text) : Outcome{};
 }
 
@@ -100,7 +102,7 @@ const Command kRows[] = {
      .run = With<SetRenderQuality, 7>},
     {.id = 1090, .name = "CM_QUALITY_WINDOW", .menu = "&Display|&Render|&Quality", .startsGroup = true,
      .label = "Window",
-     .hint = "Render at the size of the window", .checked = Holds<IsOn, &Settings::window_quality>, .run = With<ChangeCameraSettings, SetWindowQuality>},
+     .hint = "Render at the size of the window", .checked = Holds<IsOn, &Settings::window_quality>, .run = QualityWindow},
     {.id = 597, .name = "CM_DRAW_CONNECTIONS", .menu = "&Display|&Show", .label = "&Connections",
      .hint = "Draw connections between entities...", .enabled = MapOpen, .checked = Holds<IsOn, &Settings::connections>,
      .run = ToggleConnections},
@@ -109,7 +111,7 @@ const Command kRows[] = {
      .enabled = MapOpen, .checked = Holds<IsOn, &Settings::show_coordinates>, .run = ToggleCoordinates},
     {.id = 150, .name = "CM_GRID_MODE", .menu = "&Display|&Show", .label = "&Grid", .keyText = "Alt-G",
      .keys = "Alt+G", .hint = "Turn grid on or off", .enabled = MapOpen, .checked = Holds<IsOn, &Settings::show_grid>,
-     .run = With<SetView, velk::toggleGrid>},
+     .run = With<SetView, velk::ToggleGrid>},
     {.id = 169, .name = "CM_TOGGLE_HITS", .menu = "&Display|&Show", .label = "&Hits", .keyText = "Alt-I",
      .keys = "Alt+I", .hint = "Show indices of all potentially selected brushes", .enabled = MapOpen,
      .checked = Holds<IsOn, &Settings::show_hits>, .run = ToggleHits},
@@ -138,9 +140,9 @@ const Command kRows[] = {
      .keyText = "Ctrl-Left", .keys = "Ctrl+Left", .hint = "Move to previous camera...",
      .run = With<MoveOnMap, PreviousCamera>},
     {.id = 561, .name = "CM_GRID_UP", .menu = "G&rid", .label = "&Up", .keyText = "Ctrl-PgUp",
-     .keys = "Ctrl+PgUp", .hint = "Increase grid size", .enabled = MapOpen, .run = With<SetView, velk::gridUp>},
+     .keys = "Ctrl+PgUp", .hint = "Increase grid size", .enabled = MapOpen, .run = With<SetView, velk::GridUp>},
     {.id = 560, .name = "CM_GRID_DOWN", .menu = "G&rid", .label = "&Down", .keyText = "Ctrl-PgDn",
-     .keys = "Ctrl+PgDn", .enabled = MapOpen, .run = With<SetView, velk::gridDown>},
+     .keys = "Ctrl+PgDn", .enabled = MapOpen, .run = With<SetView, velk::GridDown>},
     {.id = 550, .menu = "G&rid", .startsGroup = true,
      .label = "1", .hint = "Set grid to 1", .enabled = MapOpen,
      .checked = Holds<GridIs, 0>, .run = With<SetGrid, 0>},
@@ -161,9 +163,9 @@ const Command kRows[] = {
     {.id = 558, .menu = "G&rid", .label = "256", .hint = "Set grid to 256", .enabled = MapOpen,
      .checked = Holds<GridIs, 8>, .run = With<SetGrid, 8>},
     {.id = 164, .name = "CM_SCALE_UP", .menu = "&Scale", .label = "&Up", .keyText = "Ctrl-Ins",
-     .keys = "Ctrl+Ins", .hint = "Increase scale", .enabled = MapOpen, .run = With<SetView, velk::scaleUp>},
+     .keys = "Ctrl+Ins", .hint = "Increase scale", .enabled = MapOpen, .run = With<SetView, velk::ScaleUp>},
     {.id = 165, .name = "CM_SCALE_DOWN", .menu = "&Scale", .label = "&Down", .keyText = "Ctrl-Del",
-     .keys = "Ctrl+Del", .hint = "Decrease scale...", .enabled = MapOpen, .run = With<SetView, velk::scaleDown>},
+     .keys = "Ctrl+Del", .hint = "Decrease scale...", .enabled = MapOpen, .run = With<SetView, velk::ScaleDown>},
     {.id = 580, .menu = "&Scale", .startsGroup = true,
      .label = "1/64", .hint = "Set scale to 1/64", .enabled = MapOpen,
      .checked = Holds<ScaleIs, 0>, .run = With<SetScale, 0>},

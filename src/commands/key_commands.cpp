@@ -19,7 +19,7 @@ Outcome Move(map& m, const vec3& offset, std::string text) {
 
 Outcome NudgeSelection(Editor& editor, map& m, Nudge direction) {
   const PlanView& view = editor.views().plans.currentView();
-  return Move(m, nudgeOffset(view, direction, editor.settings()), nudgeText(direction));
+  return Move(m, NudgeOffset(view, direction, editor.settings()), NudgeText(direction));
 }
 
 Outcome MoveSelectionByStep(Editor& editor, map& m, int axis, int sign) {
@@ -31,7 +31,7 @@ Outcome MoveSelectionByStep(Editor& editor, map& m, int axis, int sign) {
 Outcome SelectCamera(Editor&, map& m, int number) { return velk::SelectCamera(m, number); }
 
 Outcome SwitchGridStyle(Editor& editor) {
-  return Outcome::Drawn(Redraw::Plans, toggleGridStyle(editor.settings()));
+  return Outcome::Drawn(Redraw::Plans, ToggleGridStyle(editor.settings()));
 }
 
 Outcome FlipView(Editor& editor) {

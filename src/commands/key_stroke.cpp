@@ -40,20 +40,20 @@ constexpr std::array<std::pair<Key, char>, 10> kPadSigns{{{Key::Insert, '0'},
                                                           {Key::Delete, '.'}}};
 
 // Takes the prefix off the front, if more follows it.
-bool takePrefix(std::string_view& text, std::string_view prefix) {
+bool TakePrefix(std::string_view& text, std::string_view prefix) {
   if (text.size() <= prefix.size() || !StartsWithNoCase(text, prefix)) return false;
   text.remove_prefix(prefix.size());
   return true;
 }
 
-Key functionKey(std::string_view text) {
+Key FunctionKey(std::string_view text) {
   if (text.size() < 2 || std::toupper(static_cast<unsigned char>(text[0])) != 'F') return Key::None;
   if (text.find_first_not_of("0123456789", 1) != std::string_view::npos) return Key::None;
   const int number = TextToInt(text.substr(1));
   return number >= 1 && number <= 12 ? static_cast<Key>(static_cast<int>(Key::F1) + number - 1) : Key::None;
 }
 
-void setKey(KeyStroke& stroke, std::string_view text) {
+void SetKey(KeyStroke& stroke, std::string_view text) {
   if (EqualNoCase(text, "comma")) text = ",";
   if (EqualNoCase(text, "period")) text = ".";
   if (text.size() == 1 && text[0] > ' ' && text[0] < 0x7f) {
@@ -61,7 +61,7 @@ void setKey(KeyStroke& stroke, std::string_view text) {
     stroke.character = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
     return;
   }
-  stroke.key = functionKey(text);
+  stroke.key = FunctionKey(text);
   for (const auto& [name, key] : kNamedKeys) {
     if (EqualNoCase(name, text)) stroke.key = key;
   }
@@ -73,12 +73,12 @@ KeyStroke ParseKeyStroke(std::string_view text) {
   KeyStroke stroke;
   for (bool more = true; more;) {
     more = false;
-    if (takePrefix(text, "Ctrl+")) more = stroke.ctrl = true;
-    if (takePrefix(text, "Alt+")) more = stroke.alt = true;
-    if (takePrefix(text, "Shift+")) more = stroke.shift = true;
+    if (TakePrefix(text, "Ctrl+")) more = stroke.ctrl = true;
+    if (TakePrefix(text, "Alt+")) more = stroke.alt = true;
+    if (TakePrefix(text, "Shift+")) more = stroke.shift = true;
   }
-  stroke.numPad = takePrefix(text, "Num");
-  setKey(stroke, text);
+  stroke.numPad = TakePrefix(text, "Num");
+  SetKey(stroke, text);
   return stroke.key == Key::None ? KeyStroke{} : stroke;
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 constexpr size_t kLongestName = 15;  // that a wad holds
 
-FormField nameField(const char* name, const char* label, const std::string& value,
+FormField NameField(const char* name, const char* label, const std::string& value,
                     const std::vector<std::string>& names) {
   FormField field = TextField(name, label, value);
   field.choices = names;
@@ -20,8 +20,8 @@ ModelessForm ReplaceForm(const std::string& initialFind, const std::string& init
                          const std::vector<std::string>& names) {
   ModelessForm replace;
   replace.form.title = kReplaceCaption;
-  replace.form.fields = {nameField("find", "Fi&nd what:", initialFind, names),
-                         nameField("replace", "Re&place with:", initialReplace, names)};
+  replace.form.fields = {NameField("find", "Fi&nd what:", initialFind, names),
+                         NameField("replace", "Re&place with:", initialReplace, names)};
   replace.form.fields[1].maxLength = kLongestName;
   replace.form.changed = [](Form& form) {
     form.complete = !NameIn(form, "find").empty() && !NameIn(form, "replace").empty();

@@ -72,10 +72,10 @@ struct Choices {
   const char* key;
   std::vector<std::string> texts;
 };
-const std::vector<Choices>& keyChoices() {
-  static const std::vector<Choices> all{{"drag_vertex", {"Off", "1", "2"}},
-                                        {"show_tabs", {"Off", "Top", "Bottom"}}};
-  return all;
+const std::vector<Choices>& KeyChoices() {
+  static const std::vector<Choices> kAll{{"drag_vertex", {"Off", "1", "2"}},
+                                         {"show_tabs", {"Off", "Top", "Bottom"}}};
+  return kAll;
 }
 
 constexpr Labelled kColours[] = {
@@ -117,12 +117,12 @@ constexpr Located kDirectories[] = {
 };
 
 // The check box asks the opposite of what the key says.
-bool isReversed(std::string_view key) { return key == "lock_cameras"; }
+bool IsReversed(std::string_view key) { return key == "lock_cameras"; }
 
-std::string reversed(const std::string& flag) { return TextToInt(flag) != 0 ? "0" : "1"; }
+std::string Reversed(const std::string& flag) { return TextToInt(flag) != 0 ? "0" : "1"; }
 
-std::vector<std::string> choicesOf(std::string_view key) {
-  for (const Choices& choices : keyChoices()) {
+std::vector<std::string> ChoicesOf(std::string_view key) {
+  for (const Choices& choices : KeyChoices()) {
     if (choices.key == key) return choices.texts;
   }
   return {};
@@ -131,14 +131,14 @@ std::vector<std::string> choicesOf(std::string_view key) {
 // The dialog's own; those of other keys stand in the key table.
 constexpr Limits kFaceDrag{1, 49};
 
-Limits limitsOf(const std::string& key) {
+Limits LimitsOf(const std::string& key) {
   const SettingKey* known = FindSettingKey(key);
   if (key == "face_drag_percent") return kFaceDrag;
   return known ? known->limits : Limits{};
 }
 
-NumberRange rangeOf(const Labelled& from) {
-  const auto [low, high] = limitsOf(from.key);
+NumberRange RangeOf(const Labelled& from) {
+  const auto [low, high] = LimitsOf(from.key);
   NumberRange range;
   range.low = low;
   range.high = high;
@@ -147,7 +147,7 @@ NumberRange rangeOf(const Labelled& from) {
   return range;
 }
 
-FormField fieldOf(const Labelled& from, const Settings& settings, const char* chooser = "") {
+FormField FieldOf(const Labelled& from, const Settings& settings, const char* chooser = "") {
   FormField field;
   field.name = from.key;
   field.label = from.label;
@@ -155,23 +155,23 @@ FormField fieldOf(const Labelled& from, const Settings& settings, const char* ch
   field.page = from.page;
   field.title = chooser;
   field.value = SettingText(settings, from.key).value_or("");
-  field.choices = choicesOf(from.key);
-  if (field.isNumber()) field.range = rangeOf(from);
-  if (isReversed(from.key)) field.value = reversed(field.value);
+  field.choices = ChoicesOf(from.key);
+  if (field.isNumber()) field.range = RangeOf(from);
+  if (IsReversed(from.key)) field.value = Reversed(field.value);
   return field;
 }
 
-int shownScale(const Settings& settings) { return Truncate(RoundHalfAway(settings.scale * 100.0)); }
+int ShownScale(const Settings& settings) { return Truncate(RoundHalfAway(settings.scale * 100.0)); }
 
 // A number without digits keeps what the key holds.
-std::string limited(const FormField& field) {
+std::string Limited(const FormField& field) {
   const auto number = LeadingInt(field.value);
   if (!number || !field.isNumber()) return field.value;
-  const auto [low, high] = limitsOf(field.name);
+  const auto [low, high] = LimitsOf(field.name);
   return Format("%i", std::clamp(*number, low, high));
 }
 
-Form dialogOf(const char* title, const char* saveLabel, const char* note = "") {
+Form DialogOf(const char* title, const char* saveLabel, const char* note = "") {
   Form form;
   form.title = title;
   form.saveLabel = saveLabel;
@@ -182,30 +182,30 @@ Form dialogOf(const char* title, const char* saveLabel, const char* note = "") {
 }  // namespace
 
 Form PreferencesForm(const Settings& settings) {
-  Form form = dialogOf("Preferences", "Save to VELK.INI",
+  Form form = DialogOf("Preferences", "Save to VELK.INI",
                        "* = Must Save to Velk.ini and Restart Velk for Changes to Take Effect");
   Settings now = settings;
-  now.start_set_scale = shownScale(settings);
-  for (const Labelled& preference : kPreferences) form.fields.push_back(fieldOf(preference, now));
+  now.start_set_scale = ShownScale(settings);
+  for (const Labelled& preference : kPreferences) form.fields.push_back(FieldOf(preference, now));
   return form;
 }
 
 Form ColoursForm(const Settings& settings) {
-  Form form = dialogOf("Set Colors...", "Save");
-  for (const Labelled& colour : kColours) form.fields.push_back(fieldOf(colour, settings, colour.label));
+  Form form = DialogOf("Set Colors...", "Save");
+  for (const Labelled& colour : kColours) form.fields.push_back(FieldOf(colour, settings, colour.label));
   return form;
 }
 
 Form DirectoriesForm(const Settings& settings) {
-  Form form = dialogOf("Set Directories & File Locations...", "Save to .ini",
+  Form form = DialogOf("Set Directories & File Locations...", "Save to .ini",
                        "Multiple .wad or .qc files are specified as:\nwad1.wad;wad2.wad;wad3.wad");
-  for (const auto& [field, chooser] : kDirectories) form.fields.push_back(fieldOf(field, settings, chooser));
+  for (const auto& [field, chooser] : kDirectories) form.fields.push_back(FieldOf(field, settings, chooser));
   return form;
 }
 
 Form MouseForm(const std::vector<std::string>& planSetups, int planCurrent,
                const std::vector<std::string>& cameraSetups, int cameraCurrent) {
-  Form form = dialogOf("Mouse Settings", "");
+  Form form = DialogOf("Mouse Settings", "");
   form.fields = {ChoiceField("XY", "XY Settings", planCurrent, planSetups),
                  ChoiceField("3D", "3D Settings", cameraCurrent, cameraSetups)};
   return form;
@@ -213,11 +213,11 @@ Form MouseForm(const std::vector<std::string>& planSetups, int planCurrent,
 
 void ApplyForm(const Form& form, Settings& settings) {
   for (const FormField& field : form.fields) {
-    SetSettingText(settings, field.name, isReversed(field.name) ? reversed(field.value) : limited(field));
+    SetSettingText(settings, field.name, IsReversed(field.name) ? Reversed(field.value) : Limited(field));
   }
   // The form shows whole percents; a scale that it did not change keeps its fraction.
   const FormField* scale = form.find("start_set->scale");
-  const bool changed = scale && TextToInt(scale->value) != shownScale(settings);
+  const bool changed = scale && TextToInt(scale->value) != ShownScale(settings);
   if (changed) settings.scale = static_cast<float>(0.01 * settings.start_set_scale);
 }
 

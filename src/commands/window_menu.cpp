@@ -74,7 +74,7 @@ Outcome StepMap(Editor& editor, int step) {
 }
 
 Outcome SwitchMapView(Editor& editor, map&) {
-  return Outcome::Drawn(Redraw::Plans, switchMapView(editor.views().plans));
+  return Outcome::Drawn(Redraw::Plans, SwitchMapView(editor.views().plans));
 }
 
 Outcome About(Editor& editor) {

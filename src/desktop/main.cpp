@@ -53,44 +53,44 @@ struct CommandLine {
   bool needsDisplay() const { return !isUnattended() && !parser.isSet("help") && !parser.isSet("version"); }
 };
 
-bool hasDisplay() {
+bool HasDisplay() {
   return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
 }
 
 // Ends the program without running destructors: the model may be in the middle of a change.
-[[noreturn]] void leave(int status) {
+[[noreturn]] void Leave(int status) {
   std::fflush(nullptr);
   _exit(status);
 }
 
-void print(const std::string& message) {
+void Print(const std::string& message) {
   std::fprintf(stderr, "%s\n", message.c_str());
   const std::string where = WhereErrorsHappen();
   if (!where.empty()) std::fprintf(stderr, "(%s)\n", where.c_str());
 }
 
-void failOnStandardError(const std::string& message) {
-  print(message);
-  leave(kFatalError);
+void FailOnStandardError(const std::string& message) {
+  Print(message);
+  Leave(kFatalError);
 }
 
-void failInBox(const std::string& message) {
+void FailInBox(const std::string& message) {
   CrashGuard::RunNow();
-  print(message);
+  Print(message);
   QMessageBox box(QMessageBox::Critical, "Velk Error...", ShownText(message), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(ShownText(WhereErrorsHappen()));
   box.exec();
-  leave(0);
+  Leave(0);
 }
 
-std::vector<std::string> textsOf(const QStringList& list) {
+std::vector<std::string> TextsOf(const QStringList& list) {
   std::vector<std::string> texts;
   for (const QString& text : list) texts.push_back(PathBytes(text));
   return texts;
 }
 
-QStringList argumentsOf(int count, char** values) {
+QStringList ArgumentsOf(int count, char** values) {
   QStringList arguments;
   for (int i = 0; i < count; ++i) arguments << PathText(values[i]);
   return arguments;
@@ -110,14 +110,14 @@ struct Request {
 };
 
 // A frame with its title bar that the screen has no room for fills it.
-void showFitting(QWidget& window) {
+void ShowFitting(QWidget& window) {
   const QSize room = window.screen()->availableSize();
   const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
   const bool fits = window.width() <= room.width() && window.height() + title <= room.height();
   fits || window.isMaximized() ? window.show() : window.showMaximized();
 }
 
-int runWindow(const Request& request) {
+int RunWindow(const Request& request) {
   ColourScheme scheme;
   QtPrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
@@ -128,13 +128,13 @@ int runWindow(const Request& request) {
   if (request.timeStart) ReportFirstPaint(window);
   scheme.takeAnswer();
   window.keepState();
-  showFitting(window);
+  ShowFitting(window);
   window.editor().rescue().offer();
   window.openFiles(request.files(window.editor().place()));
   return QApplication::exec();
 }
 
-int runPicture(const Request& request, const std::string& picture) {
+int RunPicture(const Request& request, const std::string& picture) {
   PicturePrompts prompts;
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setSettings(&window.editor().settings());
@@ -146,31 +146,31 @@ int runPicture(const Request& request, const std::string& picture) {
   return kFatalError;
 }
 
-int refuse(const QString& why) {
+int Refuse(const QString& why) {
   std::fprintf(stderr, "velk: %s\n", qPrintable(why));
   return kUsageError;
 }
 
 // Qt ends the program by a crash when it cannot reach the display, and without any clean-up when it loses a
 // Wayland compositor.
-void passOn(QtMsgType type, const QMessageLogContext&, const QString& message) {
+void PassOn(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type == QtFatalMsg || message.startsWith("The Wayland connection")) CrashGuard::RunNow();
   std::fprintf(stderr, "%s\n", qPrintable(message));
-  if (type == QtFatalMsg) leave(kUsageError);
+  if (type == QtFatalMsg) Leave(kUsageError);
 }
 
-int runProgram(CommandLine& line, const QStringList& arguments) {
+int RunProgram(CommandLine& line, const QStringList& arguments) {
   QCommandLineParser& parser = line.parser;
-  if (!parser.parse(arguments)) return refuse(parser.errorText());
+  if (!parser.parse(arguments)) return Refuse(parser.errorText());
   if (parser.isSet("help")) parser.showHelp(0);
   if (parser.isSet("version")) parser.showVersion();
   const auto value = [&parser](const auto& option) { return PathBytes(parser.value(option)); };
-  const Request request{textsOf(parser.positionalArguments()), parser.isSet(line.kit),
+  const Request request{TextsOf(parser.positionalArguments()), parser.isSet(line.kit),
                         parser.isSet(line.timeStart)};
-  SetErrorHandler(line.isUnattended() ? failOnStandardError : failInBox);
+  SetErrorHandler(line.isUnattended() ? FailOnStandardError : FailInBox);
   if (parser.isSet(line.script)) return RunScriptFile(value(line.script), request.maps);
-  if (parser.isSet(line.picture)) return runPicture(request, value(line.picture));
-  return runWindow(request);
+  if (parser.isSet(line.picture)) return RunPicture(request, value(line.picture));
+  return RunWindow(request);
 }
 
 }  // namespace
@@ -178,15 +178,15 @@ int runProgram(CommandLine& line, const QStringList& arguments) {
 
 int main(int argc, char** argv) {
   velk::CommandLine line;
-  const bool understood = line.parser.parse(velk::argumentsOf(argc, argv));
+  const bool understood = line.parser.parse(velk::ArgumentsOf(argc, argv));
   if (!line.needsDisplay()) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  } else if (!velk::hasDisplay()) {
-    return velk::refuse(understood
+  } else if (!velk::HasDisplay()) {
+    return velk::Refuse(understood
                             ? "there is no display; use --script FILE or --picture FILE to run without one"
                             : line.parser.errorText());
   }
-  qInstallMessageHandler(velk::passOn);
+  qInstallMessageHandler(velk::PassOn);
   QApplication application(argc, argv);
   // Qt takes over the user's locale; the editor's files have decimal points everywhere.
   std::setlocale(LC_NUMERIC, "C");
@@ -195,5 +195,5 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName("velk");
   QApplication::setWindowIcon(QIcon(":/icons/velk.svg"));
   // Without the arguments that Qt took for itself.
-  return velk::runProgram(line, velk::argumentsOf(argc, argv));
+  return velk::RunProgram(line, velk::ArgumentsOf(argc, argv));
 }

@@ -11,19 +11,19 @@ namespace {
 constexpr const char* kSection = "Recent";
 constexpr size_t kLongestLabel = 60;
 
-std::string keyOf(int index) { return Format("map%i", index + 1); }
+std::string KeyOf(int index) { return Format("map%i", index + 1); }
 
-std::vector<std::string> pathsIn(const IniFile& ini) {
+std::vector<std::string> PathsIn(const IniFile& ini) {
   std::vector<std::string> paths;
   for (int i = 0; i < RecentMaps::kMax; ++i) {
-    std::string path = ini.string(kSection, keyOf(i), "");
+    std::string path = ini.string(kSection, KeyOf(i), "");
     if (!path.empty()) paths.push_back(std::move(path));
   }
   return paths;
 }
 
 // The end of a long path, from a separator on where one is near.
-std::string shortened(const std::string& path) {
+std::string Shortened(const std::string& path) {
   if (path.size() <= kLongestLabel) return path;
   const size_t cut = CutText(path, path.size() - kLongestLabel).size();
   const size_t separator = path.find_first_of("/\\", cut);
@@ -35,7 +35,7 @@ std::string shortened(const std::string& path) {
 
 void RecentMaps::keepIn(std::filesystem::path stateFile) {
   file_ = std::move(stateFile);
-  paths_ = pathsIn(IniFile::Load(file_));
+  paths_ = PathsIn(IniFile::Load(file_));
 }
 
 std::string RecentMaps::at(int index) const {
@@ -46,13 +46,13 @@ std::string RecentMaps::at(int index) const {
 void RecentMaps::change(const std::function<void(Paths&)>& make) {
   if (file_.empty()) return;
   IniFile ini = IniFile::Load(file_);
-  Paths changed = pathsIn(ini);
+  Paths changed = PathsIn(ini);
   make(changed);
   if (changed.size() > kMax) changed.resize(kMax);
   for (int i = 0; i < kMax; ++i) {
     const auto slot = static_cast<size_t>(i);
     const std::string path = slot < changed.size() ? changed[slot] : "";
-    if (ini.string(kSection, keyOf(i), "") != path) ini.set(kSection, keyOf(i), path);
+    if (ini.string(kSection, KeyOf(i), "") != path) ini.set(kSection, KeyOf(i), path);
   }
   paths_ = std::move(changed);
   ini.save(file_);
@@ -76,7 +76,7 @@ void RecentMaps::clear() {
 
 std::string RecentMapLabel(int index, const std::string& path) {
   std::string label = Format("&%i ", index + 1);
-  for (const char c : shortened(path)) {
+  for (const char c : Shortened(path)) {
     if (c == '&') label += '&';
     label += static_cast<unsigned char>(c) < ' ' ? '?' : c;
   }

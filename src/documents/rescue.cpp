@@ -19,14 +19,14 @@ constexpr int kMaxEditors = 64;
 constexpr int kMaxCopies = 64;
 constexpr std::string_view kHeader = "//VELKRESCUE ";
 
-fs::path lockFile(const fs::path& folder, int number) { return folder / Format("editor%i.lock", number); }
+fs::path LockFile(const fs::path& folder, int number) { return folder / Format("editor%i.lock", number); }
 
-fs::path copyName(const fs::path& folder, int editor, int index) {
+fs::path CopyName(const fs::path& folder, int editor, int index) {
   return folder / Format("rescue%i-%i.map", editor, index);
 }
 
 // The lock of a place; -1 when another editor holds it or there can be none.
-int takeLock(const fs::path& file) {
+int TakeLock(const fs::path& file) {
   const int lock = ::open(file.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, 0600);
   if (lock < 0) return -1;
   if (::flock(lock, LOCK_EX | LOCK_NB) == 0) return lock;
@@ -34,7 +34,7 @@ int takeLock(const fs::path& file) {
   return -1;
 }
 
-bool present(const fs::path& file) {
+bool Present(const fs::path& file) {
   std::error_code ignored;
   return fs::exists(file, ignored);
 }
@@ -52,7 +52,7 @@ RescueFolder::~RescueFolder() {
 }
 
 bool RescueFolder::hold(int number) {
-  lock_ = takeLock(lockFile(folder_, number));
+  lock_ = TakeLock(LockFile(folder_, number));
   number_ = number;
   return held();
 }
@@ -61,15 +61,15 @@ fs::path RescueFolder::backupFile() const {
   return folder_ / (number_ == 1 ? std::string("backup.map") : Format("backup%i.map", number_));
 }
 
-fs::path RescueFolder::copyFile(int index) const { return copyName(folder_, number_, index); }
+fs::path RescueFolder::copyFile(int index) const { return CopyName(folder_, number_, index); }
 
 std::vector<RescueCopy> RescueFolder::claim() {
   std::vector<RescueCopy> found;
   if (!held()) return found;
   adopt(number_, found);
   for (int other = 1; other <= kMaxEditors; ++other) {
-    if (other == number_ || !present(lockFile(folder_, other))) continue;
-    const int lock = takeLock(lockFile(folder_, other));
+    if (other == number_ || !Present(LockFile(folder_, other))) continue;
+    const int lock = TakeLock(LockFile(folder_, other));
     if (lock < 0) continue;
     adopt(other, found);
     ::close(lock);
@@ -80,11 +80,11 @@ std::vector<RescueCopy> RescueFolder::claim() {
 // Copies of this editor's own place stay where they are; others move to free names of it.
 void RescueFolder::adopt(int from, std::vector<RescueCopy>& found) const {
   for (int index = 0; index < kMaxCopies; ++index) {
-    fs::path file = copyName(folder_, from, index);
-    if (!present(file)) continue;
+    fs::path file = CopyName(folder_, from, index);
+    if (!Present(file)) continue;
     if (from != number_) {
       int free = 0;
-      while (free < kMaxCopies && present(copyFile(free))) ++free;
+      while (free < kMaxCopies && Present(copyFile(free))) ++free;
       if (free == kMaxCopies) return;  // another start has room for the rest
       std::error_code failed;
       fs::rename(file, copyFile(free), failed);
@@ -100,7 +100,7 @@ fs::path RescueFolder::putAside(const RescueCopy& copy) const {
   for (int number = 1;; ++number) {
     const fs::path aside = folder_ / Format("rescued-%lld-%i-%i.map",
                                             static_cast<long long>(std::time(nullptr)), number_, number);
-    if (present(aside)) continue;
+    if (Present(aside)) continue;
     std::error_code failed;
     fs::rename(copy.file, aside, failed);
     return failed ? copy.file : aside;

@@ -116,13 +116,13 @@ void AxialBox::project(int index, const texturedef& texture, const TextureAxes& 
 template <int kOwn, int kTowards>
 void AxialBox::cutSide(__m128d toFirst, __m128d fromLast) {
   if constexpr (AxisOf(kOwn) != AxisOf(kTowards)) {
-    constexpr int first = kRectangles[kOwn].sideTowards[kTowards];
-    constexpr int last = (first + 1) & 3;
+    constexpr int kFirst = kRectangles[kOwn].sideTowards[kTowards];
+    constexpr int kLast = (kFirst + 1) & 3;
     Side& own = sides_[kOwn];
-    own.st[first] = Between(own.st[(first + 3) & 3], own.st[first], toFirst);
-    own.st[last] = Between(own.st[last], own.st[(first + 2) & 3], fromLast);
+    own.st[kFirst] = Between(own.st[(kFirst + 3) & 3], own.st[kFirst], toFirst);
+    own.st[kLast] = Between(own.st[kLast], own.st[(kFirst + 2) & 3], fromLast);
     // Cutting off the first two corners leaves the new first one last in the order.
-    if (own.start == first) own.start = last;
+    if (own.start == kFirst) own.start = kLast;
   }
 }
 

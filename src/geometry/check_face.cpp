@@ -26,7 +26,7 @@ bool CheckEveryEdge(const WindingPoint* corners, int count, const plane& facePla
   for (int i = 0; i < count; ++i) {
     const WindingPoint& corner = corners[i];
     if (OutOfRange(corner)) return false;
-    const double d = distanceTo(facePlane, corner.position());
+    const double d = DistanceTo(facePlane, corner.position());
     if (d < -SIDE_EPSILON || d > SIDE_EPSILON) return false;
     const vec3 dir = subtract(corners[i + 1 < count ? i + 1 : 0].position(), corner.position());
     if (length(dir) < SIDE_EPSILON) return false;
@@ -68,7 +68,7 @@ bool TurnsAtEveryCorner(const WindingPoint* corners, int count, const plane& fac
   for (int i = 0; i < count; ++i) {
     const WindingPoint& corner = corners[i];
     const Direction along = From(corner, corners[i + 1 < count ? i + 1 : 0]);
-    if (!WellWithinRange(corner) || !(std::fabs(distanceTo(facePlane, corner.position())) < kNearPlane) ||
+    if (!WellWithinRange(corner) || !(std::fabs(DistanceTo(facePlane, corner.position())) < kNearPlane) ||
         along.x * along.x + along.y * along.y + along.z * along.z < kLongEnough ||
         TurnedArea(before, along, facePlane.normal) < kTurn) {
       return false;

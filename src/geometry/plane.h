@@ -16,7 +16,7 @@ struct plane {
 };
 
 // Signed distance of a point from a plane.
-inline double distanceTo(const plane& p, const vec3& point) { return dot(point, p.normal) - p.dist; }
+inline double DistanceTo(const plane& p, const vec3& point) { return dot(point, p.normal) - p.dist; }
 
 // The plane through three points as the game's map compiler makes it: the normal is
 // (p0 - p1) x (p2 - p1). False, and nothing set, when that is exactly zero.

@@ -25,7 +25,7 @@ vec3 UpAlong(const vec3& normal, int axis) {
   vec3 up = axis == 2 ? vec3{1, 0, 0} : vec3{0, 0, 1};
   const double lean = dot(up, normal);
   if (lean == 0) return up;  // as most are, and what follows would leave it
-  up = multiplyAdd(up, -lean, normal);
+  up = MultiplyAdd(up, -lean, normal);
   normalize(up);
   return up;
 }

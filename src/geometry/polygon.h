@@ -174,7 +174,7 @@ class TextureProjection {
         tAxis_(axes.t.y != 0 ? 1 : 2),
         cosine_(_mm_set1_pd(turn.cosine)),
         sine_(_mm_set1_pd(turn.sine)),
-        scale_(_mm_setr_pd(ScaleOf(texture.scale[0]), ScaleOf(texture.scale[1]))),
+        scale_(_mm_setr_pd(scaleOf(texture.scale[0]), scaleOf(texture.scale[1]))),
         shift_(_mm_setr_pd(texture.shift[0], texture.shift[1])),
         scaled_(_mm_movemask_pd(_mm_cmpneq_pd(scale_, _mm_set1_pd(1))) != 0) {}
 
@@ -187,7 +187,7 @@ class TextureProjection {
   }
 
  private:
-  static double ScaleOf(float scale) { return scale == 0 ? 1 : scale; }
+  static double scaleOf(float scale) { return scale == 0 ? 1 : scale; }
 
   int sAxis_;
   int tAxis_;

@@ -29,7 +29,7 @@ inline vec3 add(const vec3& a, const vec3& b) {
 }
 inline vec3 scale(const vec3& a, double k) { return {float(a.x * k), float(a.y * k), float(a.z * k)}; }
 // a + k·b
-inline vec3 multiplyAdd(const vec3& a, double k, const vec3& b) {
+inline vec3 MultiplyAdd(const vec3& a, double k, const vec3& b) {
   return {float(a.x + k * b.x), float(a.y + k * b.y), float(a.z + k * b.z)};
 }
 inline double length(const vec3& a) { return std::sqrt(dot(a, a)); }

@@ -45,7 +45,7 @@ class Turning {
         inner_(onAxis(profile, params.poleRadius), centre_, params.sectors, params.inner),
         outer_(onAxis(profile, params.poleRadius), centre_, params.sectors, params.outer),
         pieces_(seed, keeping) {
-    for (const ProfilePoint& p : profile) poles_.push_back(IsPole(p, params.poleRadius));
+    for (const ProfilePoint& p : profile) poles_.push_back(isPole(p, params.poleRadius));
   }
 
   // The piece between a row and the one before it, from a sector to the next.
@@ -69,10 +69,10 @@ class Turning {
     size_t sector;
   };
 
-  static bool IsPole(const ProfilePoint& p, double poleRadius) { return std::fabs(p.radius) < poleRadius; }
+  static bool isPole(const ProfilePoint& p, double poleRadius) { return std::fabs(p.radius) < poleRadius; }
   static Profile onAxis(Profile profile, double poleRadius) {
     for (ProfilePoint& p : profile) {
-      if (IsPole(p, poleRadius)) p.radius = 0;
+      if (isPole(p, poleRadius)) p.radius = 0;
     }
     return profile;
   }

@@ -53,7 +53,7 @@ double Area(const winding& w) {
 double Volume(const brush& b) {
   double volume = 0;
   for (const face& f : b.faces()) {
-    if (f.polygon) volume += Area(*f.polygon) * -distanceTo(f.facePlane, b.mins) / 3;
+    if (f.polygon) volume += Area(*f.polygon) * -DistanceTo(f.facePlane, b.mins) / 3;
   }
   return volume;
 }

@@ -98,8 +98,8 @@ void RefuseBinary(std::string_view text, const std::string& name) {
 
 // Some tools mark text as UTF-8 with three bytes in front.
 std::string_view WithoutMark(std::string_view text) {
-  constexpr std::string_view mark = "\xEF\xBB\xBF";
-  return text.starts_with(mark) ? text.substr(mark.size()) : text;
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  return text.starts_with(kMark) ? text.substr(kMark.size()) : text;
 }
 
 // Some tools end lines with CR alone, which would make a single comment of a file that starts with one.

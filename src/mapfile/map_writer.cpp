@@ -92,7 +92,7 @@ template <typename Wanted>
 void WriteBrushes(const entity& e, TextOut& out, bool withGroup, Wanted&& wanted) {
   if (!e.isModel) return;
   for (const brush& b : e.brushes()) {
-    if (!b.invalid && wanted(b)) write(b, out, withGroup);
+    if (!b.invalid && wanted(b)) Write(b, out, withGroup);
   }
 }
 
@@ -118,14 +118,14 @@ MapWriteResult Replace(const Paths& paths, const std::string& name, const std::s
 
 }  // namespace
 
-void write(const brush& b, TextOut& out, bool withGroup) {
+void Write(const brush& b, TextOut& out, bool withGroup) {
   out.line("{");
   if (withGroup) WriteGroup(b.group(), out);
   for (const face& f : b.faces()) WriteFace(f, out);
   out.line("}");
 }
 
-void write(const entity& e, TextOut& out, const MapWriteOptions& options) {
+void Write(const entity& e, TextOut& out, const MapWriteOptions& options) {
   const auto wanted = [&](const brush& b) { return !options.selectedOnly || b.selected(); };
   if (options.selectedOnly && !AnyBrush(e, wanted)) {
     if (e.isWorld()) out.add("{\r\n}\r\n");
@@ -141,7 +141,7 @@ void write(const entity& e, TextOut& out, const MapWriteOptions& options) {
 std::string MapFileText(const map& m, const MapWriteOptions& options) {
   TextOut out;
   if (options.comments) WriteMapHeader(m, out);
-  for (const entity& e : m.entities()) write(e, out, options);
+  for (const entity& e : m.entities()) Write(e, out, options);
   return out.take();
 }
 
@@ -157,7 +157,7 @@ std::string GroupExportText(const map& m, int group) {
     if (missingStart == nullptr) missingStart = &e;
   }
   if (!startWritten && missingStart != nullptr) {
-    write(*missingStart, out, {.comments = false, .selectedOnly = false});
+    Write(*missingStart, out, {.comments = false, .selectedOnly = false});
   }
   return out.take();
 }

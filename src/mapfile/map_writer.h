@@ -38,7 +38,7 @@ MapWriteResult ExportGroup(const map& m, int group, const Paths& paths, const st
 std::string MapFileText(const map& m, const MapWriteOptions& options);
 std::string GroupExportText(const map& m, int group);
 
-void write(const entity& e, TextOut& out, const MapWriteOptions& options);
-void write(const brush& b, TextOut& out, bool withGroup);
+void Write(const entity& e, TextOut& out, const MapWriteOptions& options);
+void Write(const brush& b, TextOut& out, bool withGroup);
 
 }  // namespace velk

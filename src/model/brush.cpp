@@ -67,8 +67,8 @@ brush::~brush() {
 }
 
 const texturedef& brush::brushTexture() const {
-  static const texturedef none;
-  return faces_.empty() ? none : faces_.front().texture;
+  static const texturedef kNone;
+  return faces_.empty() ? kNone : faces_.front().texture;
 }
 
 void brush::initBox(entity& boxOwner, const vec3& boxMins, const vec3& boxMaxs, const texturedef& texture) {
@@ -113,7 +113,7 @@ void brush::setTexturedef(const texturedef& texture, int faceNumber) {
 }
 
 void brush::setAllTexturedefs(const texturedef& texture) {
-  const texturedef taken = texture;  // it may be that of one of these faces_
+  const texturedef& taken = texture;  // it may be that of one of these faces_
   for (face& f : editFaces()) f.texture = taken;
   buildWindings();
 }

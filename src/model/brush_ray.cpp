@@ -17,8 +17,8 @@ brush::RayClip brush::clipRay(const vec3& start, const vec3& end) const {
   for (int i = 0; i < numfaces(); ++i) {
     const face& f = faces_[static_cast<size_t>(i)];
     if (!f.polygon) continue;
-    const double d1 = distanceTo(f.facePlane, ray.p1);
-    const double d2 = distanceTo(f.facePlane, ray.p2);
+    const double d1 = DistanceTo(f.facePlane, ray.p1);
+    const double d2 = DistanceTo(f.facePlane, ray.p2);
     if (d1 >= 0 && d2 >= 0) {
       ray.entry = ray.exit = -1;
       break;

@@ -5,26 +5,26 @@
 namespace velk {
 namespace {
 
-bool isSame(const std::weak_ptr<const void>& a, const std::weak_ptr<const void>& b) {
+bool IsSame(const std::weak_ptr<const void>& a, const std::weak_ptr<const void>& b) {
   return !a.expired() && !a.owner_before(b) && !b.owner_before(a);
 }
 
-entity* findEntity(map& m, const std::weak_ptr<const void>& identity) {
+entity* FindEntity(map& m, const std::weak_ptr<const void>& identity) {
   for (entity& e : m.entities()) {
-    if (isSame(identity, e.identity())) return &e;
+    if (IsSame(identity, e.identity())) return &e;
   }
   return nullptr;
 }
 
-int findBrush(entity& e, const std::weak_ptr<const void>& identity) {
+int FindBrush(entity& e, const std::weak_ptr<const void>& identity) {
   for (int i = 0; i < e.numbrushes(); ++i) {
-    if (isSame(identity, e.at(i)->identity())) return i;
+    if (IsSame(identity, e.at(i)->identity())) return i;
   }
   return -1;
 }
 
 // The brush that a copy of one brush is made of; none stands for the whole map.
-brush* brushFor(map& m, UndoMode mode, brush* working) {
+brush* BrushFor(map& m, UndoMode mode, brush* working) {
   if (mode == UndoMode::Working) return working && working->owner ? working : nullptr;
   if (mode != UndoMode::Selection || m.selectedCount() != 1) return nullptr;
   brush* selected = m.firstSelected();
@@ -42,13 +42,13 @@ std::unique_ptr<History::OneBrush> History::keepOne(brush& b) {
 }
 
 void History::restoreOne(map& m, const OneBrush& kept) {
-  entity* owner = findEntity(m, kept.liveOwner);
+  entity* owner = FindEntity(m, kept.liveOwner);
   if (!owner) {
     m.addobject(RestoreEntity(m, kept.owner));
     return;
   }
   std::unique_ptr<brush> copy = RestoreBrush(*owner, kept.owner.pages.front()->front());
-  const int live = findBrush(*owner, kept.liveBrush);
+  const int live = FindBrush(*owner, kept.liveBrush);
   if (live >= 0) {
     owner->replaceAt(live, std::move(copy));
   } else {
@@ -91,7 +91,7 @@ void History::save(map& m, const std::string& name, UndoMode mode, const Limits&
   Record record{.name = name, .whole = nullptr, .one = nullptr, .groups = nullptr};
   if (mode == UndoMode::Groups) {
     record.groups = std::make_unique<GroupList>(m.groups);
-  } else if (brush* one = brushFor(m, mode, working)) {
+  } else if (brush* one = BrushFor(m, mode, working)) {
     record.one = keepOne(*one);
   } else {
     record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m));

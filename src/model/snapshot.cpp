@@ -8,89 +8,89 @@ namespace {
 
 constexpr size_t kPageSize = 64;  // brushes
 
-bool same(const std::vector<KeyPair>& a, const std::vector<KeyPair>& b) {
+bool Same(const std::vector<KeyPair>& a, const std::vector<KeyPair>& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](const KeyPair& x, const KeyPair& y) { return x.key == y.key && x.value == y.value; });
 }
 
 // One object, or equal ones.
-bool sameShape(const KeptBrush& a, const KeptBrush& b) { return a.shape == b.shape || *a.shape == *b.shape; }
+bool SameShape(const KeptBrush& a, const KeptBrush& b) { return a.shape == b.shape || *a.shape == *b.shape; }
 
-bool sameShapes(const std::shared_ptr<const KeptPage>& a, const std::shared_ptr<const KeptPage>& b) {
-  return a == b || std::equal(a->begin(), a->end(), b->begin(), b->end(), sameShape);
+bool SameShapes(const std::shared_ptr<const KeptPage>& a, const std::shared_ptr<const KeptPage>& b) {
+  return a == b || std::equal(a->begin(), a->end(), b->begin(), b->end(), SameShape);
 }
 
-bool sameContents(const std::shared_ptr<const KeptEntity>& a, const std::shared_ptr<const KeptEntity>& b) {
+bool SameEntity(const std::shared_ptr<const KeptEntity>& a, const std::shared_ptr<const KeptEntity>& b) {
   return a == b ||
-         (a->isModel == b->isModel && (a->pairs == b->pairs || same(*a->pairs, *b->pairs)) &&
-          std::equal(a->pages.begin(), a->pages.end(), b->pages.begin(), b->pages.end(), sameShapes));
+         (a->isModel == b->isModel && (a->pairs == b->pairs || Same(*a->pairs, *b->pairs)) &&
+          std::equal(a->pages.begin(), a->pages.end(), b->pages.begin(), b->pages.end(), SameShapes));
 }
 
-std::uint32_t nameIn(std::vector<std::string>& names, const std::string& name) {
+std::uint32_t NameIn(std::vector<std::string>& names, const std::string& name) {
   const auto found = std::ranges::find(names, name);
   const auto place = static_cast<std::uint32_t>(found - names.begin());
   if (found == names.end()) names.push_back(name);
   return place;
 }
 
-KeptFace keep(const face& f, std::vector<std::string>& names) {
+KeptFace Keep(const face& f, std::vector<std::string>& names) {
   const texturedef& t = f.texture;
   return {{f.planepts[0], f.planepts[1], f.planepts[2]},
           t.rotate,
           {t.shift[0], t.shift[1]},
           {t.scale[0], t.scale[1]},
-          nameIn(names, t.name)};
+          NameIn(names, t.name)};
 }
 
-const std::shared_ptr<const BrushShape>& shapeOf(brush& b) {
+const std::shared_ptr<const BrushShape>& ShapeOf(brush& b) {
   if (b.kept) return b.kept;
   auto made = std::make_shared<BrushShape>();
   made->faces.reserve(b.faces().size());
-  for (const face& f : b.faces()) made->faces.push_back(keep(f, made->names));
+  for (const face& f : b.faces()) made->faces.push_back(Keep(f, made->names));
   made->color = b.color();
   made->group = b.group();
   b.kept = std::move(made);
   return b.kept;
 }
 
-KeptBrush keep(brush& b) { return {shapeOf(b), b.currentFace(), b.selected()}; }
+KeptBrush Keep(brush& b) { return {ShapeOf(b), b.currentFace(), b.selected()}; }
 
-bool isAsKept(const brush& b, const KeptBrush& kept) {
+bool IsAsKept(const brush& b, const KeptBrush& kept) {
   return b.kept == kept.shape && b.currentFace() == kept.currentFace && b.selected() == kept.selected;
 }
 
-bool isAsKept(const entity& e, size_t first, size_t count, const KeptPage& page) {
+bool IsAsKept(const entity& e, size_t first, size_t count, const KeptPage& page) {
   if (page.size() != count) return false;
   for (size_t i = 0; i < count; ++i) {
-    if (!isAsKept(*e.at(static_cast<int>(first + i)), page[i])) return false;
+    if (!IsAsKept(*e.at(static_cast<int>(first + i)), page[i])) return false;
   }
   return true;
 }
 
 // The page as it was kept last, when it is still so.
-std::shared_ptr<const KeptPage> pageOf(const entity& e, size_t number, const KeptEntity* earlier) {
+std::shared_ptr<const KeptPage> PageOf(const entity& e, size_t number, const KeptEntity* earlier) {
   const size_t first = number * kPageSize;
   const size_t count = std::min(kPageSize, static_cast<size_t>(e.numbrushes()) - first);
-  if (earlier && number < earlier->pages.size() && isAsKept(e, first, count, *earlier->pages[number])) {
+  if (earlier && number < earlier->pages.size() && IsAsKept(e, first, count, *earlier->pages[number])) {
     return earlier->pages[number];
   }
   auto page = std::make_shared<KeptPage>();
   page->reserve(count);
-  for (size_t i = 0; i < count; ++i) page->push_back(keep(*e.at(static_cast<int>(first + i))));
+  for (size_t i = 0; i < count; ++i) page->push_back(Keep(*e.at(static_cast<int>(first + i))));
   return page;
 }
 
-std::shared_ptr<const KeptEntity> keep(entity& e) {
+std::shared_ptr<const KeptEntity> Keep(entity& e) {
   const KeptEntity* earlier = e.kept().get();
   if (earlier && !e.changedSinceKept() && earlier->isModel == e.isModel) return e.kept();
   auto kept = std::make_shared<KeptEntity>();
   kept->isModel = e.isModel;
-  kept->pairs = earlier && same(e.pairsInOrder(), *earlier->pairs)
+  kept->pairs = earlier && Same(e.pairsInOrder(), *earlier->pairs)
                     ? earlier->pairs
                     : std::make_shared<const std::vector<KeyPair>>(e.pairsInOrder());
   const size_t pages = (static_cast<size_t>(e.numbrushes()) + kPageSize - 1) / kPageSize;
   kept->pages.reserve(pages);
-  for (size_t i = 0; i < pages; ++i) kept->pages.push_back(pageOf(e, i, earlier));
+  for (size_t i = 0; i < pages; ++i) kept->pages.push_back(PageOf(e, i, earlier));
   e.setKept(kept);
   return kept;
 }
@@ -102,7 +102,7 @@ struct Unchanged {
 };
 
 // Takes out what the snapshot wants back as it is.
-Unchanged takeUnchanged(map& m, const MapSnapshot& wanted) {
+Unchanged TakeUnchanged(map& m, const MapSnapshot& wanted) {
   std::unordered_map<const KeptEntity*, bool> isWanted;
   for (const auto& kept : wanted.entities) isWanted[kept.get()] = true;
   Unchanged taken;
@@ -119,7 +119,7 @@ Unchanged takeUnchanged(map& m, const MapSnapshot& wanted) {
   return taken;
 }
 
-std::unique_ptr<brush> restored(Unchanged& unchanged, const KeptBrush& kept, entity& owner) {
+std::unique_ptr<brush> Restored(Unchanged& unchanged, const KeptBrush& kept, entity& owner) {
   auto found = unchanged.brushes.extract(kept.shape.get());
   if (found.empty()) return RestoreBrush(owner, kept);
   std::unique_ptr<brush> b = std::move(found.mapped());
@@ -128,14 +128,14 @@ std::unique_ptr<brush> restored(Unchanged& unchanged, const KeptBrush& kept, ent
   return b;
 }
 
-std::unique_ptr<entity> restored(map& m, const std::shared_ptr<const KeptEntity>& kept,
+std::unique_ptr<entity> Restored(map& m, const std::shared_ptr<const KeptEntity>& kept,
                                  Unchanged& unchanged) {
   if (auto found = unchanged.entities.extract(kept.get()); !found.empty()) return std::move(found.mapped());
   auto made = std::make_unique<entity>(m);
   made->isModel = kept->isModel;
   for (const KeyPair& pair : *kept->pairs) made->setKey(pair.key, pair.value);
   for (const auto& page : kept->pages) {
-    for (const KeptBrush& from : *page) made->addobject(restored(unchanged, from, *made));
+    for (const KeptBrush& from : *page) made->addobject(Restored(unchanged, from, *made));
   }
   made->setKept(kept);
   return made;
@@ -207,7 +207,7 @@ bool BrushShape::operator==(const BrushShape& other) const {
 
 KeptEntity KeepBrush(const entity& owner, brush& b) {
   return {std::make_shared<const std::vector<KeyPair>>(owner.pairsInOrder()),
-          {std::make_shared<const KeptPage>(KeptPage{keep(b)})},
+          {std::make_shared<const KeptPage>(KeptPage{Keep(b)})},
           owner.isModel};
 }
 
@@ -234,13 +234,13 @@ std::unique_ptr<brush> RestoreBrush(entity& owner, const KeptBrush& kept) {
 
 std::unique_ptr<entity> RestoreEntity(map& m, const KeptEntity& kept) {
   Unchanged none;
-  return restored(m, std::make_shared<const KeptEntity>(kept), none);
+  return Restored(m, std::make_shared<const KeptEntity>(kept), none);
 }
 
 MapSnapshot TakeSnapshot(const map& m) {
   MapSnapshot taken;
   taken.entities.reserve(static_cast<size_t>(m.numentities()));
-  for (entity& e : m.entities()) taken.entities.push_back(keep(e));
+  for (entity& e : m.entities()) taken.entities.push_back(Keep(e));
   taken.currentEntity = m.indexOf(m.currentEntity());
   taken.groups = m.groups;
   taken.clip = m.clip;
@@ -254,8 +254,8 @@ MapSnapshot TakeSnapshot(const map& m) {
 }
 
 void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
-  Unchanged unchanged = takeUnchanged(m, snapshot);
-  for (const auto& kept : snapshot.entities) m.addobject(restored(m, kept, unchanged));
+  Unchanged unchanged = TakeUnchanged(m, snapshot);
+  for (const auto& kept : snapshot.entities) m.addobject(Restored(m, kept, unchanged));
   m.setCurrentEntity(m.at(std::max(snapshot.currentEntity, 0)));
   m.groups = snapshot.groups;
   m.clip = snapshot.clip;
@@ -269,7 +269,7 @@ void RestoreSnapshot(map& m, const MapSnapshot& snapshot, bool withCameras) {
 
 bool SameContents(const MapSnapshot& a, const MapSnapshot& b) {
   return a.groups == b.groups &&
-         std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), sameContents);
+         std::equal(a.entities.begin(), a.entities.end(), b.entities.begin(), b.entities.end(), SameEntity);
 }
 
 size_t BytesOfItsOwn(const MapSnapshot& a, const MapSnapshot& b) {

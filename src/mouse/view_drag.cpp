@@ -56,7 +56,7 @@ Outcome ZoomAt(const MouseContext& context, Pixel at, int notches) {
   Outcome outcome = Outcome::Drawn(Redraw::Plans);
   for (int i = std::min(std::abs(notches), kAllSteps); i > 0; --i) {
     const ViewPoint world = context.projection().screenToWorld(at);
-    outcome.status = notches > 0 ? scaleUp(context.settings) : scaleDown(context.settings);
+    outcome.status = notches > 0 ? ScaleUp(context.settings) : ScaleDown(context.settings);
     PinUnder(context, world, at);
   }
   return outcome;

@@ -1,8 +1,8 @@
 #include "ops/align.h"
 
 #include "base/text.h"
-#include "ops/transform.h"
 #include "model/visit.h"
+#include "ops/transform.h"
 
 namespace velk {
 namespace {

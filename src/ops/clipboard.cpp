@@ -11,31 +11,31 @@ namespace velk {
 namespace {
 
 // "t<n>" as a number, one that leaves room for sums; -1 for other names.
-std::int64_t targetNumber(std::string_view name) {
+std::int64_t TargetNumber(std::string_view name) {
   return name.starts_with('t') ? TextToInt(name.substr(1)) : -1;
 }
 
-std::int64_t largestTargetNumber(map& m) {
+std::int64_t LargestTargetNumber(map& m) {
   std::int64_t largest = 0;
   for (int i = 1; i < m.numentities(); ++i) {
-    largest = std::max(largest, targetNumber(m.at(i)->valueOfKey("targetname")));
+    largest = std::max(largest, TargetNumber(m.at(i)->valueOfKey("targetname")));
   }
   return largest;
 }
 
-std::unique_ptr<brush> copyInto(entity& owner, const brush& b, const vec3& offset) {
+std::unique_ptr<brush> CopyInto(entity& owner, const brush& b, const vec3& offset) {
   auto copy = std::make_unique<brush>(b);
   copy->owner = &owner;
   copy->translate(offset);
   return copy;
 }
 
-bool anySelected(const entity& e) {
+bool AnySelected(const entity& e) {
   const auto brushes = e.brushes();
   return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected(); });
 }
 
-void dropDanglingTargets(map& clipboard) {
+void DropDanglingTargets(map& clipboard) {
   std::unordered_map<std::string, int> named;  // entities, by targetname in upper case
   for (const entity& e : clipboard.entities()) ++named[UpperCase(e.valueOfKey("targetname"))];
   for (entity& e : clipboard.entities()) {
@@ -46,8 +46,8 @@ void dropDanglingTargets(map& clipboard) {
   }
 }
 
-void renumber(entity& e, const char* key, std::int64_t base) {
-  const std::int64_t number = targetNumber(e.valueOfKey(key));
+void Renumber(entity& e, const char* key, std::int64_t base) {
+  const std::int64_t number = TargetNumber(e.valueOfKey(key));
   if (number >= 0) e.setKey(key, "t" + std::to_string(number + base));
 }
 
@@ -64,7 +64,7 @@ void CopySelection(map& from, map& clipboard) {
   clipboard.addobject(std::move(world));
   for (int i = from.world()->numbrushes(); i-- > 0;) {
     const brush& b = *from.world()->at(i);
-    if (b.selected()) clipboard.world()->addobject(copyInto(*clipboard.world(), b, {}));
+    if (b.selected()) clipboard.world()->addobject(CopyInto(*clipboard.world(), b, {}));
   }
   for (int i = 1; i < from.numentities(); ++i) {
     const entity& e = *from.at(i);
@@ -72,22 +72,22 @@ void CopySelection(map& from, map& clipboard) {
   }
   clipboard.MGPerform(Method::Select);
   clipboard.setCurrentEntity(clipboard.world());
-  dropDanglingTargets(clipboard);
+  DropDanglingTargets(clipboard);
 }
 
 void PasteClipboard(map& to, map& clipboard, int group, const vec3& offset) {
   entity* current = to.currentEntity();
   to.MGPerform(Method::Deselect);
-  const std::int64_t base = 1 + largestTargetNumber(to);
+  const std::int64_t base = 1 + LargestTargetNumber(to);
   for (const brush& b : clipboard.world()->brushes()) {
-    brush& pasted = to.world()->addobject(copyInto(*to.world(), b, offset));
+    brush& pasted = to.world()->addobject(CopyInto(*to.world(), b, offset));
     pasted.select(true);
     pasted.setGroup(group);
   }
   for (int i = 1; i < clipboard.numentities(); ++i) {
     entity& pasted = to.addobject(clipboard.at(i)->copy(to));
-    renumber(pasted, "targetname", base);
-    renumber(pasted, "target", base);
+    Renumber(pasted, "targetname", base);
+    Renumber(pasted, "target", base);
     for (brush& b : pasted.brushes()) {
       b.select(true);
       b.setGroup(group);
@@ -104,7 +104,7 @@ void CloneSelection(map& m, const vec3& offset) {
   for (int i = 0; i < brushes; ++i) {
     brush& b = *m.world()->at(i);
     if (!b.selected()) continue;
-    brush& clone = m.world()->addobject(copyInto(*m.world(), b, offset));
+    brush& clone = m.world()->addobject(CopyInto(*m.world(), b, offset));
     clone.select(true);
     b.select(false);
     current = m.world();
@@ -113,7 +113,7 @@ void CloneSelection(map& m, const vec3& offset) {
   const int entities = m.numentities();
   for (int i = 1; i < entities; ++i) {
     entity& e = *m.at(i);
-    if (!anySelected(e)) continue;
+    if (!AnySelected(e)) continue;
     last = &m.addobject(e.copy(m));
     for (brush& b : e.brushes()) b.select(false);
     for (brush& b : last->brushes()) {

@@ -3,9 +3,9 @@
 #include <vector>
 
 #include "base/text.h"
+#include "model/visit.h"
 #include "ops/solids/solid.h"
 #include "ops/transform.h"
-#include "model/visit.h"
 
 namespace velk {
 namespace {

@@ -1,8 +1,8 @@
 #include "ops/move_selection.h"
 
+#include "model/visit.h"
 #include "ops/clipboard.h"
 #include "ops/transform.h"
-#include "model/visit.h"
 
 namespace velk {
 

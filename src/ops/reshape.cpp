@@ -82,7 +82,7 @@ face FaceThrough(const vec3& p0, const vec3& p1, const vec3& p2, const texturede
 std::vector<face> SlabFaces(const face& inner, int thickness, const texturedef& texture) {
   const winding& w = *inner.polygon;
   const auto at = [&](int i) { return w[i].position(); };
-  const auto out = [&](int i) { return Rounded(multiplyAdd(at(i), thickness, inner.facePlane.normal)); };
+  const auto out = [&](int i) { return Rounded(MultiplyAdd(at(i), thickness, inner.facePlane.normal)); };
   std::vector<face> faces;
   faces.push_back(FaceThrough(at(0), at(2), at(1), texture));
   faces.push_back(FaceThrough(out(0), out(1), out(2), texture));

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/text.h"
-#include "ops/solids/solid.h"
 #include "model/visit.h"
+#include "ops/solids/solid.h"
 
 namespace velk {
 namespace {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "base/text.h"
-#include "ops/solids/split_by_face.h"
 #include "model/visit.h"
+#include "ops/solids/split_by_face.h"
 
 namespace velk {
 namespace {

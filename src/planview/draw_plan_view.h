@@ -24,6 +24,6 @@ struct PlanScene {
 };
 
 // Draws the whole view, header strip included, in its client size.
-void drawPlanView(Canvas& canvas, const PlanScene& scene, int view);
+void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view);
 
 }  // namespace velk

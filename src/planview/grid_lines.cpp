@@ -26,7 +26,7 @@ GridRange RangeAround(double centre, double halfExtent, int gridSize, long long 
 
 }  // namespace
 
-GridLevels gridLevels(int gridSize, double scale) {
+GridLevels LevelsOfGrid(int gridSize, double scale) {
   GridLevels levels;
   levels.major = std::max<long long>(kSmallestMajor, Truncate(gridSize / scale));
   levels.showMinor = gridSize >= kMinLineDistance / scale;
@@ -34,11 +34,11 @@ GridLevels gridLevels(int gridSize, double scale) {
   return levels;
 }
 
-GridRange gridRangeU(const PlanProjection& projection, int gridSize, long long step) {
+GridRange GridRangeU(const PlanProjection& projection, int gridSize, long long step) {
   return RangeAround(projection.centreU, projection.width * 0.5 / projection.scale, gridSize, step);
 }
 
-GridRange gridRangeV(const PlanProjection& projection, int gridSize, long long step) {
+GridRange GridRangeV(const PlanProjection& projection, int gridSize, long long step) {
   return RangeAround(projection.centreV, projection.height * 0.5 / projection.scale, gridSize, step);
 }
 

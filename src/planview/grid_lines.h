@@ -23,10 +23,10 @@ struct GridLevels {
   bool isMinorLine(long long position) const { return (position & (major - 1)) != 0; }
 };
 
-GridLevels gridLevels(int gridSize, double scale);
+GridLevels LevelsOfGrid(int gridSize, double scale);
 
 // The multiples of `step` within the view and one grid step beyond, along its axisU or its axisV.
-GridRange gridRangeU(const PlanProjection& projection, int gridSize, long long step);
-GridRange gridRangeV(const PlanProjection& projection, int gridSize, long long step);
+GridRange GridRangeU(const PlanProjection& projection, int gridSize, long long step);
+GridRange GridRangeV(const PlanProjection& projection, int gridSize, long long step);
 
 }  // namespace velk

@@ -51,7 +51,7 @@ std::string Fitted(const Canvas& canvas, const std::string& text, int width) {
 
 }  // namespace
 
-std::vector<StripSlot> layoutStrip(int width) {
+std::vector<StripSlot> LayoutStrip(int width) {
   std::vector<StripSlot> slots;
   int left = 0;
   for (const FieldWidth& field : kFields) {
@@ -62,57 +62,57 @@ std::vector<StripSlot> layoutStrip(int width) {
   return slots;
 }
 
-std::optional<StripField> stripFieldAt(int width, Pixel at) {
-  for (const StripSlot& slot : layoutStrip(width)) {
+std::optional<StripField> StripFieldAt(int width, Pixel at) {
+  for (const StripSlot& slot : LayoutStrip(width)) {
     if (Contains(slot.rect, at)) return slot.field;
   }
   return std::nullopt;
 }
 
-std::optional<StripMenu> stripMenu(StripField field, const Settings& settings, const map* m) {
+std::optional<StripMenu> MenuOfStrip(StripField field, const Settings& settings, const map* m) {
   switch (field) {
     case StripField::Grid:
-      return StripMenu{{0, kMenuTop}, gridMenu(settings)};
+      return StripMenu{{0, kMenuTop}, GridMenu(settings)};
     case StripField::Scale:
-      return StripMenu{{kScaleMenuLeft, kMenuTop}, scaleMenu(settings)};
+      return StripMenu{{kScaleMenuLeft, kMenuTop}, ScaleMenu(settings)};
     case StripField::Camera:
-      return StripMenu{{kCameraLeft, kMenuTop}, cameraMenu(settings, m)};
+      return StripMenu{{kCameraLeft, kMenuTop}, CameraMenu(settings, m)};
     default:
       return std::nullopt;
   }
 }
 
-std::string stripText(StripField field, const PlanView& view, const Settings& settings, const map* m,
+std::string StripText(StripField field, const PlanView& view, const Settings& settings, const map* m,
                       const std::string& groupName) {
   switch (field) {
     case StripField::Grid:
-      return gridText(settings);
+      return GridText(settings);
     case StripField::Scale:
       return formatScale(settings.scale);
     case StripField::Direction:
-      return directionText(view);
+      return DirectionText(view);
     case StripField::Camera:
-      return m ? cameraText(*m) : "";
+      return m ? CameraText(*m) : "";
     case StripField::Coordinate:
       return view.coordinateText;
     case StripField::Delta:
       return view.deltaText;
     case StripField::DepthRange:
-      return m ? depthRangeText(view, *m) : "";
+      return m ? DepthRangeText(view, *m) : "";
     case StripField::Group:
       return m ? groupName : "";
   }
   return "";
 }
 
-void drawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& settings, const map* m,
+void DrawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& settings, const map* m,
                      const std::string& groupName, const StripColours& colours) {
   const Colour divider = Mix(colours.face, colours.text, 25);
   canvas.fill({0, 0, view.clientWidth, kStripHeight}, colours.face);
   canvas.fill({0, kStripHeight - 1, view.clientWidth, 1}, divider);
-  for (const StripSlot& slot : layoutStrip(view.clientWidth)) {
+  for (const StripSlot& slot : LayoutStrip(view.clientWidth)) {
     canvas.fill({slot.rect.left + slot.rect.width - 1, 3, 1, kStripHeight - 7}, divider);
-    std::string text = stripText(slot.field, view, settings, m, groupName);
+    std::string text = StripText(slot.field, view, settings, m, groupName);
     text.erase(0, text.find_first_not_of(' '));  // numbers are padded for the caption
     text = Fitted(canvas, text, slot.rect.width - kTextLeft - kTextRight);
     const int top = (kStripHeight - 1 - kTextHeight) / 2;

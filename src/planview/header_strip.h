@@ -27,10 +27,10 @@ struct StripSlot {
 };
 
 // The fields that fit whole into a view of that width, left to right, most important first.
-std::vector<StripSlot> layoutStrip(int width);
+std::vector<StripSlot> LayoutStrip(int width);
 
 // The field at a pixel of the view, if any.
-std::optional<StripField> stripFieldAt(int width, Pixel at);
+std::optional<StripField> StripFieldAt(int width, Pixel at);
 
 // The menu that a click on the field opens, and where its top left corner goes, in pixels of the view.
 // None for a field without a menu.
@@ -38,13 +38,13 @@ struct StripMenu {
   Pixel at;
   std::vector<ViewMenuItem> items;
 };
-std::optional<StripMenu> stripMenu(StripField field, const Settings& settings, const map* m);
+std::optional<StripMenu> MenuOfStrip(StripField field, const Settings& settings, const map* m);
 
 // The text of a field; empty without a map where it needs one.
-std::string stripText(StripField field, const PlanView& view, const Settings& settings, const map* m,
+std::string StripText(StripField field, const PlanView& view, const Settings& settings, const map* m,
                       const std::string& groupName);
 
-void drawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& settings, const map* m,
+void DrawHeaderStrip(Canvas& canvas, const PlanView& view, const Settings& settings, const map* m,
                      const std::string& groupName, const StripColours& colours);
 
 }  // namespace velk

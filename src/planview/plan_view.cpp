@@ -60,26 +60,26 @@ std::string formatScale(double scale) {
   return Format("%5.1f%%", scale * 100);
 }
 
-std::string gridText(const Settings& settings) { return Format("%i", settings.gridsize); }
+std::string GridText(const Settings& settings) { return Format("%i", settings.gridsize); }
 
-std::string captionText(const PlanView& view, const Settings& settings) {
+std::string CaptionText(const PlanView& view, const Settings& settings) {
   const Title& title = TitleOf(view);
-  return Format("%s - %s View - [Grid %s / Scale %s]", title.side, title.plane, gridText(settings).c_str(),
+  return Format("%s - %s View - [Grid %s / Scale %s]", title.side, title.plane, GridText(settings).c_str(),
                 formatScale(settings.scale).c_str());
 }
 
-std::string directionText(const PlanView& view) { return TitleOf(view).direction; }
+std::string DirectionText(const PlanView& view) { return TitleOf(view).direction; }
 
-std::string cameraText(const map& m) { return Format("C(%i)", m.currentCamera + 1); }
+std::string CameraText(const map& m) { return Format("C(%i)", m.currentCamera + 1); }
 
-std::string coordinateText(ViewPoint at, const Settings& settings) {
+std::string CoordinateText(ViewPoint at, const Settings& settings) {
   if (settings.show_grid) at = snapToGrid(at, settings);
   return Format("(%i,%i)", Truncate(at.u), Truncate(at.v));
 }
 
-std::string deltaText(ViewPoint delta) { return Format("D(%i,%i)", Truncate(delta.u), Truncate(delta.v)); }
+std::string DeltaText(ViewPoint delta) { return Format("D(%i,%i)", Truncate(delta.u), Truncate(delta.v)); }
 
-std::string depthRangeText(const PlanView& view, const map& m) {
+std::string DepthRangeText(const PlanView& view, const map& m) {
   const double low = m.workLow()[view.axisDepth];
   const double high = m.workHigh()[view.axisDepth];
   return Format("%5.1f %5.1f %5.1f", low, high, high - low);
@@ -97,13 +97,13 @@ bool setPlanCenter(PlanViewSet& set, const map* m, const vec3& p, bool locked) {
   return true;
 }
 
-std::string switchMapView(PlanViewSet& set) {
+std::string SwitchMapView(PlanViewSet& set) {
   PlanView& view = set.currentView();
   view.setOrientation(static_cast<Orientation>((view.orientation + 1) % 3));
   return "Map View Toggled...";
 }
 
-vec3 nudgeOffset(const PlanView& view, Nudge direction, const Settings& settings) {
+vec3 NudgeOffset(const PlanView& view, Nudge direction, const Settings& settings) {
   const int axes[] = {view.axisV, view.axisV, view.axisU, view.axisU, view.axisDepth, view.axisDepth};
   const bool positive = direction == Nudge::Up || direction == Nudge::Right || direction == Nudge::Out;
   vec3 offset;
@@ -111,7 +111,7 @@ vec3 nudgeOffset(const PlanView& view, Nudge direction, const Settings& settings
   return offset;
 }
 
-const char* nudgeText(Nudge direction) {
+const char* NudgeText(Nudge direction) {
   static constexpr const char* kTexts[] = {"Selection moved down...", "Selection moved up...",
                                            "Selection moved left...", "Selection moved right...",
                                            "Selection moved in...",   "Selection moved out..."};

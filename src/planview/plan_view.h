@@ -81,19 +81,19 @@ inline constexpr const char* kInitialCaption = "Map View";
 
 // "1/16" or " 50.0%".
 std::string formatScale(double scale);
-std::string gridText(const Settings& settings);
+std::string GridText(const Settings& settings);
 // "Top   - XY View - [Grid 8 / Scale 100.0%]"
-std::string captionText(const PlanView& view, const Settings& settings);
+std::string CaptionText(const PlanView& view, const Settings& settings);
 // "Up", "Down", "Left"...
-std::string directionText(const PlanView& view);
+std::string DirectionText(const PlanView& view);
 // "C(1)" for the first camera.
-std::string cameraText(const map& m);
+std::string CameraText(const map& m);
 // The position as the coordinate field shows it: snapped while the grid is shown, else truncated.
-std::string coordinateText(ViewPoint at, const Settings& settings);
+std::string CoordinateText(ViewPoint at, const Settings& settings);
 // "D(64,-8)", truncated.
-std::string deltaText(ViewPoint delta);
+std::string DeltaText(ViewPoint delta);
 // The depth that new brushes get in the view: low, high and their difference.
-std::string depthRangeText(const PlanView& view, const map& m);
+std::string DepthRangeText(const PlanView& view, const map& m);
 
 // Nearest multiple of the grid size, halves away from zero.
 int snapToGrid(double value, const Settings& settings);
@@ -104,11 +104,11 @@ ViewPoint snapToGrid(ViewPoint at, const Settings& settings);
 bool setPlanCenter(PlanViewSet& set, const map* m, const vec3& p, bool locked);
 
 // The current view turns to its next orientation (XY, YZ, XZ, XY). Returns the status text.
-std::string switchMapView(PlanViewSet& set);
+std::string SwitchMapView(PlanViewSet& set);
 
 // The offset of one grid step that nudges the selection in a view's terms.
 enum class Nudge { Down, Up, Left, Right, In, Out };
-vec3 nudgeOffset(const PlanView& view, Nudge direction, const Settings& settings);
-const char* nudgeText(Nudge direction);
+vec3 NudgeOffset(const PlanView& view, Nudge direction, const Settings& settings);
+const char* NudgeText(Nudge direction);
 
 }  // namespace velk

@@ -40,7 +40,7 @@ int ClipAgainst(Pixel (&corners)[kMaxClipped], int count, int border) {
 
 }  // namespace
 
-int clipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect) {
+int ClipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect) {
   bool beyondLeft = false, beyondRight = false, beyondTop = false, beyondBottom = false;
   for (int i = 0; i < count; ++i) {
     beyondLeft |= corners[i].x < rect.left;
@@ -91,7 +91,7 @@ double ViewPainter::markerSize() const {
 }
 
 void ViewPainter::drawCorners(const Pen& pen, int count) {
-  count = clipPolygon(corners_, count, clip_);
+  count = ClipPolygon(corners_, count, clip_);
   if (count >= 2) canvas.devicePolygon(pen, {corners_, static_cast<size_t>(count)});
 }
 

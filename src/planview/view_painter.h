@@ -17,7 +17,7 @@ struct ClipRect {
 // Clips a polygon of at most WINDING_MAX_POINTS corners (Sutherland-Hodgman, new corners by linear
 // interpolation, truncated). The result lies in `corners`, which has room for 4 more.
 inline constexpr int kMaxClipped = WINDING_MAX_POINTS + 4;
-int clipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect);
+int ClipPolygon(Pixel (&corners)[kMaxClipped], int count, const ClipRect& rect);
 
 class ViewPainter {
  public:
@@ -65,15 +65,15 @@ class ViewPainter {
   Pixel corners_[kMaxClipped];
 };
 
-void drawGrid(ViewPainter& painter);
-void drawBrushes(ViewPainter& painter);
-void drawNames(ViewPainter& painter);
-void drawHits(ViewPainter& painter);
-void drawClipPoints(ViewPainter& painter);
-void drawCameras(ViewPainter& painter);
-void drawEyeMarker(ViewPainter& painter);
-void drawLeakPoints(ViewPainter& painter);
-void drawConnections(ViewPainter& painter);
+void DrawGrid(ViewPainter& painter);
+void DrawBrushes(ViewPainter& painter);
+void DrawNames(ViewPainter& painter);
+void DrawHits(ViewPainter& painter);
+void DrawClipPoints(ViewPainter& painter);
+void DrawCameras(ViewPainter& painter);
+void DrawEyeMarker(ViewPainter& painter);
+void DrawLeakPoints(ViewPainter& painter);
+void DrawConnections(ViewPainter& painter);
 
 // An arrow of a camera marker's shape, L pixels long, in the direction `b` (radians, clockwise from the
 // right on the screen). Returns its tip.
@@ -81,6 +81,6 @@ struct ArrowTip {
   double x = 0;
   double y = 0;
 };
-ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length);
+ArrowTip DrawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length);
 
 }  // namespace velk

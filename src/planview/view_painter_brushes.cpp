@@ -17,15 +17,15 @@ constexpr int kNameBelow = 3;        // pixels under the corner of the brush
 constexpr int kLongestName = 2000;   // pixels; names that begin farther outside cannot reach the view
 constexpr int kIndexHeight = 12;     // of the numbers of hit brushes
 
-int channel(float value) { return std::clamp(Truncate(double(value) * 255), 0, 255); }
+int Channel(float value) { return std::clamp(Truncate(double(value) * 255), 0, 255); }
 
-Colour classColour(const brush& b) {
-  return {channel(b.color().x), channel(b.color().y), channel(b.color().z)};
+Colour ClassColour(const brush& b) {
+  return {Channel(b.color().x), Channel(b.color().y), Channel(b.color().z)};
 }
 
-vec3 middle(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
+vec3 Middle(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
 
-const brush* firstShownBrush(const map& m, const entity& e) {
+const brush* FirstShownBrush(const map& m, const entity& e) {
   const brush* first = e.isWorld() ? nullptr : e.at(0);
   return first && IsShown(m, *first) ? first : nullptr;
 }
@@ -71,7 +71,7 @@ class BrushPainter {
       return {p_.settings.groupmode ? map_.groups.colour(b.group()) : colours.fgcolor, 1};
     }
     if (!worldIsCurrent_) return {colours.color_otherbrush, 1};
-    return {classColour(b), 1};
+    return {ClassColour(b), 1};
   }
 
   void drawTurnedFaces(const brush& b, const Pen& pen) {
@@ -98,15 +98,15 @@ class BrushPainter {
 
   // The arrow of an entity's "angle" on its first brush.
   void drawAngle(const entity& e) {
-    const brush* first = firstShownBrush(map_, e);
+    const brush* first = FirstShownBrush(map_, e);
     if (!first) return;
     const std::string& angle = e.valueOfKey("angle");
     if (angle.empty()) return;
     const double a = TextToDouble(angle) * (1.0 / 180) * std::numbers::pi;
-    const Pixel origin = p_.projection.worldToScreen(middle(*first));
+    const Pixel origin = p_.projection.worldToScreen(Middle(*first));
     const double size = p_.markerSize();
     if (!(a >= 0 && std::isfinite(a)) || !p_.inView(origin, Truncate(size) + 1)) return;
-    drawArrow(p_.canvas, {penOf(e, *first).colour, 1}, origin, -a, size);
+    DrawArrow(p_.canvas, {penOf(e, *first).colour, 1}, origin, -a, size);
   }
 
   ViewPainter& p_;
@@ -119,12 +119,12 @@ class BrushPainter {
 
 }  // namespace
 
-void drawBrushes(ViewPainter& painter) { BrushPainter(painter).draw(); }
+void DrawBrushes(ViewPainter& painter) { BrushPainter(painter).draw(); }
 
-void drawNames(ViewPainter& painter) {
+void DrawNames(ViewPainter& painter) {
   const int height = std::clamp(Truncate(12 * painter.projection.scale), 7, 18);
   for (const entity& e : painter.scene.shown->entities()) {
-    const brush* first = firstShownBrush(*painter.scene.shown, e);
+    const brush* first = FirstShownBrush(*painter.scene.shown, e);
     if (!first || !painter.sees(first->mins, first->maxs)) continue;
     Pixel at = painter.projection.worldToScreen(first->mins);
     if (!painter.inView(at, kLongestName)) continue;
@@ -134,7 +134,7 @@ void drawNames(ViewPainter& painter) {
   }
 }
 
-void drawHits(ViewPainter& painter) {
+void DrawHits(ViewPainter& painter) {
   const map& m = *painter.scene.shown;
   const Pen pen{painter.colours.color_hitcolor, 1};
   for (int i = 0; i < m.hits.count; ++i) {
@@ -143,26 +143,26 @@ void drawHits(ViewPainter& painter) {
     for (const face& f : hit->faces()) {
       if (f.polygon) painter.outline(pen, f.polygon->points(), f.polygon->count);
     }
-    const Pixel at = painter.projection.worldToScreen(middle(*hit));
+    const Pixel at = painter.projection.worldToScreen(Middle(*hit));
     if (!painter.inView(at)) continue;
     painter.canvas.text(Format("%i", i), at, kIndexHeight, painter.colours.color_hitcolor,
                         &painter.colours.bgcolor);
   }
 }
 
-void drawConnections(ViewPainter& painter) {
+void DrawConnections(ViewPainter& painter) {
   const map& m = *painter.scene.shown;
   std::unordered_multimap<std::string_view, const brush*> byName;
   for (const entity& e : m.entities()) {
-    const brush* first = firstShownBrush(m, e);
+    const brush* first = FirstShownBrush(m, e);
     if (first && !e.valueOfKey("targetname").empty()) byName.emplace(e.valueOfKey("targetname"), first);
   }
   for (const entity& e : m.entities()) {
-    const brush* first = firstShownBrush(m, e);
+    const brush* first = FirstShownBrush(m, e);
     if (!first || e.valueOfKey("target").empty()) continue;
     const auto [begin, end] = byName.equal_range(e.valueOfKey("target"));
     for (auto it = begin; it != end; ++it) {
-      const vec3 ends[] = {middle(*first), middle(*it->second)};
+      const vec3 ends[] = {Middle(*first), Middle(*it->second)};
       painter.outline({painter.colours.color_connection, 1}, ends, 2);
     }
   }

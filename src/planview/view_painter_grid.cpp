@@ -16,7 +16,7 @@ constexpr int kLabelGap = 4;           // between labels of vertical lines
 class GridPainter {
  public:
   explicit GridPainter(ViewPainter& painter)
-      : p_(painter), levels_(gridLevels(p_.settings.gridsize, p_.projection.scale)) {}
+      : p_(painter), levels_(LevelsOfGrid(p_.settings.gridsize, p_.projection.scale)) {}
 
   void draw() {
     const bool dots = p_.settings.grid_style != 0;
@@ -33,8 +33,8 @@ class GridPainter {
   }
 
  private:
-  GridRange rangeU(long long step) const { return gridRangeU(p_.projection, p_.settings.gridsize, step); }
-  GridRange rangeV(long long step) const { return gridRangeV(p_.projection, p_.settings.gridsize, step); }
+  GridRange rangeU(long long step) const { return GridRangeU(p_.projection, p_.settings.gridsize, step); }
+  GridRange rangeV(long long step) const { return GridRangeV(p_.projection, p_.settings.gridsize, step); }
 
   void minorLines() {
     const GridRange u = rangeU(p_.settings.gridsize), v = rangeV(p_.settings.gridsize);
@@ -106,6 +106,6 @@ class GridPainter {
 
 }  // namespace
 
-void drawGrid(ViewPainter& painter) { GridPainter(painter).draw(); }
+void DrawGrid(ViewPainter& painter) { GridPainter(painter).draw(); }
 
 }  // namespace velk

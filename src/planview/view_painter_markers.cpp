@@ -56,7 +56,7 @@ void DrawCamera(ViewPainter& painter, int index) {
   DrawSquare(painter.canvas, square, colour, painter.colours.bgcolor);
   if (painter.view.orientation == kOrientationXY) {
     const double b = std::numbers::pi / 2 - eye.yaw;
-    const ArrowTip tip = drawArrow(painter.canvas, {colour, 1}, at, b, length);
+    const ArrowTip tip = DrawArrow(painter.canvas, {colour, 1}, at, b, length);
     DrawDots(painter.canvas, colour, tip, b, length, dots);
   }
   if (painter.projection.scale > kNumbersAbove) {
@@ -69,7 +69,7 @@ void DrawCamera(ViewPainter& painter, int index) {
 
 }  // namespace
 
-ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length) {
+ArrowTip DrawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, double length) {
   const double baseX = origin.x - 0.3 * length * std::cos(b), baseY = origin.y - 0.3 * length * std::sin(b);
   const auto from = [&](double angle, double distance) {
     return NearestPixel(baseX + distance * std::cos(angle), baseY + distance * std::sin(angle));
@@ -81,11 +81,11 @@ ArrowTip drawArrow(Canvas& canvas, const Pen& pen, Pixel origin, double b, doubl
   return {baseX + length * std::cos(b), baseY + length * std::sin(b)};
 }
 
-void drawCameras(ViewPainter& painter) {
+void DrawCameras(ViewPainter& painter) {
   for (int i = kCameras - 1; i >= 0; --i) DrawCamera(painter, i);
 }
 
-void drawClipPoints(ViewPainter& painter) {
+void DrawClipPoints(ViewPainter& painter) {
   const clipper& clip = painter.scene.shown->clip;
   for (int i = 0; i < std::min(clip.count, 3); ++i) {
     const Pixel at = painter.projection.worldToScreen(clip.points[i]);
@@ -100,7 +100,7 @@ void drawClipPoints(ViewPainter& painter) {
   }
 }
 
-void drawEyeMarker(ViewPainter& painter) {
+void DrawEyeMarker(ViewPainter& painter) {
   const int left = Truncate(painter.projection.width * 0.5 - 2);
   const int top = Truncate(painter.projection.height * 0.5 - 2);
   const Pixel corners[] = {{left, top}, {left + 3, top}, {left + 3, top + 3}, {left, top + 3}};
@@ -108,7 +108,7 @@ void drawEyeMarker(ViewPainter& painter) {
 }
 
 // Small crosses.
-void drawLeakPoints(ViewPainter& painter) {
+void DrawLeakPoints(ViewPainter& painter) {
   std::vector<Pixel> marks;
   for (const vec3& point : painter.scene.leakPoints) {
     const Pixel at = painter.projection.worldToScreen(point);

@@ -18,56 +18,56 @@ const ViewMenuItem kSeparator{"", "", false, true};
 
 }  // namespace
 
-std::string setScalePreset(Settings& settings, int preset) {
+std::string SetScalePreset(Settings& settings, int preset) {
   const ScalePreset& chosen = kScalePresets[static_cast<size_t>(preset)];
   settings.scale = chosen.scale;
   return Format("Scale set to %s", chosen.name);
 }
 
-std::string scaleUp(Settings& settings) {
+std::string ScaleUp(Settings& settings) {
   settings.scale = float(std::min(settings.scale * 2.0, kMaxScale));
   return "Scale increased...";
 }
 
-std::string scaleDown(Settings& settings) {
+std::string ScaleDown(Settings& settings) {
   settings.scale = float(std::max(settings.scale * 0.5, kMinScale));
   return "Scale decreased...";
 }
 
-std::optional<std::string> setScalePercent(Settings& settings, std::string_view text) {
+std::optional<std::string> SetScalePercent(Settings& settings, std::string_view text) {
   if (text.empty()) return std::nullopt;
   settings.scale = float(0.01 * std::clamp(TextToDouble(text), 1.0, 1600.0));
   return Format("Scale set to %5.1f...", settings.scale);
 }
 
-std::string scalePercentText(const Settings& settings) { return Format("%5.1f", settings.scale * 100.0); }
+std::string ScalePercentText(const Settings& settings) { return Format("%5.1f", settings.scale * 100.0); }
 
-std::string setGridPreset(Settings& settings, int preset) {
+std::string SetGridPreset(Settings& settings, int preset) {
   settings.gridsize = kGridPresets[static_cast<size_t>(preset)];
   return Format("Grid set to %i", settings.gridsize);
 }
 
-std::string gridUp(Settings& settings) {
+std::string GridUp(Settings& settings) {
   if (settings.gridsize <= kLargestGrid / 2) settings.gridsize *= 2;
   return "Grid increased...";
 }
 
-std::string gridDown(Settings& settings) {
+std::string GridDown(Settings& settings) {
   if (settings.gridsize >= 2) settings.gridsize /= 2;
   return "Grid decreased...";
 }
 
-std::string toggleGrid(Settings& settings) {
+std::string ToggleGrid(Settings& settings) {
   settings.show_grid = !settings.show_grid;
   return "Grid toggled...";
 }
 
-std::string toggleGridStyle(Settings& settings) {
+std::string ToggleGridStyle(Settings& settings) {
   settings.grid_style = settings.grid_style ? 0 : 1;
   return "Grid style toggled";
 }
 
-std::vector<ViewMenuItem> gridMenu(const Settings& settings) {
+std::vector<ViewMenuItem> GridMenu(const Settings& settings) {
   std::vector<ViewMenuItem> items;
   int command = kFirstGridCommand;
   for (int size : kGridPresets) {
@@ -78,7 +78,7 @@ std::vector<ViewMenuItem> gridMenu(const Settings& settings) {
   return items;
 }
 
-std::vector<ViewMenuItem> scaleMenu(const Settings& settings) {
+std::vector<ViewMenuItem> ScaleMenu(const Settings& settings) {
   std::vector<ViewMenuItem> items;
   int command = kFirstScaleCommand;
   for (const ScalePreset& preset : kScalePresets) {
@@ -89,7 +89,7 @@ std::vector<ViewMenuItem> scaleMenu(const Settings& settings) {
   return items;
 }
 
-std::vector<ViewMenuItem> cameraMenu(const Settings& settings, const map* m) {
+std::vector<ViewMenuItem> CameraMenu(const Settings& settings, const map* m) {
   std::vector<ViewMenuItem> items;
   for (int i = 0; i < kCameras; ++i) {
     items.push_back({Format("Camera %i", i + 1), Format("CM_CAMERA_%i", i + 1), m && m->currentCamera == i});

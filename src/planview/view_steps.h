@@ -35,23 +35,23 @@ inline constexpr std::array<ScalePreset, 11> kScalePresets{{{0.015625f, "1/64", 
 inline constexpr std::array<int, 9> kGridPresets{1, 2, 4, 8, 16, 32, 64, 128, 256};
 
 // preset: index into kScalePresets.
-std::string setScalePreset(Settings& settings, int preset);
-std::string scaleUp(Settings& settings);
-std::string scaleDown(Settings& settings);
+std::string SetScalePreset(Settings& settings, int preset);
+std::string ScaleUp(Settings& settings);
+std::string ScaleDown(Settings& settings);
 // The percentage typed into the "other scale" box, limited to 1..1600. Empty text changes nothing and
 // gives no status.
-std::optional<std::string> setScalePercent(Settings& settings, std::string_view text);
+std::optional<std::string> SetScalePercent(Settings& settings, std::string_view text);
 // The preset text of that box.
-std::string scalePercentText(const Settings& settings);
+std::string ScalePercentText(const Settings& settings);
 inline constexpr const char* kOtherScaleTitle = "Set set->scale...";
 inline constexpr const char* kOtherScalePrompt = "Enter new set->scale %...(1 to 1600";
 
 // preset: index into kGridPresets.
-std::string setGridPreset(Settings& settings, int preset);
-std::string gridUp(Settings& settings);
-std::string gridDown(Settings& settings);
-std::string toggleGrid(Settings& settings);
-std::string toggleGridStyle(Settings& settings);
+std::string SetGridPreset(Settings& settings, int preset);
+std::string GridUp(Settings& settings);
+std::string GridDown(Settings& settings);
+std::string ToggleGrid(Settings& settings);
+std::string ToggleGridStyle(Settings& settings);
 
 // A line of a pop-up menu. `command` is the command's number as text, or its name; a separator has
 // neither label nor command.
@@ -63,10 +63,10 @@ struct ViewMenuItem {
 };
 
 // Commands 550..558 and CM_GRID_STYLE.
-std::vector<ViewMenuItem> gridMenu(const Settings& settings);
+std::vector<ViewMenuItem> GridMenu(const Settings& settings);
 // Commands 580..590 and 300.
-std::vector<ViewMenuItem> scaleMenu(const Settings& settings);
+std::vector<ViewMenuItem> ScaleMenu(const Settings& settings);
 // CM_CAMERA_1..CM_CAMERA_5, CM_SHOW_CAMERAS, CM_LOCK_CAMERAS.
-std::vector<ViewMenuItem> cameraMenu(const Settings& settings, const map* m);
+std::vector<ViewMenuItem> CameraMenu(const Settings& settings, const map* m);
 
 }  // namespace velk

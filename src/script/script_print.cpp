@@ -14,25 +14,25 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-map& openMap(Editor& editor) {
+map& OpenMap(Editor& editor) {
   if (!editor.documents().currentMap()) throw ScriptFailure("no map is open");
   return *editor.documents().currentMap();
 }
 
-brush& currentBrush(Editor& editor) {
-  brush* current = openMap(editor).firstSelected();
+brush& CurrentBrush(Editor& editor) {
+  brush* current = OpenMap(editor).firstSelected();
   if (!current) throw ScriptFailure("no brush is selected");
   return *current;
 }
 
-std::string vectorText(const vec3& v) { return Format("(%g %g %g)", v.x, v.y, v.z); }
+std::string VectorText(const vec3& v) { return Format("(%g %g %g)", v.x, v.y, v.z); }
 
-std::string textureText(const texturedef& t) {
+std::string TextureText(const texturedef& t) {
   return Format("%s %g %g %g %g %g", t.name.c_str(), t.shift[0], t.shift[1], t.rotate, t.scale[0],
                 t.scale[1]);
 }
 
-std::string countsText(const map& m) {
+std::string CountsText(const map& m) {
   int faces = 0;
   int invalid = 0;
   for (const entity& e : m.entities()) {
@@ -45,93 +45,93 @@ std::string countsText(const map& m) {
                 faces, invalid, m.totalSelected());
 }
 
-std::string currentText(map& m) {
+std::string CurrentText(map& m) {
   const entity* current = m.currentEntity();
   return current ? Format("%d %s", m.indexOf(current), current->valueOfKey("classname").c_str()) : "none";
 }
 
-Lines selectionLines(const map& m) {
+Lines SelectionLines(const map& m) {
   Lines lines;
   for (const entity& e : m.entities()) {
     for (const brush& b : e.brushes()) {
       if (!b.selected()) continue;
-      lines.push_back(Format("%d %d %s %s %d %s", m.indexOf(&e), e.indexOf(&b), vectorText(b.mins).c_str(),
-                             vectorText(b.maxs).c_str(), b.numfaces(), b.brushTexture().name.c_str()));
+      lines.push_back(Format("%d %d %s %s %d %s", m.indexOf(&e), e.indexOf(&b), VectorText(b.mins).c_str(),
+                             VectorText(b.maxs).c_str(), b.numfaces(), b.brushTexture().name.c_str()));
     }
   }
   return lines;
 }
 
-std::string eyeText(const map& m) {
+std::string EyeText(const map& m) {
   const camera& eye = m.activeCamera();
-  return Format("%d %s %g %g %g", m.currentCamera, vectorText(eye.origin).c_str(), eye.roll, eye.pitch,
+  return Format("%d %s %g %g %g", m.currentCamera, VectorText(eye.origin).c_str(), eye.roll, eye.pitch,
                 eye.yaw);
 }
 
-std::string faceText(const brush& b) {
+std::string FaceText(const brush& b) {
   if (b.currentFace() < 0 || b.currentFace() >= b.numfaces())
     throw ScriptFailure("the brush has no current face");
   return Format("%d %s", b.currentFace(),
-                textureText(b.faces()[static_cast<size_t>(b.currentFace())].texture).c_str());
+                TextureText(b.faces()[static_cast<size_t>(b.currentFace())].texture).c_str());
 }
 
-std::string pickText(Editor& editor, Pixel at) {
-  const map& m = openMap(editor);
+std::string PickText(Editor& editor, Pixel at) {
+  const map& m = OpenMap(editor);
   const FacePick pick = editor.views().pickInCamera(at);
   if (!pick.hit) return "none";
   return Format("%d %d %d", m.indexOf(pick.hit->owner), pick.hit->owner->indexOf(pick.hit), pick.face);
 }
 
-std::string settingText(const Editor& editor, const std::string& key) {
+std::string SettingText(const Editor& editor, const std::string& key) {
   const auto text = SettingText(editor.settings(), key);
   if (!text) throw ScriptFailure("no such setting: " + key);
   return *text;
 }
 
-std::string viewText(const Editor& editor, int view) {
+std::string ViewText(const Editor& editor, int view) {
   const int plan = static_cast<int>(ToolWindow::Plan1) + view;
   return WindowTitle(editor, view == kCameraView ? ToolWindow::Camera : static_cast<ToolWindow>(plan));
 }
 
-const char* orDash(bool is, const char* word) { return is ? word : "-"; }
+const char* OrDash(bool is, const char* word) { return is ? word : "-"; }
 
-std::string menuLine(const Editor& editor, const Command& command) {
+std::string MenuLine(const Editor& editor, const Command& command) {
   const char* check = !command.checked ? "-" : IsChecked(editor, command) ? "checked" : "unchecked";
   const std::string path = (*command.menu ? command.menu + std::string("|") : "") + LabelOf(editor, command);
-  return Format("%d %s %s %s %s %s %s", command.id, orDash(*command.name, command.name),
+  return Format("%d %s %s %s %s %s %s", command.id, OrDash(*command.name, command.name),
                 IsEnabled(editor, command) ? "enabled" : "disabled", check, ScriptQuoted(path).c_str(),
                 ScriptQuoted(command.keyText).c_str(), ScriptQuoted(command.keys).c_str());
 }
 
 // Rows without a menu item stand last in the table.
-Lines menuLines(Editor& editor) {
+Lines MenuLines(Editor& editor) {
   Lines lines;
   for (const Command& command : Commands()) {
-    if (!IsHidden(editor, command)) lines.push_back(menuLine(editor, command));
+    if (!IsHidden(editor, command)) lines.push_back(MenuLine(editor, command));
   }
   return lines;
 }
 
-const char* stateText(ShowState state) {
+const char* StateText(ShowState state) {
   if (state == ShowState::Minimised) return "minimised";
   return state == ShowState::Maximised ? "maximised" : "normal";
 }
 
-Lines windowLines(Editor& editor) {
+Lines WindowLines(Editor& editor) {
   Lines lines;
   for (int i = 0; i < kToolWindows; ++i) {
     const auto window = static_cast<ToolWindow>(i);
     const WindowPlacement placement = editor.windows().windows().placement(window);
     const auto& [left, top, right, bottom] = placement.normal;
     lines.push_back(Format("%s %s (%d %d %d %d) %s", ScriptQuoted(WindowTitle(editor, window)).c_str(),
-                           stateText(placement.state), left, top, right, bottom,
-                           orDash(editor.windows().windows().hasFocus(window), "focus")));
+                           StateText(placement.state), left, top, right, bottom,
+                           OrDash(editor.windows().windows().hasFocus(window), "focus")));
   }
   return lines;
 }
 
-Lines undoLines(Editor& editor) {
-  openMap(editor);
+Lines UndoLines(Editor& editor) {
+  OpenMap(editor);
   const History& history = editor.documents().current()->history;
   Lines lines;
   for (const std::string& name : history.undoNames()) lines.push_back("undo " + ScriptQuoted(name));
@@ -139,7 +139,7 @@ Lines undoLines(Editor& editor) {
   return lines;
 }
 
-Lines groupLines(const map& m) {
+Lines GroupLines(const map& m) {
   struct Count {
     int brushes = 0;
     int selected = 0;
@@ -164,18 +164,18 @@ Lines groupLines(const map& m) {
   return lines;
 }
 
-Lines openMapLines(Editor& editor) {
+Lines OpenMapLines(Editor& editor) {
   Lines lines;
   for (int i = 0; i < editor.documents().count(); ++i) {
     const map& m = editor.documents().at(i)->model;
-    lines.push_back(Format("%d %s %s %s", i, ScriptQuoted(m.name).c_str(), orDash(m.modified, "modified"),
-                           orDash(i == editor.documents().currentIndex(), "current")));
+    lines.push_back(Format("%d %s %s %s", i, ScriptQuoted(m.name).c_str(), OrDash(m.modified, "modified"),
+                           OrDash(i == editor.documents().currentIndex(), "current")));
   }
   return lines;
 }
 
 // The map as it would be saved, with plain line ends.
-Lines mapLines(map& m) {
+Lines MapLines(map& m) {
   Lines lines = Split(MapFileText(m, {}), '\n');
   if (!lines.empty() && lines.back().empty()) lines.pop_back();
   for (std::string& line : lines) {
@@ -188,19 +188,19 @@ using Printer = Lines (*)(Editor&);
 constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
     {"status", [](Editor& e) { return Lines{e.documents().status()}; }},
     {"title", [](Editor& e) { return Lines{FrameTitle(e)}; }},
-    {"counts", [](Editor& e) { return Lines{countsText(openMap(e))}; }},
-    {"current", [](Editor& e) { return Lines{currentText(openMap(e))}; }},
-    {"selection", [](Editor& e) { return selectionLines(openMap(e)); }},
-    {"camera", [](Editor& e) { return Lines{eyeText(openMap(e))}; }},
+    {"counts", [](Editor& e) { return Lines{CountsText(OpenMap(e))}; }},
+    {"current", [](Editor& e) { return Lines{CurrentText(OpenMap(e))}; }},
+    {"selection", [](Editor& e) { return SelectionLines(OpenMap(e)); }},
+    {"camera", [](Editor& e) { return Lines{EyeText(OpenMap(e))}; }},
     {"textures",
-     [](Editor& e) { return openMap(e), Lines{Format("%d", e.documents().current()->textures.count())}; }},
-    {"face", [](Editor& e) { return Lines{faceText(currentBrush(e))}; }},
-    {"groups", [](Editor& e) { return groupLines(openMap(e)); }},
-    {"undo", undoLines},
-    {"maps", openMapLines},
-    {"menu", menuLines},
-    {"windows", windowLines},
-    {"map", [](Editor& e) { return mapLines(openMap(e)); }},
+     [](Editor& e) { return OpenMap(e), Lines{Format("%d", e.documents().current()->textures.count())}; }},
+    {"face", [](Editor& e) { return Lines{FaceText(CurrentBrush(e))}; }},
+    {"groups", [](Editor& e) { return GroupLines(OpenMap(e)); }},
+    {"undo", UndoLines},
+    {"maps", OpenMapLines},
+    {"menu", MenuLines},
+    {"windows", WindowLines},
+    {"map", [](Editor& e) { return MapLines(OpenMap(e)); }},
 }};
 
 std::string TextBeforeTab(const std::string& label) { return label.substr(0, label.find('\t')); }
@@ -219,7 +219,7 @@ Lines ContextMenuLines(Editor& editor, const std::string& name) {
   return lines;
 }
 
-Lines printPlain(Editor& editor, const ScriptPrompts& prompts, const std::string& what) {
+Lines PrintPlain(Editor& editor, const ScriptPrompts& prompts, const std::string& what) {
   for (const auto& [word, printer] : kPrinters) {
     if (EqualNoCase(word, what)) return printer(editor);
   }
@@ -256,14 +256,14 @@ int ScriptNumber(const ScriptWord& word) {
 
 Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vector<ScriptWord>& what) {
   const std::string& word = what[0].text;
-  if (what.size() == 1) return printPlain(editor, prompts, word);
-  if (what.size() == 2 && EqualNoCase(word, "setting")) return {settingText(editor, what[1].text)};
+  if (what.size() == 1) return PrintPlain(editor, prompts, word);
+  if (what.size() == 2 && EqualNoCase(word, "setting")) return {SettingText(editor, what[1].text)};
   if (what.size() == 2 && EqualNoCase(word, "view")) {
-    return {viewText(editor, ScriptViewNamed(what[1].text))};
+    return {ViewText(editor, ScriptViewNamed(what[1].text))};
   }
   if (what.size() == 2 && EqualNoCase(word, "menu")) return ContextMenuLines(editor, what[1].text);
   if (what.size() == 3 && EqualNoCase(word, "pick")) {
-    return {pickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
+    return {PickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
   }
   throw ScriptFailure("nothing to print by that name: " + word);
 }

@@ -16,7 +16,7 @@ struct AnswerWord {
 constexpr std::array<AnswerWord, 4> kAnswerWords{
     {{"yes", Answer::Yes}, {"no", Answer::No}, {"ok", Answer::Ok}, {"cancel", Answer::Cancel}}};
 
-bool hasButton(MessageBox::Buttons buttons, Answer answer) {
+bool HasButton(MessageBox::Buttons buttons, Answer answer) {
   using Buttons = MessageBox::Buttons;
   const bool yesNo = buttons == Buttons::YesNo || buttons == Buttons::YesNoCancel;
   switch (answer) {
@@ -31,23 +31,23 @@ bool hasButton(MessageBox::Buttons buttons, Answer answer) {
   return false;
 }
 
-[[noreturn]] void failPrompt(const char* what, const std::string& caption, const std::string& text) {
+[[noreturn]] void FailPrompt(const char* what, const std::string& caption, const std::string& text) {
   throw ScriptFailure(Format("%s: %s %s", what, ScriptQuoted(caption).c_str(), ScriptQuoted(text).c_str()));
 }
 
-void tellChanged(Form& form) {
+void TellChanged(Form& form) {
   if (form.changed) form.changed(form);
 }
 
 // The value as a user could give it.
-std::string valueFor(const Form& form, const FormField& field, const std::string& given) {
+std::string ValueFor(const Form& form, const FormField& field, const std::string& given) {
   if (field.kind == FormField::Kind::Text) return CutText(given, field.maxLength);
   if (!field.isChosen()) return given;
   const auto same = [&given](const std::string& choice) { return EqualNoCase(choice, given); };
   const auto count = static_cast<int>(field.choices.size());
   const auto named = std::find_if(field.choices.begin(), field.choices.end(), same) - field.choices.begin();
   const int index = named < count ? static_cast<int>(named) : LeadingInt(given).value_or(-1);
-  if (index < 0 || index >= count) failPrompt("no such choice of a field of", form.title, given);
+  if (index < 0 || index >= count) FailPrompt("no such choice of a field of", form.title, given);
   return NumberText(index);
 }
 
@@ -83,7 +83,7 @@ bool ScriptPrompts::Queued::isText() const {
 
 ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& caption,
                                           const std::string& text) {
-  if (answers_.empty()) failPrompt("no answer for the prompt", caption, text);
+  if (answers_.empty()) FailPrompt("no answer for the prompt", caption, text);
   Queued answer = std::move(answers_.front());
   answers_.pop_front();
   std::string words;
@@ -95,10 +95,10 @@ ScriptPrompts::Queued ScriptPrompts::take(const char* kind, const std::string& c
 Answer ScriptPrompts::ask(const MessageBox& box) {
   const Queued given = take("message", box.caption, box.text);
   for (const auto& [word, answer] : kAnswerWords) {
-    if (given.words.size() == 1 && EqualNoCase(given.words[0], word) && hasButton(box.buttons, answer))
+    if (given.words.size() == 1 && EqualNoCase(given.words[0], word) && HasButton(box.buttons, answer))
       return answer;
   }
-  failPrompt("the answer is none of the buttons of", box.caption, box.text);
+  FailPrompt("the answer is none of the buttons of", box.caption, box.text);
 }
 
 std::vector<std::string> ScriptPrompts::chooseFiles(const FileChooser& chooser) {
@@ -106,7 +106,7 @@ std::vector<std::string> ScriptPrompts::chooseFiles(const FileChooser& chooser) 
   Queued given = take(saves ? "save" : "open", chooser.title, chooser.filter);
   if (given.cancels()) return {};
   if (given.words.size() != 1 && chooser.kind != FileChooser::Kind::OpenMany) {
-    failPrompt("more than one file for", chooser.title, chooser.filter);
+    FailPrompt("more than one file for", chooser.title, chooser.filter);
   }
   return given.words;
 }
@@ -122,7 +122,7 @@ std::optional<std::string> ScriptPrompts::input(const TextInput& input) {
 std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) {
   const Queued given = take("colour", chooser.title, "");
   if (given.cancels()) return std::nullopt;
-  if (given.words.size() != 3) failPrompt("not three numbers for the colour", chooser.title, "");
+  if (given.words.size() != 3) FailPrompt("not three numbers for the colour", chooser.title, "");
   const auto channel = [&](size_t i) { return std::clamp(TextToInt(given.words[i]), 0, 255); };
   return Colour{channel(0), channel(1), channel(2)};
 }
@@ -130,16 +130,16 @@ std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) 
 void ScriptPrompts::giveSets(Form& form) {
   for (const auto& [name, value] : std::exchange(sets_, {})) {
     FormField* field = form.find(name);
-    if (!field) failPrompt("no such field in", form.title, name);
-    if (!field->enabled) failPrompt("the field is disabled in", form.title, name);
-    field->value = valueFor(form, *field, value);
-    tellChanged(form);
+    if (!field) FailPrompt("no such field in", form.title, name);
+    if (!field->enabled) FailPrompt("the field is disabled in", form.title, name);
+    field->value = ValueFor(form, *field, value);
+    TellChanged(form);
   }
 }
 
 // A form that its check refuses stays open: it takes the next answer, with the reason as its text.
 std::optional<size_t> ScriptPrompts::accept(Form& form, const std::vector<std::string>& buttons) {
-  tellChanged(form);
+  TellChanged(form);
   std::string reason;
   for (;;) {
     const Queued given = take("form", form.title, reason);
@@ -148,8 +148,8 @@ std::optional<size_t> ScriptPrompts::accept(Form& form, const std::vector<std::s
     const auto button = std::find_if(buttons.begin(), buttons.end(), [&given](const std::string& label) {
       return given.words.size() == 1 && EqualNoCase(given.words[0], label);
     });
-    if (button == buttons.end()) failPrompt("the answer is none of the buttons of", form.title, "");
-    if (!form.complete) failPrompt("not all that it needs is filled in", form.title, "");
+    if (button == buttons.end()) FailPrompt("the answer is none of the buttons of", form.title, "");
+    if (!form.complete) FailPrompt("not all that it needs is filled in", form.title, "");
     const auto refusal = form.check ? form.check(form) : std::nullopt;
     if (!refusal) return static_cast<size_t>(button - buttons.begin());
     reason = refusal->text;

@@ -24,21 +24,21 @@ struct ScriptLine {
 };
 
 // Adds the lines read to `lines`, also when the text turns out to be malformed.
-void readLines(Tokenizer& tokens, std::vector<ScriptLine>& lines) {
+void ReadLines(Tokenizer& tokens, std::vector<ScriptLine>& lines) {
   while (tokens.GetScriptToken(true)) {
     if (lines.empty() || lines.back().number != tokens.line()) lines.push_back({tokens.line(), {}});
     lines.back().words.push_back({std::string(tokens.token()), tokens.quoted()});
   }
 }
 
-MouseButton button(const ScriptWord& word) {
+MouseButton Button(const ScriptWord& word) {
   if (EqualNoCase(word.text, "LEFT")) return MouseButton::Left;
   if (EqualNoCase(word.text, "MIDDLE")) return MouseButton::Middle;
   if (EqualNoCase(word.text, "RIGHT")) return MouseButton::Right;
   throw ScriptFailure("no such mouse button: " + word.text);
 }
 
-void setModifier(PointerEvent& event, const ScriptWord& word) {
+void SetModifier(PointerEvent& event, const ScriptWord& word) {
   if (EqualNoCase(word.text, "SHIFT")) {
     event.shift = true;
   } else if (EqualNoCase(word.text, "CTRL")) {
@@ -69,7 +69,7 @@ struct ScriptRunner::Instruction {
 };
 
 const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
-  static const std::vector<Instruction> all{
+  static const std::vector<Instruction> kAll{
       {"answer", 1, 99, "answer TEXT", &ScriptRunner::answer},
       {"set", 2, 99, "set FIELD VALUE", &ScriptRunner::set},
       {"key", 1, 1, "key TEXT", &ScriptRunner::key},
@@ -87,14 +87,14 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"tick", 0, 0, "tick", &ScriptRunner::tick},
       {"rescue", 0, 0, "rescue", &ScriptRunner::rescue},
   };
-  return all;
+  return kAll;
 }
 
 ScriptResult ScriptRunner::run(std::string_view text, const Start& start) {
   std::vector<ScriptLine> lines;
   Tokenizer tokens(text);
   // What is wrong with a script's words is the script's failure, not the editor's.
-  const auto wrong = editor_.door().trapped([&] { readLines(tokens, lines); });
+  const auto wrong = editor_.door().trapped([&] { ReadLines(tokens, lines); });
   if (wrong) return {false, tokens.line(), *wrong};
   auto line = lines.begin();
   int number = 0;
@@ -182,9 +182,9 @@ void ScriptRunner::size(const Words& words) {
 void ScriptRunner::press(const Words& words) {
   const int view = ScriptViewNamed(words[0].text);
   held_ = {};
-  held_.button = button(words[1]);
+  held_.button = Button(words[1]);
   held_.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
-  for (size_t i = 4; i < words.size(); ++i) setModifier(held_, words[i]);
+  for (size_t i = 4; i < words.size(); ++i) SetModifier(held_, words[i]);
   editor_.input().press(view, held_);
 }
 

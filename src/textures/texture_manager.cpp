@@ -48,7 +48,7 @@ Wad& TextureManager::openWad(const std::string& name, const WadProgressSink& pro
   if (found != wads_.end()) return **found;
   std::unique_ptr<Wad> wad(new (std::nothrow) Wad);
   if (!wad) Error("Couldn't allocate Wad in NewMap");
-  loadWad(*wad, name, services_, random_, progress);
+  LoadWad(*wad, name, services_, random_, progress);
   wads_.push_front(std::move(wad));
   return *wads_.front();
 }
@@ -60,7 +60,7 @@ int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& 
   const size_t before = wads_.size();
   std::vector<Wad*> wads;
   for (const std::string& name : names) wads.push_back(&openWad(name, progress));
-  buildMapTextures(m, set, std::move(wads));
+  BuildMapTextures(m, set, std::move(wads));
   return static_cast<int>(wads_.size() - before);
 }
 

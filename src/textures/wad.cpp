@@ -80,7 +80,7 @@ Palette loadPalette(std::string_view contents, const std::string& path, const Wa
   return LoadPaletteFile(services);
 }
 
-void loadWad(Wad& wad, const std::string& name, const WadServices& services, Random& random,
+void LoadWad(Wad& wad, const std::string& name, const WadServices& services, Random& random,
              const WadProgressSink& progress) {
   Wad loaded;
   loaded.path = FindWad(name, services);
@@ -91,7 +91,7 @@ void loadWad(Wad& wad, const std::string& name, const WadServices& services, Ran
   BrightenPalette(loaded.palette, services.settings.gammashift);
   loaded.colours = MakeColourTable(loaded.palette);
   loaded.outlines = FindOutlines(loaded.palette, services.settings);
-  loadTextures(contents, loaded, services.settings.t_skyspeed, random, progress);
+  LoadTextures(contents, loaded, services.settings.t_skyspeed, random, progress);
   wad = std::move(loaded);
 }
 

@@ -59,7 +59,7 @@ OutlineIndices FindOutlines(const Palette& palette, const Settings& settings);
 //   "Texture:  Couldn't open wad file..."
 //   "Error: %s isn't a WAD type wadfile" and what the palette's readers name
 //   "Error:  couldn't read bits..." when the file ends before its directory, its palette or a texture
-void loadWad(Wad& wad, const std::string& name, const WadServices& services, Random& random,
+void LoadWad(Wad& wad, const std::string& name, const WadServices& services, Random& random,
              const WadProgressSink& progress);
 
 // The palette of the wad file with these contents: its lump "PALETTE", or the palette file beside the
@@ -71,7 +71,7 @@ Palette loadPalette(std::string_view contents, const std::string& path, const Wa
 
 // The textures of the wad file with these contents, into a wad whose path and palette are set. A lump
 // that cannot be a picture (size on disk out of range, no pixels) becomes a blank one of 32 by 32.
-void loadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
+void LoadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
                   const WadProgressSink& progress);
 
 }  // namespace velk

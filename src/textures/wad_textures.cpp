@@ -109,7 +109,7 @@ void ReportLump(const WadProgressSink& progress, const std::string& path, int lu
 
 }  // namespace
 
-void loadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
+void LoadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
                   const WadProgressSink& progress) {
   if (!HasWadMark(contents)) Error("Error: %s isn't a WAD type wadfile", wad.path.c_str());
   const FileBytes file(contents);

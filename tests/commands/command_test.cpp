@@ -12,26 +12,26 @@
 namespace velk {
 namespace {
 
-std::string named(const Command& command) { return std::to_string(command.id) + " " + command.name; }
+std::string Named(const Command& command) { return std::to_string(command.id) + " " + command.name; }
 
 TEST(CommandTable, EveryRowIsSound) {
   std::set<int> ids;
   std::set<std::string> names;
   std::set<std::string> places;
   for (const Command& command : Commands()) {
-    EXPECT_TRUE(ids.insert(command.id).second) << "twice: " << named(command);
+    EXPECT_TRUE(ids.insert(command.id).second) << "twice: " << Named(command);
     if (*command.name) {
-      EXPECT_TRUE(names.insert(command.name).second) << "twice: " << named(command);
+      EXPECT_TRUE(names.insert(command.name).second) << "twice: " << Named(command);
     }
-    EXPECT_STRNE(command.label, "") << named(command);
+    EXPECT_STRNE(command.label, "") << Named(command);
     if (*command.menu) {
-      EXPECT_TRUE(places.insert(std::string(command.menu) + "|" + command.label).second) << named(command);
+      EXPECT_TRUE(places.insert(std::string(command.menu) + "|" + command.label).second) << Named(command);
     } else {
-      EXPECT_TRUE(*command.name || *command.keys || command.id == 229) << "nowhere: " << named(command);
+      EXPECT_TRUE(*command.name || *command.keys || command.id == 229) << "nowhere: " << Named(command);
     }
     // The one row that has no hint.
-    EXPECT_NE(*command.hint == '\0', command.id != 560) << named(command);
-    EXPECT_NE(!command.run, *command.reason == '\0') << "handler or reason: " << named(command);
+    EXPECT_NE(*command.hint == '\0', command.id != 560) << Named(command);
+    EXPECT_NE(!command.run, *command.reason == '\0') << "handler or reason: " << Named(command);
   }
 }
 
@@ -39,8 +39,8 @@ TEST(CommandTable, NoTwoRowsOnOneKey) {
   std::map<std::string, std::string> owners;
   for (const Command& command : Commands()) {
     for (const KeyStroke& stroke : StrokesOf(command)) {
-      EXPECT_NE(stroke.key, KeyStroke::Key::None) << named(command);
-      EXPECT_EQ(CommandOnKey(stroke), &command) << named(command) << " and " << named(*CommandOnKey(stroke));
+      EXPECT_NE(stroke.key, KeyStroke::Key::None) << Named(command);
+      EXPECT_EQ(CommandOnKey(stroke), &command) << Named(command) << " and " << Named(*CommandOnKey(stroke));
     }
   }
 }
@@ -55,7 +55,7 @@ TEST(CommandTable, Finding) {
 
 TEST(CommandTable, HoldsWhatTheViewsMenusName) {
   const Settings settings;
-  for (const auto& menu : {gridMenu(settings), scaleMenu(settings), cameraMenu(settings, nullptr)}) {
+  for (const auto& menu : {GridMenu(settings), ScaleMenu(settings), CameraMenu(settings, nullptr)}) {
     for (const ViewMenuItem& item : menu) {
       if (item.separator) continue;
       const Command* command = FindCommand(item.command);
@@ -132,7 +132,7 @@ constexpr const char* kNeedMap =
 constexpr const char* kOtherRules =
     "CM_FILENEW CM_FILEOPEN CM_EDITCOPY CM_EDITCLONE CM_COPY_MOVE 11844 1100 298 24337 98 24338";
 
-std::set<const Command*> namedIn(const char* list) {
+std::set<const Command*> NamedIn(const char* list) {
   std::set<const Command*> commands;
   for (const std::string& name : Split(list, ' ')) commands.insert(FindCommand(name));
   EXPECT_FALSE(commands.contains(nullptr)) << list;
@@ -140,12 +140,12 @@ std::set<const Command*> namedIn(const char* list) {
 }
 
 TEST(CommandTable, WhatNeedsAMapAndWhatDoesNot) {
-  const std::set<const Command*> needMap = namedIn(kNeedMap);
-  const std::set<const Command*> other = namedIn(kOtherRules);
+  const std::set<const Command*> needMap = NamedIn(kNeedMap);
+  const std::set<const Command*> other = NamedIn(kOtherRules);
   for (const Command& command : Commands()) {
     if (other.contains(&command) || (command.id >= 1000 && command.id < 1200)) continue;
     const bool needs = needMap.contains(&command) || command.checked;
-    EXPECT_EQ(command.enabled, needs ? MapOpen : nullptr) << named(command);
+    EXPECT_EQ(command.enabled, needs ? MapOpen : nullptr) << Named(command);
   }
 }
 
@@ -180,9 +180,9 @@ TEST(Commands, LoseNothingWhenDeclined) {
       if (m) m->modified = true;
       const int brushes = m ? m->brushCount() : 0;
       if (!RunCommand(editor, command) && command.run.plain) command.run.plain(editor);
-      EXPECT_GE(editor.documents().count(), maps) << named(command);
-      EXPECT_TRUE(!m || editor.documents().at(0)->model.brushCount() == brushes) << named(command);
-      EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << named(command);
+      EXPECT_GE(editor.documents().count(), maps) << Named(command);
+      EXPECT_TRUE(!m || editor.documents().at(0)->model.brushCount() == brushes) << Named(command);
+      EXPECT_EQ(std::exchange(observer.exiting, false), !m && command.id == 99) << Named(command);
       while (editor.documents().count() > maps) editor.door().show(CloseDocument(editor.documents(), maps));
     }
   }

@@ -5,7 +5,7 @@
 
 namespace velk::test {
 
-inline QApplication& application() {
+inline QApplication& Application() {
   static int count = 1;
   static char name[] = "desktop_tests";
   static char* arguments[] = {name, nullptr};

@@ -14,11 +14,11 @@
 namespace velk {
 namespace {
 
-using test::application;
+using test::Application;
 using test::Session;
 
 // How many pixels are drawn, and how many at all.
-int drawnPixels(const QPixmap& picture) {
+int DrawnPixels(const QPixmap& picture) {
   const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
   int drawn = 0;
   for (int y = 0; y < image.height(); ++y) {
@@ -28,13 +28,13 @@ int drawnPixels(const QPixmap& picture) {
 }
 
 TEST(CommandIcons, EveryCommandOfTheBarsHasOneOfItsOwn) {
-  application();
+  Application();
   QStringList drawings;
   for (const auto& [name, id] : test::kBarNames) {
     const QIcon icon = CommandIcon(name);
     ASSERT_FALSE(icon.isNull()) << name;
     for (const int size : {16, 32}) {
-      const int drawn = drawnPixels(icon.pixmap(size, size));
+      const int drawn = DrawnPixels(icon.pixmap(size, size));
       EXPECT_GT(drawn, size * size / 12) << name;
       EXPECT_LT(drawn, size * size * 9 / 10) << name;
     }
@@ -45,7 +45,7 @@ TEST(CommandIcons, EveryCommandOfTheBarsHasOneOfItsOwn) {
 }
 
 TEST(CommandIcons, FollowTheThemeAndTheStateOfTheButton) {
-  const QPalette before = application().palette();
+  const QPalette before = Application().palette();
   const QIcon icon = CommandIcon("CM_FILESAVE");
   QApplication::setPalette(QPalette(QColor(30, 30, 30)));
   const QImage dark = icon.pixmap(32, 32).toImage();
@@ -56,7 +56,7 @@ TEST(CommandIcons, FollowTheThemeAndTheStateOfTheButton) {
 }
 
 TEST(Bars, DockInOrderAndKeepTheirButtonsUpToDate) {
-  application();
+  Application();
   Session session;
   session.home.write("velkbars.ini",
                      "bars 2\nbar 1 CM_FILENEW\nbar 1 Separator\nbar 1 CM_GRID_MODE\nbar 2 TextureList\n");
@@ -88,7 +88,7 @@ TEST(Bars, DockInOrderAndKeepTheirButtonsUpToDate) {
 }
 
 TEST(Bars, TheTextureListFollowsTheBrowserAndSetsIt) {
-  application();
+  Application();
   Session session;
   session.open();
   TextureList list(session.editor);

@@ -10,7 +10,7 @@ namespace velk {
 namespace {
 
 TEST(ChildWindows, PlacementHasTheLastNormalPlaceOfIconsAndMaximisedWindows) {
-  test::application();
+  test::Application();
   QMdiArea area;
   area.resize(800, 600);
   ChildWindows windows(area);

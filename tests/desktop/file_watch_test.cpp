@@ -11,7 +11,7 @@ namespace velk {
 namespace {
 
 TEST(FileWatch, NoticesChangedAndReplacedFilesOfOpenMapsWhileTheUserIsThere) {
-  test::application();
+  test::Application();
   test::Session session;
   session.editor.attend();
   const std::string path = session.open();

@@ -18,47 +18,47 @@ namespace velk {
 namespace {
 
 template <typename Widget>
-Widget& editorOf(QWidget& dialog, const char* field) {
+Widget& EditorOf(QWidget& dialog, const char* field) {
   auto* whole = dialog.findChild<QWidget*>(field);
   auto* itself = qobject_cast<Widget*>(whole);
   return itself ? *itself : *whole->findChild<Widget*>();
 }
 
-QPushButton& buttonOf(QWidget& dialog, const QString& text) {
+QPushButton& ButtonOf(QWidget& dialog, const QString& text) {
   for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
     if (button->text().remove('&') == text) return *button;
   }
   throw std::runtime_error("no button " + text.toStdString());
 }
 
-void type(QWidget& into, const char* text) {
+void Type(QWidget& into, const char* text) {
   QTest::keyClick(&into, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(&into, text);
 }
 
-Form formOf(std::vector<FormField> fields) {
-  test::application();
+Form FormOf(std::vector<FormField> fields) {
+  test::Application();
   Form form;
   form.title = "Form";
   form.fields = std::move(fields);
   return form;
 }
 
-FormField fieldOf(FormField::Kind kind, std::vector<std::string> choices = {}) {
+FormField FieldOf(FormField::Kind kind, std::vector<std::string> choices = {}) {
   FormField field = TextField("field", "Field", "");
   field.kind = kind;
   field.choices = std::move(choices);
   return field;
 }
 
-void chooseColour(QWidget& dialog) {
+void ChooseColour(QWidget& dialog) {
   QTimer::singleShot(0, [] {
     auto* chooser = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
     ASSERT_TRUE(chooser);
     chooser->setCurrentColor(QColor(1, 20, 255));
     chooser->accept();
   });
-  editorOf<QPushButton>(dialog, "field").click();
+  EditorOf<QPushButton>(dialog, "field").click();
 }
 
 TEST(FormDialog, EveryKindOfFieldGivesWhatTheUserGave) {
@@ -69,22 +69,22 @@ TEST(FormDialog, EveryKindOfFieldGivesWhatTheUserGave) {
     void (*edit)(QWidget& dialog);
     const char* value;
   } cases[] = {
-      {fieldOf(Kind::Text), [](QWidget& d) { type(editorOf<QLineEdit>(d, "field"), "two words"); },
+      {FieldOf(Kind::Text), [](QWidget& d) { Type(EditorOf<QLineEdit>(d, "field"), "two words"); },
        "two words"},
-      {fieldOf(Kind::Text, three), [](QWidget& d) { type(editorOf<QLineEdit>(d, "field"), "new"); }, "new"},
-      {fieldOf(Kind::Whole), [](QWidget& d) { type(editorOf<NumberBox>(d, "field"), "-70000"); }, "-70000"},
-      {fieldOf(Kind::Real), [](QWidget& d) { type(editorOf<NumberBox>(d, "field"), "1,5"); }, "1.5"},
-      {fieldOf(Kind::Flag), [](QWidget& d) { editorOf<QCheckBox>(d, "field").click(); }, "1"},
-      {fieldOf(Kind::Choice, three),
-       [](QWidget& d) { QTest::keyClick(&editorOf<QComboBox>(d, "field"), Qt::Key_Down); }, "1"},
-      {fieldOf(Kind::Radio, three),
+      {FieldOf(Kind::Text, three), [](QWidget& d) { Type(EditorOf<QLineEdit>(d, "field"), "new"); }, "new"},
+      {FieldOf(Kind::Whole), [](QWidget& d) { Type(EditorOf<NumberBox>(d, "field"), "-70000"); }, "-70000"},
+      {FieldOf(Kind::Real), [](QWidget& d) { Type(EditorOf<NumberBox>(d, "field"), "1,5"); }, "1.5"},
+      {FieldOf(Kind::Flag), [](QWidget& d) { EditorOf<QCheckBox>(d, "field").click(); }, "1"},
+      {FieldOf(Kind::Choice, three),
+       [](QWidget& d) { QTest::keyClick(&EditorOf<QComboBox>(d, "field"), Qt::Key_Down); }, "1"},
+      {FieldOf(Kind::Radio, three),
        [](QWidget& d) { d.findChild<QWidget*>("field")->findChildren<QRadioButton*>()[2]->click(); }, "2"},
-      {fieldOf(Kind::Folder), [](QWidget& d) { type(editorOf<QLineEdit>(d, "field"), "c:\\maps\\"); },
+      {FieldOf(Kind::Folder), [](QWidget& d) { Type(EditorOf<QLineEdit>(d, "field"), "c:\\maps\\"); },
        "c:\\maps\\"},
-      {fieldOf(Kind::Colour), chooseColour, "1 20 255"},
+      {FieldOf(Kind::Colour), ChooseColour, "1 20 255"},
   };
   for (const auto& [field, edit, value] : cases) {
-    Form form = formOf({field});
+    Form form = FormOf({field});
     FormDialog dialog(form, nullptr, nullptr);
     edit(dialog);
     EXPECT_EQ(form.text("FIELD"), value) << static_cast<int>(field.kind);
@@ -105,10 +105,10 @@ TEST(FormDialog, NumbersOutsideTheirRangeShowItAndArrowsLeadBack) {
       {{.high = -2, .step = 256}, "-100", "", "-2"},
   };
   for (const auto& [range, typed, limits, afterUp] : cases) {
-    Form form = formOf({RealField("field", "Field", 50, range)});
+    Form form = FormOf({RealField("field", "Field", 50, range)});
     FormDialog dialog(form, nullptr, nullptr);
-    auto& box = editorOf<NumberBox>(dialog, "field");
-    type(box, typed);
+    auto& box = EditorOf<NumberBox>(dialog, "field");
+    Type(box, typed);
     EXPECT_EQ(form.text("field"), typed);
     EXPECT_EQ(dialog.findChild<QLabel*>("limits")->text(), limits);
     QTest::keyClick(&box, Qt::Key_Up);
@@ -117,7 +117,7 @@ TEST(FormDialog, NumbersOutsideTheirRangeShowItAndArrowsLeadBack) {
 }
 
 TEST(FormDialog, ARefusedFormStaysOpenAtTheFieldAndIsAcceptedOnceItIsRight) {
-  Form form = formOf({FlagField("first", "First", false), WholeField("width", "Width", 0)});
+  Form form = FormOf({FlagField("first", "First", false), WholeField("width", "Width", 0)});
   form.fields[0].page = "One";
   form.fields[1].page = "Two";
   form.check = [](Form& f) {
@@ -125,15 +125,15 @@ TEST(FormDialog, ARefusedFormStaysOpenAtTheFieldAndIsAcceptedOnceItIsRight) {
   };
   FormDialog dialog(form, nullptr, nullptr);
   QTimer::singleShot(0, [&dialog] {
-    buttonOf(dialog, "OK").click();
+    ButtonOf(dialog, "OK").click();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.findChild<QLabel*>("reason")->text(), "Width: must be above 0");
-    auto& box = editorOf<NumberBox>(dialog, "width");
+    auto& box = EditorOf<NumberBox>(dialog, "width");
     EXPECT_TRUE(box.isVisible());  // its page is in front
     EXPECT_EQ(dialog.focusWidget(), &box);
-    type(box, "3");
+    Type(box, "3");
     EXPECT_FALSE(dialog.findChild<QLabel*>("reason")->isVisible());
-    buttonOf(dialog, "OK").click();
+    ButtonOf(dialog, "OK").click();
     EXPECT_FALSE(dialog.isVisible());
     dialog.reject();
   });
@@ -142,7 +142,7 @@ TEST(FormDialog, ARefusedFormStaysOpenAtTheFieldAndIsAcceptedOnceItIsRight) {
 }
 
 TEST(FormDialog, ChangesReachOtherFieldsAndCancelTakesAllBack) {
-  Form form = formOf({FlagField("spiral", "Spiral", false), RealField("turns", "Turns", 2, {})});
+  Form form = FormOf({FlagField("spiral", "Spiral", false), RealField("turns", "Turns", 2, {})});
   form.note = "before";
   form.changed = [](Form& f) {
     const bool spiral = f.flag("spiral");
@@ -153,8 +153,8 @@ TEST(FormDialog, ChangesReachOtherFieldsAndCancelTakesAllBack) {
     f.complete = !spiral;
   };
   FormDialog dialog(form, nullptr, nullptr);
-  auto& flag = editorOf<QCheckBox>(dialog, "spiral");
-  auto& turns = editorOf<NumberBox>(dialog, "turns");
+  auto& flag = EditorOf<QCheckBox>(dialog, "spiral");
+  auto& turns = EditorOf<NumberBox>(dialog, "turns");
   QTimer::singleShot(0, [&] {
     EXPECT_FALSE(turns.isEnabled());
     flag.click();
@@ -162,8 +162,8 @@ TEST(FormDialog, ChangesReachOtherFieldsAndCancelTakesAllBack) {
     EXPECT_EQ(turns.value(), 4.5);
     EXPECT_EQ(flag.text(), "Spiral!");
     EXPECT_EQ(form.note, "after");
-    EXPECT_FALSE(buttonOf(dialog, "OK").isEnabled());
-    buttonOf(dialog, "Cancel").click();
+    EXPECT_FALSE(ButtonOf(dialog, "OK").isEnabled());
+    ButtonOf(dialog, "Cancel").click();
   });
   EXPECT_EQ(dialog.run(), FormAnswer::Cancel);
   EXPECT_FALSE(form.flag("spiral"));
@@ -183,7 +183,7 @@ struct RecordedPicture : FormPicture {
 };
 
 TEST(FormDialog, ThePictureIsTurnedByTheMouse) {
-  Form form = formOf({});
+  Form form = FormOf({});
   const auto picture = std::make_shared<RecordedPicture>();
   form.picture = picture;
   FormDialog dialog(form, nullptr, nullptr);
@@ -202,7 +202,7 @@ TEST(FormDialog, ThePictureIsTurnedByTheMouse) {
     QWheelEvent half({5, 5}, {5, 5}, {}, {0, -60}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&view, &half);
   }
-  buttonOf(dialog, "Out").click();
+  ButtonOf(dialog, "Out").click();
   EXPECT_EQ(picture->calls, QStringList({"4 -3 0", "0 2 1", "wheel -1", "button 1"}));
   const QImage shown = view.grab().toImage();
   EXPECT_EQ(shown.pixel(shown.width() - 1, shown.height() - 1), 0xff102030);

@@ -15,7 +15,7 @@ namespace {
 class Frame : public QMainWindow {
  public:
   explicit Frame(int bars) {
-    test::application();
+    test::Application();
     for (int i = 1; i <= bars; ++i) {
       auto* bar = new QToolBar;
       bar->setObjectName(QStringLiteral("velkBar%1").arg(i));

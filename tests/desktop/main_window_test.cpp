@@ -11,7 +11,7 @@ namespace velk {
 namespace {
 
 TEST(MainWindow, TakesItsOwnKeysAndLeavesThoseOfOtherWindowsAlone) {
-  test::application();
+  test::Application();
   test::TempFolder home;
   test::FurnishHome(home);
   home.write("velkbars.ini", "bars 0\n");

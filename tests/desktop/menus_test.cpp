@@ -11,7 +11,7 @@ namespace velk {
 namespace {
 
 // The item of a command, brought up to date as an opening menu does.
-QAction& itemOf(QMenuBar& bar, int id) {
+QAction& ItemOf(QMenuBar& bar, int id) {
   for (QMenu* menu : bar.findChildren<QMenu*>()) {
     for (QAction* action : menu->actions()) {
       if (action->menu() || action->data().toInt() != id) continue;
@@ -23,11 +23,11 @@ QAction& itemOf(QMenuBar& bar, int id) {
 }
 
 TEST(Menus, ItemsHaveLabelsKeysMarksAndStates) {
-  test::application();
+  test::Application();
   test::Session session;
   QMenuBar bar;
   BuildMenus(bar, session.editor);
-  const auto item = [&bar](const char* name) -> QAction& { return itemOf(bar, FindCommand(name)->id); };
+  const auto item = [&bar](const char* name) -> QAction& { return ItemOf(bar, FindCommand(name)->id); };
 
   EXPECT_EQ(item("CM_FILESAVE").text(), "&Save\tCtrl-S");
   EXPECT_FALSE(item("CM_FILESAVE").isEnabled());
@@ -45,28 +45,28 @@ TEST(Menus, ItemsHaveLabelsKeysMarksAndStates) {
 
 // A map's name may hold what the menu takes for the sign of a mnemonic.
 TEST(Menus, NamesOfMapsAreShownAsTheyAre) {
-  test::application();
+  test::Application();
   test::Session session;
   QMenuBar bar;
   BuildMenus(bar, session.editor);
-  EXPECT_FALSE(itemOf(bar, 1010).isVisible());
+  EXPECT_FALSE(ItemOf(bar, 1010).isVisible());
   session.editor.attend();
   session.open("this & that.map");
-  EXPECT_TRUE(itemOf(bar, 1010).isVisible());
-  EXPECT_TRUE(itemOf(bar, 1010).text().contains("this && that.map"));
+  EXPECT_TRUE(ItemOf(bar, 1010).isVisible());
+  EXPECT_TRUE(ItemOf(bar, 1010).text().contains("this && that.map"));
 }
 
 // Of the items that exclude each other exactly one is marked, whichever was chosen.
 TEST(Menus, OneOfTheGridsIsMarked) {
-  test::application();
+  test::Application();
   test::Session session;
   session.open();
   QMenuBar bar;
   BuildMenus(bar, session.editor);
   constexpr int kGridOf1 = 550;
   for (const int chosen : {3, 0}) {
-    itemOf(bar, kGridOf1 + chosen).trigger();
-    for (int i = 0; i < 9; ++i) EXPECT_EQ(itemOf(bar, kGridOf1 + i).isChecked(), i == chosen) << i;
+    ItemOf(bar, kGridOf1 + chosen).trigger();
+    for (int i = 0; i < 9; ++i) EXPECT_EQ(ItemOf(bar, kGridOf1 + i).isChecked(), i == chosen) << i;
   }
 }
 

@@ -17,8 +17,8 @@ namespace {
 
 // Looks at the dialog that is asked in the meantime; it must close it.
 template <typename Dialog, typename Look>
-void onceOpen(Look look) {
-  test::application();
+void OnceOpen(Look look) {
+  test::Application();
   QTimer::singleShot(0, [look] {
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
     ASSERT_TRUE(dialog);
@@ -47,13 +47,13 @@ TEST(QtPrompts, BoxesHaveTheirButtonsAndClosingOneDeclines) {
     box.caption = "Caption";
     box.text = "<b>text & all</b>";
     box.buttons = c.asked;
-    onceOpen<Box>([&c](Box& dialog) {
+    OnceOpen<Box>([&c](Box& dialog) {
       EXPECT_EQ(dialog.standardButtons(), c.buttons);
       EXPECT_EQ(dialog.textFormat(), Qt::PlainText);
       dialog.button(c.pressed)->click();
     });
     EXPECT_EQ(prompts.ask(box), c.answer);
-    onceOpen<Box>([](Box& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    OnceOpen<Box>([](Box& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_EQ(prompts.ask(box), c.closed) << static_cast<int>(c.asked);
   }
 }
@@ -64,7 +64,7 @@ TEST(QtPrompts, EnterDoesNotRiskAnything) {
     MessageBox box;
     box.buttons = MessageBox::Buttons::YesNo;
     box.risky = risky;
-    onceOpen<QMessageBox>([risky](QMessageBox& dialog) {
+    OnceOpen<QMessageBox>([risky](QMessageBox& dialog) {
       EXPECT_EQ(dialog.defaultButton() == dialog.button(QMessageBox::No), risky);
       dialog.reject();
     });
@@ -89,7 +89,7 @@ TEST(QtPrompts, FileChoosersFilterWithoutRegardToCase) {
     chooser.filter = filter;
     chooser.fileName = (folder.path() / "new").string();
     chooser.kind = FileChooser::Kind::Save;
-    onceOpen<QFileDialog>([&, &wanted = shown, &end = suffix](QFileDialog& dialog) {
+    OnceOpen<QFileDialog>([&, &wanted = shown, &end = suffix](QFileDialog& dialog) {
       EXPECT_EQ(dialog.windowTitle(), "Select");
       EXPECT_EQ(dialog.nameFilters().front(), wanted);
       EXPECT_EQ(dialog.defaultSuffix(), end);
@@ -101,7 +101,7 @@ TEST(QtPrompts, FileChoosersFilterWithoutRegardToCase) {
 }
 
 TEST(QtPrompts, AFormBesideTheWindowsStaysOpenAndIsThereOnce) {
-  test::application();
+  test::Application();
   QWidget owner;
   QtPrompts prompts;
   prompts.setOwner(&owner);

@@ -13,12 +13,12 @@ namespace fs = std::filesystem;
 constexpr const char* kOverwrite = "was changed on disk since it was read. Overwrite it?";
 constexpr const char* kReload = "was changed on disk. Read it again?";
 
-std::string question(const std::string& path, const char* end, const char* answer) {
+std::string Question(const std::string& path, const char* end, const char* answer) {
   return "message \"Velk - File Changed\" \"The file " + path + " " + end + "\" " + answer;
 }
 
 // One box at x, to tell the states of a file apart.
-std::string boxAt(int x) {
+std::string BoxAt(int x) {
   return "{\n\"classname\" \"worldspawn\"\n" + test::BoxBrushText(x, 64, "wall1") + "}\n";
 }
 
@@ -32,32 +32,33 @@ TEST(Disk, AChangedFileIsNotReplacedWithoutAsking) {
     session.run("CM_FILESAVE");
     EXPECT_TRUE(session.prompts.log().empty()) << "our own saves";
     session.run("CM_SELECT_ALL");
-    session.home.write("small.map", boxAt(0));
+    session.home.write("small.map", BoxAt(0));
     CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
     EXPECT_EQ(session.editor.documents().status(),
               ("File [" + path + "] was changed on disk...").substr(0, 127));
     session.answer(answer);
     session.run("CM_FILESAVE");
-    ASSERT_EQ(session.prompts.log().back(), question(path, kOverwrite, answer));
+    ASSERT_EQ(session.prompts.log().back(), Question(path, kOverwrite, answer));
     const bool kept = *answer == 'n';
     EXPECT_EQ(session.current().modified, kept);
-    EXPECT_EQ(session.contents(path) == boxAt(0), kept);
+    EXPECT_EQ(session.contents(path) == BoxAt(0), kept);
   }
 }
 
 TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
   Session session;
+  session.editor.attend();
   const std::string path = session.open("a.map");
   session.open("b.map");
   session.editor.door().show(SwitchTo(session.editor.documents(), 0));
   session.current().activeCamera().origin = {1, 2, 3};
   session.editor.settings().undo_levels = 10;
 
-  session.home.write("a.map", boxAt(512));
+  session.home.write("a.map", BoxAt(512));
   session.answer("no");
   CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
   CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
-  EXPECT_EQ(session.prompts.log(), std::vector{question(path, kReload, "no")}) << "asked once a change";
+  EXPECT_EQ(session.prompts.log(), std::vector{Question(path, kReload, "no")}) << "asked once a change";
   EXPECT_EQ(session.current().brushCount(), 3);
   EXPECT_TRUE(session.editor.documents().current()->isUnsaved()) << "no file holds it any more";
 
@@ -69,7 +70,7 @@ TEST(Disk, AnUnmodifiedMapIsReadAgainInItsPlace) {
             "message \"Velk - File Changed\" \"parsing map file\\n(reading [" + path + "], line 1)\" ok");
   EXPECT_EQ(session.current().brushCount(), 3);
 
-  session.home.write("a.map", boxAt(1024));
+  session.home.write("a.map", BoxAt(1024));
   session.answer("yes");
   CheckDisk(session.editor.services(), session.editor.documents(), session.editor.door());
   EXPECT_EQ(session.editor.documents().currentIndex(), 0);

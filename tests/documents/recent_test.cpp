@@ -10,7 +10,7 @@ namespace {
 
 using test::Session;
 
-std::vector<std::string> listed(const RecentMaps& maps) {
+std::vector<std::string> Listed(const RecentMaps& maps) {
   std::vector<std::string> paths;
   for (int i = 0; i < maps.count(); ++i) paths.push_back(maps.at(i));
   return paths;
@@ -29,11 +29,11 @@ TEST(Recent, TheLatestStandFirstAndOnceWhoeverWritesThem) {
   two.add(" /b.map");
   one.add("/a\nb.map");
   one.add("/a b.map");
-  EXPECT_EQ(listed(one), (std::vector<std::string>{"/a b.map", " /b.map"}));
+  EXPECT_EQ(Listed(one), (std::vector<std::string>{"/a b.map", " /b.map"}));
   for (int i = 0; i < 12; ++i) two.add("/" + std::to_string(i));
   two.remove("/10");
   one.keepIn(file);
-  EXPECT_EQ(listed(one), (std::vector<std::string>{"/11", "/9", "/8", "/7", "/6", "/5", "/4", "/3"}));
+  EXPECT_EQ(Listed(one), (std::vector<std::string>{"/11", "/9", "/8", "/7", "/6", "/5", "/4", "/3"}));
   one.clear();
   two.keepIn(file);
   EXPECT_EQ(two.count(), 0);
@@ -58,7 +58,7 @@ TEST(Recent, OpensShowsAndForgets) {
   const std::string a = session.open("a.map");
   const std::string b = session.open("b.map");
   session.run("CM_FILENEW");
-  EXPECT_EQ(listed(session.editor.documents().recent()), (std::vector{b, a}));
+  EXPECT_EQ(Listed(session.editor.documents().recent()), (std::vector{b, a}));
   EXPECT_TRUE(recent(1));
   EXPECT_EQ(session.editor.documents().currentIndex(), 0) << "it was open already";
   EXPECT_EQ(session.editor.documents().count(), 3);
@@ -81,7 +81,7 @@ TEST(Recent, OpensShowsAndForgets) {
   recent(0);
   EXPECT_EQ(session.prompts.log().back(), "message \"Velk - Cannot Open\" \"Couldn't open " + b +
                                               "\\n\\nparsing map file\\n(reading [" + b + "], line 4)\" ok");
-  EXPECT_EQ(listed(session.editor.documents().recent()), std::vector{b});
+  EXPECT_EQ(Listed(session.editor.documents().recent()), std::vector{b});
 }
 
 }  // namespace

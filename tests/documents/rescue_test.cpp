@@ -18,7 +18,7 @@ using test::TempFolder;
 
 namespace fs = std::filesystem;
 
-int filesNamed(const fs::path& folder, const std::string& start) {
+int FilesNamed(const fs::path& folder, const std::string& start) {
   int count = 0;
   for (const auto& entry : fs::directory_iterator(folder)) {
     count += entry.path().filename().string().starts_with(start);
@@ -74,7 +74,7 @@ TEST(Rescue, CopiesOfUnsavedMapsComeBackUnderTheirNames) {
   EXPECT_EQ(first->editor.rescue().writeCopies(), 1);
   EXPECT_EQ(first->editor.rescue().writeCopies(), 1);
   const fs::path folder = session.editor.services().paths.native("c:\\");
-  EXPECT_EQ(filesNamed(folder, "rescue"), 1);
+  EXPECT_EQ(FilesNamed(folder, "rescue"), 1);
 
   // While the first editor is at work, nothing is taken from it.
   Another second(session);
@@ -88,9 +88,9 @@ TEST(Rescue, CopiesOfUnsavedMapsComeBackUnderTheirNames) {
   EXPECT_EQ(second.editor.documents().currentMap()->name, path);
   EXPECT_TRUE(second.editor.documents().currentMap()->modified);
   EXPECT_EQ(second.editor.documents().currentMap()->brushCount(), 3);
-  EXPECT_EQ(filesNamed(folder, "rescue"), 1);
+  EXPECT_EQ(FilesNamed(folder, "rescue"), 1);
   RunCommand(second.editor, *FindCommand("CM_FILESAVE"));
-  EXPECT_EQ(filesNamed(folder, "rescue"), 0);
+  EXPECT_EQ(FilesNamed(folder, "rescue"), 0);
 }
 
 TEST(Rescue, DeclinedCopiesArePutAside) {
@@ -101,8 +101,8 @@ TEST(Rescue, DeclinedCopiesArePutAside) {
   session.answer("no");
   session.editor.rescue().offer();
   EXPECT_EQ(session.editor.documents().count(), 0);
-  EXPECT_EQ(filesNamed(folder, "rescued-"), 1);
-  EXPECT_EQ(filesNamed(folder, "rescue1"), 0);
+  EXPECT_EQ(FilesNamed(folder, "rescued-"), 1);
+  EXPECT_EQ(FilesNamed(folder, "rescue1"), 0);
 }
 
 TEST(Rescue, TheBackupIsWrittenFromTheSeventhTickOn) {

@@ -23,26 +23,26 @@ const std::string kFolder = std::string(VELK_KIT_FOLDER) + "/";
 class Kit : public testing::Test {
  protected:
   Kit() {
-    settings.entity_qc_directory = settings.wad_directory = kFolder;
-    classes.loadAll(settings, paths, prompts);
+    settings_.entity_qc_directory = settings_.wad_directory = kFolder;
+    classes_.loadAll(settings_, paths_, prompts_);
   }
   // A prompt means that something was missing.
-  ~Kit() override { EXPECT_TRUE(prompts.choosers.empty()); }
+  ~Kit() override { EXPECT_TRUE(prompts_.choosers.empty()); }
 
-  const IniFile ini = IniFile::Load(kFolder + "velk.ini");
-  Settings settings = LoadSettings(ini);
-  Paths paths;
-  test::ScriptedPrompts prompts;
-  EntityClassList classes;
+  const IniFile ini_ = IniFile::Load(kFolder + "velk.ini");
+  Settings settings_ = LoadSettings(ini_);
+  Paths paths_;
+  test::ScriptedPrompts prompts_;
+  EntityClassList classes_;
 };
 
 TEST_F(Kit, SettingsPointAtTheKit) {
   for (const char* key : {"entity_qc_directory", "wad_directory", "map_directory", "bat_directory"}) {
-    EXPECT_EQ(ini.string("Velk", key, ""), ".\\") << key;
+    EXPECT_EQ(ini_.string("Velk", key, ""), ".\\") << key;
   }
-  EXPECT_TRUE(std::filesystem::exists(kFolder + settings.badtex));
-  EXPECT_TRUE(settings.wheel_zoom && settings.middle_drag && settings.window_quality);
-  EXPECT_EQ(settings.undo_levels, 100);
+  EXPECT_TRUE(std::filesystem::exists(kFolder + settings_.badtex));
+  EXPECT_TRUE(settings_.wheel_zoom && settings_.middle_drag && settings_.window_quality);
+  EXPECT_EQ(settings_.undo_levels, 100);
 }
 
 // Classes of the game's maps, with what the others of their family have in common.
@@ -68,36 +68,36 @@ constexpr const char* kSolids =
 
 TEST_F(Kit, EveryClassOfTheGameIsDefined) {
   for (const std::string& name : Split(kPoints, ' ')) {
-    const EntityClass& found = classes.findByName(name);
-    EXPECT_TRUE(classes.isKnown(found) && found.fixedSize) << name;
+    const EntityClass& found = classes_.findByName(name);
+    EXPECT_TRUE(classes_.isKnown(found) && found.fixedSize) << name;
   }
   for (const std::string& name : Split(kSolids, ' ')) {
-    const EntityClass& found = classes.findByName(name);
-    EXPECT_TRUE(classes.isKnown(found) && !found.fixedSize) << name;
+    const EntityClass& found = classes_.findByName(name);
+    EXPECT_TRUE(classes_.isKnown(found) && !found.fixedSize) << name;
   }
 }
 
 TEST_F(Kit, NoClassIsMalformedOrTwice) {
   std::set<std::string> names;
-  for (int i = 0; i < classes.count(); ++i) {
-    const EntityClass& c = classes.classAt(i);
+  for (int i = 0; i < classes_.count(); ++i) {
+    const EntityClass& c = classes_.classAt(i);
     EXPECT_TRUE(names.insert(c.name).second) << c.name;
     EXPECT_TRUE(c.comments && !c.comments->empty()) << c.name;
     for (size_t axis = 0; c.fixedSize && axis < 3; ++axis) EXPECT_LT(c.mins[axis], c.maxs[axis]) << c.name;
   }
-  const EntityClass& door = classes.findByName("func_door");
+  const EntityClass& door = classes_.findByName("func_door");
   EXPECT_EQ(door.flagName(0), "START_OPEN");
   EXPECT_EQ(door.flagName(5), "TOGGLE");
-  EXPECT_EQ(classes.findByName("monster_zombie").flagName(1), "AMBUSH");
+  EXPECT_EQ(classes_.findByName("monster_zombie").flagName(1), "AMBUSH");
 }
 
 class KitTextures : public Kit {
  protected:
-  TextureManager textures{{settings, paths, prompts}};
+  TextureManager textures_{{settings_, paths_, prompts_}};
 };
 
 TEST_F(KitTextures, WadHoldsTextures) {
-  const Wad& wad = textures.openWad(settings.default_wad, {});
+  const Wad& wad = textures_.openWad(settings_.default_wad, {});
   EXPECT_GE(wad.count(), 48);
   for (const auto& texture : wad.textures) {
     EXPECT_TRUE(texture->width % 16 == 0 && texture->height % 16 == 0) << texture->name;
@@ -107,7 +107,7 @@ TEST_F(KitTextures, WadHoldsTextures) {
 
 // Row 32 leaves colours as they are, row 63 is black, and the last 32 colours glow in every row.
 TEST_F(KitTextures, LightTableFits) {
-  const auto table = loadColormap({settings, paths, prompts});
+  const auto table = loadColormap({settings_, paths_, prompts_});
   ASSERT_TRUE(table);
   const auto lit = [&](size_t row, size_t colour) {
     return size_t{(*table)[row * PALETTE_COLOURS + colour]};
@@ -120,15 +120,15 @@ TEST_F(KitTextures, LightTableFits) {
 }
 
 TEST_F(KitTextures, MapIsSound) {
-  map m(settings, classes);
+  map m(settings_, classes_);
   const MapReadResult read = ReadMapFile(m, kFolder + "start.map", {});
   EXPECT_TRUE(read.complete && read.camerasRead);
   EXPECT_EQ(read.cutPoints + read.invalidBrushes + read.brushesOfFixedSize, 0);
-  TextureSet set(textures.badtex());
-  textures.openMapWads(m, set, {});
+  TextureSet set(textures_.badtex());
+  textures_.openMapWads(m, set, {});
   bool start = false;
   for (const entity& e : m.entities()) {
-    EXPECT_TRUE(classes.isKnown(e.entityClass())) << e.valueOfKey("classname");
+    EXPECT_TRUE(classes_.isKnown(e.entityClass())) << e.valueOfKey("classname");
     start = start || e.valueOfKey("classname") == "info_player_start";
     for (const brush& b : e.brushes()) {
       EXPECT_FALSE(b.invalid);
@@ -142,7 +142,7 @@ TEST_F(KitTextures, MapIsSound) {
 }
 
 TEST_F(Kit, BarsHoldCommandsOnly) {
-  const std::string text = LoadFile(paths, kFolder + "velkbars.ini");
+  const std::string text = LoadFile(paths_, kFolder + "velkbars.ini");
   Tokenizer tokens(text);
   ASSERT_TRUE(tokens.GetScriptToken(true) && tokens.token() == "bars" && tokens.GetScriptToken(false));
   int gadgets = 0;
@@ -159,13 +159,13 @@ TEST_F(Kit, FirstStartNeedsNoAnswer) {
   const test::TempFolder folder;
   const Surroundings bare{folder.path(), folder.directory("home"), "", ""};
   Observer nobody;
-  Editor editor(FindPlace(bare, kFolder), prompts, nobody);
+  Editor editor(FindPlace(bare, kFolder), prompts_, nobody);
   editor.start();
   EXPECT_EQ(editor.documents().status(), "Welcome to Velk...");
   OpenNamed(editor, folder.directory("home") + "start.map");
   ASSERT_TRUE(editor.documents().current());
   EXPECT_GE(editor.documents().current()->textures.count(), 48);
-  EXPECT_TRUE(prompts.asked.empty());
+  EXPECT_TRUE(prompts_.asked.empty());
 }
 
 }  // namespace

@@ -62,7 +62,7 @@ TEST(MapWriter, TruncatesPointsAndQuotesWhatNeedsIt) {
   for (const auto& [name, written] : names) {
     texture.name = name;
     TextOut out;
-    write(b, out, false);
+    Write(b, out, false);
     EXPECT_EQ(out.take(),
               Format("{\r\n( 0 15 64 ) ( 0 0 -2147483648 ) ( 1 2 3 ) %s 0 0 89 0.500000 1.000000\r\n}\r\n",
                      written));

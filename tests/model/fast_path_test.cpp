@@ -121,7 +121,7 @@ class RandomBrushes {
     for (int i = 0; i < faces; ++i) {
       face f = Face(add(centre, point(reach)), add(centre, point(reach)), add(centre, point(reach)));
       plane p;
-      if (PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], p) && distanceTo(p, centre) > 0) {
+      if (PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], p) && DistanceTo(p, centre) > 0) {
         std::swap(f.planepts[0], f.planepts[2]);
       }
       made.push_back(oneIn(20) && i > 0 ? made[size_t(whole(0, i - 1))] : f);

@@ -36,39 +36,39 @@ class BrowserSelection : public testing::Test {
  protected:
   BrowserSelection() {
     for (const char* name : {"FLOOR", "WALL"}) {
-      wad.textures.push_back(std::make_unique<Texture>());
-      wad.textures.back()->name = name;
+      wad_.textures.push_back(std::make_unique<Texture>());
+      wad_.textures.back()->name = name;
     }
-    set.build({&wad});
+    set_.build({&wad_});
   }
-  Wad wad;
-  TextureRef badtex;
-  TextureSet set{badtex};
-  TextureChoice browser;
+  Wad wad_;
+  TextureRef badtex_;
+  TextureSet set_{badtex_};
+  TextureChoice browser_;
 };
 
 TEST_F(BrowserSelection, SelectingKeepsTheNumbers) {
-  browser.takeFirstTexture(set);
-  EXPECT_EQ(browser.current().name, "FLOOR");
-  StepTextureField(browser, TextureField::Rotate, 1);
-  EXPECT_TRUE(browser.selectTexture(set, 1));
-  for (const int outside : {-1, 2}) EXPECT_FALSE(browser.selectTexture(set, outside));
-  EXPECT_EQ(browser.currentIndex(), 1);
-  EXPECT_EQ(set.currentName + browser.current().name, "WALLWALL");
-  EXPECT_EQ(browser.current().rotate, 5);
-  browser.wadLoaded();
-  EXPECT_TRUE(browser.currentIndex() == 0 && browser.current().rotate == 0);
+  browser_.takeFirstTexture(set_);
+  EXPECT_EQ(browser_.current().name, "FLOOR");
+  StepTextureField(browser_, TextureField::Rotate, 1);
+  EXPECT_TRUE(browser_.selectTexture(set_, 1));
+  for (const int outside : {-1, 2}) EXPECT_FALSE(browser_.selectTexture(set_, outside));
+  EXPECT_EQ(browser_.currentIndex(), 1);
+  EXPECT_EQ(set_.currentName + browser_.current().name, "WALLWALL");
+  EXPECT_EQ(browser_.current().rotate, 5);
+  browser_.wadLoaded();
+  EXPECT_TRUE(browser_.currentIndex() == 0 && browser_.current().rotate == 0);
 }
 
 TEST_F(BrowserSelection, LiftingTakesTheDefinition) {
-  EXPECT_FALSE(browser.liftTexture({"Entity", 90, {1, 2}, {3, 4}}, &set));
-  EXPECT_EQ(browser.current().rotate, 0);
-  EXPECT_TRUE(browser.liftTexture({"none", 45, {1, 2}, {3, 4}}, &set));
-  EXPECT_EQ(browser.currentIndex(), 0);
-  EXPECT_TRUE(browser.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set));  // the set's is WALL
-  EXPECT_EQ(browser.currentIndex(), 1);
-  EXPECT_EQ(set.currentName + browser.current().name, "WALLwall");
-  EXPECT_EQ(browser.current().rotate, 90);
+  EXPECT_FALSE(browser_.liftTexture({"Entity", 90, {1, 2}, {3, 4}}, &set_));
+  EXPECT_EQ(browser_.current().rotate, 0);
+  EXPECT_TRUE(browser_.liftTexture({"none", 45, {1, 2}, {3, 4}}, &set_));
+  EXPECT_EQ(browser_.currentIndex(), 0);
+  EXPECT_TRUE(browser_.liftTexture({"wall", 90, {1, 2}, {3, 4}}, &set_));  // the set's is WALL
+  EXPECT_EQ(browser_.currentIndex(), 1);
+  EXPECT_EQ(set_.currentName + browser_.current().name, "WALLwall");
+  EXPECT_EQ(browser_.current().rotate, 90);
 }
 
 }  // namespace

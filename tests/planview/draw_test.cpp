@@ -15,7 +15,7 @@ using Strokes = std::vector<std::string>;
 struct Drawing : test::PlanFixture {
   test::RecordingCanvas draw(int view = 0) {
     test::RecordingCanvas canvas;
-    drawPlanView(canvas, scene, view);
+    DrawPlanView(canvas, scene, view);
     return canvas;
   }
   Strokes polygons(int view = 0) { return draw(view).starting("polygon"); }
@@ -161,13 +161,13 @@ TEST_F(Drawing, GridDotsStandAtIntersections) {
 TEST(ClipPolygon, CutsAtEveryBorderWithoutOverflow) {
   const ClipRect rect{0, 0, 100, 100};
   Pixel corners[kMaxClipped] = {{INT_MIN, 50}, {50, INT_MIN}, {INT_MAX, 50}, {50, INT_MAX}};
-  EXPECT_EQ(clipPolygon(corners, 4, rect), 4);
+  EXPECT_EQ(ClipPolygon(corners, 4, rect), 4);
   Pixel corner[kMaxClipped] = {{-50, 20}, {20, 20}, {20, 80}};
-  ASSERT_EQ(clipPolygon(corner, 3, rect), 4);
+  ASSERT_EQ(ClipPolygon(corner, 3, rect), 4);
   EXPECT_EQ(corner[0], (Pixel{0, 20}));
   EXPECT_EQ(corner[3], (Pixel{0, 62}));
   Pixel outside[kMaxClipped] = {{-50, 20}, {-20, 20}, {-20, 80}};
-  EXPECT_EQ(clipPolygon(outside, 3, rect), 0);
+  EXPECT_EQ(ClipPolygon(outside, 3, rect), 0);
 }
 
 }  // namespace

@@ -49,7 +49,7 @@ class TinyCanvas : public RasterCanvas {
 
 using Rows = std::vector<std::string>;
 
-Rows lineRows(int width, Pixel from, Pixel to, double scale = 1) {
+Rows LineRows(int width, Pixel from, Pixel to, double scale = 1) {
   TinyCanvas canvas(8, 4, scale);
   canvas.line({kInk, width}, from, to);
   EXPECT_TRUE(canvas.frameIsClean());
@@ -57,18 +57,18 @@ Rows lineRows(int width, Pixel from, Pixel to, double scale = 1) {
 }
 
 TEST(RasterCanvas, DrawsLines) {
-  EXPECT_EQ(lineRows(1, {1, 1}, {6, 1}), (Rows{"........", ".######.", "........", "........"}));
-  EXPECT_EQ(lineRows(1, {2, 3}, {2, 1}), (Rows{"........", "..#.....", "..#.....", "..#....."}));
-  EXPECT_EQ(lineRows(1, {0, 0}, {7, 3}), (Rows{"##......", "..##....", "....##..", "......##"}));
-  EXPECT_EQ(lineRows(1, {0, 3}, {2, 0}), (Rows{"..#.....", ".#......", ".#......", "#......."}));
-  EXPECT_EQ(lineRows(2, {1, 1}, {4, 1}), (Rows{"........", ".#####..", ".#####..", "........"}));
-  EXPECT_EQ(lineRows(2, {0, 0}, {6, 2}), (Rows{"##......", "#####...", "..#####.", ".....##."}));
-  EXPECT_EQ(lineRows(1, {5, 2}, {5, 2}), (Rows{"........", "........", ".....#..", "........"}));
+  EXPECT_EQ(LineRows(1, {1, 1}, {6, 1}), (Rows{"........", ".######.", "........", "........"}));
+  EXPECT_EQ(LineRows(1, {2, 3}, {2, 1}), (Rows{"........", "..#.....", "..#.....", "..#....."}));
+  EXPECT_EQ(LineRows(1, {0, 0}, {7, 3}), (Rows{"##......", "..##....", "....##..", "......##"}));
+  EXPECT_EQ(LineRows(1, {0, 3}, {2, 0}), (Rows{"..#.....", ".#......", ".#......", "#......."}));
+  EXPECT_EQ(LineRows(2, {1, 1}, {4, 1}), (Rows{"........", ".#####..", ".#####..", "........"}));
+  EXPECT_EQ(LineRows(2, {0, 0}, {6, 2}), (Rows{"##......", "#####...", "..#####.", ".....##."}));
+  EXPECT_EQ(LineRows(1, {5, 2}, {5, 2}), (Rows{"........", "........", ".....#..", "........"}));
 }
 
 TEST(RasterCanvas, ALineMeetsTheSamePixelsInBothDirections) {
   for (int x = 0; x < 8; ++x) {
-    for (int y = 0; y < 4; ++y) EXPECT_EQ(lineRows(1, {3, 1}, {x, y}), lineRows(1, {x, y}, {3, 1}));
+    for (int y = 0; y < 4; ++y) EXPECT_EQ(LineRows(1, {3, 1}, {x, y}), LineRows(1, {x, y}, {3, 1}));
   }
 }
 
@@ -93,11 +93,11 @@ TEST(RasterCanvas, ClippingKeepsThePixelsOfTheWholeLine) {
 }
 
 TEST(RasterCanvas, FarCoordinatesNeitherOverflowNorLoseTheLine) {
-  EXPECT_EQ(lineRows(1, {INT_MIN, 2}, {INT_MAX, 2})[2], "########");
-  EXPECT_EQ(lineRows(1, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}),
+  EXPECT_EQ(LineRows(1, {INT_MIN, 2}, {INT_MAX, 2})[2], "########");
+  EXPECT_EQ(LineRows(1, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}),
             (Rows{"#.......", ".#......", "..#.....", "...#...."}));
-  EXPECT_EQ(lineRows(3, {INT_MIN, INT_MAX}, {INT_MAX, INT_MAX - 5}), Rows(4, "........"));
-  EXPECT_EQ(lineRows(2, {INT_MAX, 0}, {INT_MAX, 3}), Rows(4, "........"));
+  EXPECT_EQ(LineRows(3, {INT_MIN, INT_MAX}, {INT_MAX, INT_MAX - 5}), Rows(4, "........"));
+  EXPECT_EQ(LineRows(2, {INT_MAX, 0}, {INT_MAX, 3}), Rows(4, "........"));
   TinyCanvas canvas(8, 4, 2);
   canvas.fill({INT_MIN, INT_MIN, INT_MAX, INT_MAX}, kInk);
   canvas.fill({INT_MAX, 0, INT_MAX, 4}, kInk);
@@ -107,8 +107,8 @@ TEST(RasterCanvas, FarCoordinatesNeitherOverflowNorLoseTheLine) {
 }
 
 TEST(RasterCanvas, DenseScreensGetWiderStrokesAtDevicePositions) {
-  EXPECT_EQ(lineRows(1, {1, 0}, {2, 0}, 2), (Rows{"..####..", "..####..", "........", "........"}));
-  EXPECT_EQ(lineRows(1, {1, 1}, {1, 1}, 1.5), (Rows{"........", "........", "..##....", "..##...."}));
+  EXPECT_EQ(LineRows(1, {1, 0}, {2, 0}, 2), (Rows{"..####..", "..####..", "........", "........"}));
+  EXPECT_EQ(LineRows(1, {1, 1}, {1, 1}, 1.5), (Rows{"........", "........", "..##....", "..##...."}));
   TinyCanvas canvas(8, 4, 2);
   const Pixel corners[] = {{1, 0}, {5, 0}, {5, 2}, {1, 2}};
   canvas.devicePolygon({kInk, 1}, corners);

@@ -15,18 +15,18 @@ TEST(Scale, StepsStopAtTheLimits) {
   for (const auto& [from, up, down] : cases) {
     Settings settings;
     settings.scale = from;
-    EXPECT_EQ(scaleUp(settings), "Scale increased...");
+    EXPECT_EQ(ScaleUp(settings), "Scale increased...");
     EXPECT_FLOAT_EQ(settings.scale, up);
     settings.scale = from;
-    EXPECT_EQ(scaleDown(settings), "Scale decreased...");
+    EXPECT_EQ(ScaleDown(settings), "Scale decreased...");
     EXPECT_FLOAT_EQ(settings.scale, down);
   }
 }
 
 TEST(Scale, OtherScaleTakesAPercentage) {
   Settings settings;
-  EXPECT_EQ(setScalePercent(settings, ""), std::nullopt);
-  EXPECT_EQ(scalePercentText(settings), "100.0");
+  EXPECT_EQ(SetScalePercent(settings, ""), std::nullopt);
+  EXPECT_EQ(ScalePercentText(settings), "100.0");
   const struct {
     const char* text;
     float scale;
@@ -35,7 +35,7 @@ TEST(Scale, OtherScaleTakesAPercentage) {
                {"250", 2.5f, "Scale set to   2.5..."},
                {"nonsense", 0.01f, "Scale set to   0.0..."}};
   for (const auto& c : cases) {
-    EXPECT_EQ(setScalePercent(settings, c.text), c.status);
+    EXPECT_EQ(SetScalePercent(settings, c.text), c.status);
     EXPECT_FLOAT_EQ(settings.scale, c.scale);
   }
 }
@@ -47,7 +47,7 @@ TEST(Scale, TextIsAReciprocalOrAPercentage) {
 }
 
 // The labels, a star before those that are checked and a bar for a separator.
-std::string labels(const StripMenu& menu) {
+std::string Labels(const StripMenu& menu) {
   std::string result;
   for (const ViewMenuItem& item : menu.items) {
     result += item.separator ? "| " : (item.checked ? "*" : "") + item.label + ' ';
@@ -58,24 +58,24 @@ std::string labels(const StripMenu& menu) {
 TEST_F(PlanFixture, StripFieldsOpenTheirMenus) {
   m.currentCamera = 1;
   settings.scale = 0.5f;
-  const auto menu = [&](StripField field) { return *stripMenu(field, settings, &m); };
-  EXPECT_EQ(labels(menu(StripField::Grid)), "1 2 4 *8 16 32 64 128 256 | Use Grid Dots... ");
-  EXPECT_EQ(labels(menu(StripField::Scale)),
+  const auto menu = [&](StripField field) { return *MenuOfStrip(field, settings, &m); };
+  EXPECT_EQ(Labels(menu(StripField::Grid)), "1 2 4 *8 16 32 64 128 256 | Use Grid Dots... ");
+  EXPECT_EQ(Labels(menu(StripField::Scale)),
             "1/64 1/32 1/16 1/8 25% *50% 100% 200% 400% 800% 1600% | Other Scale... ");
-  EXPECT_EQ(labels(menu(StripField::Camera)),
+  EXPECT_EQ(Labels(menu(StripField::Camera)),
             "Camera 1 *Camera 2 Camera 3 Camera 4 Camera 5 | Show Cameras... | Unlock Cameras... ");
   EXPECT_EQ(menu(StripField::Scale).at, (Pixel{30, 13}));
   EXPECT_EQ(menu(StripField::Camera).at, (Pixel{110, 13}));
   EXPECT_EQ(menu(StripField::Scale).items[10].command, "590");
-  EXPECT_FALSE(stripMenu(StripField::Direction, settings, &m));
-  toggleGridStyle(settings);
+  EXPECT_FALSE(MenuOfStrip(StripField::Direction, settings, &m));
+  ToggleGridStyle(settings);
   EXPECT_EQ(menu(StripField::Grid).items.back().label, "Use Grid Lines...");
 }
 
 TEST(HeaderStrip, FieldsNeverOverlapAndLeaveWhole) {
   size_t shown = 0;
   for (int width = 0; width < 1000; ++width) {
-    const std::vector<StripSlot> slots = layoutStrip(width);
+    const std::vector<StripSlot> slots = LayoutStrip(width);
     EXPECT_GE(slots.size(), shown);
     shown = slots.size();
     for (size_t i = 0; i < slots.size(); ++i) {
@@ -86,11 +86,11 @@ TEST(HeaderStrip, FieldsNeverOverlapAndLeaveWhole) {
     }
   }
   EXPECT_EQ(shown, 8u);
-  EXPECT_EQ(stripFieldAt(320, {25, 5}), StripField::Grid);
-  EXPECT_EQ(stripFieldAt(320, {26, 5}), StripField::Scale);
-  EXPECT_EQ(stripFieldAt(320, {110, 5}), StripField::Camera);
-  EXPECT_EQ(stripFieldAt(320, {30, kStripHeight}), std::nullopt);
-  EXPECT_EQ(stripFieldAt(100, {110, 5}), std::nullopt);
+  EXPECT_EQ(StripFieldAt(320, {25, 5}), StripField::Grid);
+  EXPECT_EQ(StripFieldAt(320, {26, 5}), StripField::Scale);
+  EXPECT_EQ(StripFieldAt(320, {110, 5}), StripField::Camera);
+  EXPECT_EQ(StripFieldAt(320, {30, kStripHeight}), std::nullopt);
+  EXPECT_EQ(StripFieldAt(100, {110, 5}), std::nullopt);
 }
 
 }  // namespace

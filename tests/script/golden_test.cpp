@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string fileText(const fs::path& file) {
+std::string FileText(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
 }
@@ -32,7 +32,7 @@ class WorkingIn {
   fs::path before_;
 };
 
-std::string runCase(const fs::path& folder) {
+std::string RunCase(const fs::path& folder) {
   test::Session session;
   fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing | fs::copy_options::recursive);
   const WorkingIn home(session.home.path());
@@ -46,11 +46,11 @@ class Golden : public testing::TestWithParam<std::string> {};
 
 TEST_P(Golden, PrintsWhatIsExpected) {
   const fs::path folder = fs::path(GOLDEN_FOLDER) / GetParam();
-  if (std::getenv("VELK_WRITE_GOLDEN")) std::ofstream(folder / "expected") << runCase(folder);
-  EXPECT_EQ(runCase(folder), fileText(folder / "expected"));
+  if (std::getenv("VELK_WRITE_GOLDEN")) std::ofstream(folder / "expected") << RunCase(folder);
+  EXPECT_EQ(RunCase(folder), FileText(folder / "expected"));
 }
 
-std::vector<std::string> caseNames() {
+std::vector<std::string> CaseNames() {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(GOLDEN_FOLDER)) {
     names.push_back(entry.path().filename().string());
@@ -59,7 +59,7 @@ std::vector<std::string> caseNames() {
   return names;
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(caseNames()),
+INSTANTIATE_TEST_SUITE_P(Cases, Golden, testing::ValuesIn(CaseNames()),
                          [](const auto& test) { return test.param; });
 
 }  // namespace

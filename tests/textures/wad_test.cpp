@@ -19,30 +19,30 @@ using test::WadBuilder;
 class WadTest : public testing::Test {
  protected:
   WadTest() {
-    settings.wad_directory = folder.directory("wads");
-    settings.entity_qc_directory = folder.directory("qc");
+    settings_.wad_directory = folder_.directory("wads");
+    settings_.entity_qc_directory = folder_.directory("qc");
   }
 
   Wad load(const std::string& name) {
     Wad wad;
-    loadWad(wad, name, services, random, [this](const WadProgress& p) { told.push_back(p.text); });
+    LoadWad(wad, name, services_, random_, [this](const WadProgress& p) { told_.push_back(p.text); });
     return wad;
   }
   // The textures of a wad with these contents.
   Wad read(const std::string& contents) {
     Wad wad;
     wad.path = "a.wad";
-    loadTextures(contents, wad, 3, random, {});
+    LoadTextures(contents, wad, 3, random_, {});
     return wad;
   }
 
-  TempFolder folder;
-  Settings settings;
-  Paths paths;
-  ScriptedPrompts prompts;
-  Random random;
-  WadServices services{settings, paths, prompts};
-  std::vector<std::string> told;
+  TempFolder folder_;
+  Settings settings_;
+  Paths paths_;
+  ScriptedPrompts prompts_;
+  Random random_;
+  WadServices services_{settings_, paths_, prompts_};
+  std::vector<std::string> told_;
 };
 
 TEST_F(WadTest, TexturesComeSortedWithUpperCaseNames) {
@@ -113,67 +113,68 @@ TEST_F(WadTest, PlacesOutsideTheFileAreRefused) {
 }
 
 TEST_F(WadTest, FilesAreFoundInTheWadDirectory) {
-  folder.write("wads/base.wad", WadBuilder().texture("wall").palette().bytes("WAD3"));
-  folder.write("wads/gfx/deep.wad", WadBuilder().palette().bytes());
+  folder_.write("wads/base.wad", WadBuilder().texture("wall").palette().bytes("WAD3"));
+  folder_.write("wads/gfx/deep.wad", WadBuilder().palette().bytes());
   for (const char* name : {"base.wad", "gfx/base.wad", "\\quake\\id1\\gfx\\BASE.WAD", "gfx/deep.wad"}) {
-    EXPECT_TRUE(load(name).path.starts_with(settings.wad_directory)) << name;
+    EXPECT_TRUE(load(name).path.starts_with(settings_.wad_directory)) << name;
   }
 }
 
 TEST_F(WadTest, AMissingWadIsAskedFor) {
-  prompts.answer(folder.write("else.wad", WadBuilder().texture("wall").palette().bytes()));
+  prompts_.answer(folder_.write("else.wad", WadBuilder().texture("wall").palette().bytes()));
   EXPECT_EQ(load("gfx\\none.wad").count(), 1);
-  ASSERT_EQ(prompts.choosers.size(), 1u);
-  EXPECT_EQ(prompts.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
-  EXPECT_EQ(prompts.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
-  EXPECT_EQ(prompts.choosers[0].directory, settings.wad_directory);
+  ASSERT_EQ(prompts_.choosers.size(), 1u);
+  EXPECT_EQ(prompts_.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
+  EXPECT_EQ(prompts_.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
+  EXPECT_EQ(prompts_.choosers[0].directory, settings_.wad_directory);
 
-  prompts.cancel();
+  prompts_.cancel();
   EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
-  prompts.answer("/nowhere/none.wad");
+  prompts_.answer("/nowhere/none.wad");
   EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
 }
 
 TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
   const std::string plain =
-      folder.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
+      folder_.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
   std::string lines;
   for (int i = 0; i < 256; ++i) lines += "1 2 3\n";
-  prompts.cancel();
+  prompts_.cancel();
   EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
-  EXPECT_EQ(prompts.asked.back(), "Select Quake.Pal File|quake.pal");
-  prompts.answer(folder.write("own.pal", lines));
+  EXPECT_EQ(prompts_.asked.back(), "Select Quake.Pal File|quake.pal");
+  prompts_.answer(folder_.write("own.pal", lines));
   EXPECT_EQ(load(plain).palette[2], 3);
-  folder.write("qc/QUAKE.PAL", lines);
+  folder_.write("qc/QUAKE.PAL", lines);
   EXPECT_EQ(load(plain).palette[765], 1);
 
-  const std::string own = folder.write("own.wad", WadBuilder().palette(test::GreyPalette() + "more").bytes());
-  settings.gammashift = 128;
+  const std::string own =
+      folder_.write("own.wad", WadBuilder().palette(test::GreyPalette() + "more").bytes());
+  settings_.gammashift = 128;
   EXPECT_EQ(load(own).palette[3 * 100], 177);
-  EXPECT_FATAL(load(folder.write("short.wad", "not a wad")),
-               "Error: " + folder.directory() + "short.wad isn't a wadfile");
+  EXPECT_FATAL(load(folder_.write("short.wad", "not a wad")),
+               "Error: " + folder_.directory() + "short.wad isn't a wadfile");
 }
 
 TEST_F(WadTest, OutlinesAndProgress) {
-  settings.brush_outline = {100, 100, 100};
+  settings_.brush_outline = {100, 100, 100};
   WadBuilder builder;
   for (int i = 0; i < 6; ++i) builder.texture("t");
-  const std::string path = folder.write("t.wad", builder.palette().bytes());
+  const std::string path = folder_.write("t.wad", builder.palette().bytes());
   EXPECT_EQ(load(path).outlines.brush, 100);
-  EXPECT_EQ(told, (std::vector<std::string>{"", "Loading " + path + " [0/7] ", "Loading " + path + " [5/7] ",
-                                            "Done..."}));
+  EXPECT_EQ(told_, (std::vector<std::string>{"", "Loading " + path + " [0/7] ", "Loading " + path + " [5/7] ",
+                                             "Done..."}));
 }
 
 TEST_F(WadTest, ColormapIsWholeOrNone) {
-  prompts.cancel();
-  EXPECT_FATAL(loadColormap(services), "You must select a valid colormap.lmp file.");
-  EXPECT_EQ(prompts.choosers[0].title, "Where is the colormap.lmp file?");
-  prompts.answer("/nowhere/colormap.lmp");
-  EXPECT_FATAL(loadColormap(services), "Invalid colormap.lmp file.");
-  prompts.answer(folder.write("own.lmp", std::string(16000, 'x')));
-  EXPECT_EQ(loadColormap(services), nullptr);
-  folder.write("qc/colormap.lmp", std::string(16384, 'x'));
-  const auto table = loadColormap(services);
+  prompts_.cancel();
+  EXPECT_FATAL(loadColormap(services_), "You must select a valid colormap.lmp file.");
+  EXPECT_EQ(prompts_.choosers[0].title, "Where is the colormap.lmp file?");
+  prompts_.answer("/nowhere/colormap.lmp");
+  EXPECT_FATAL(loadColormap(services_), "Invalid colormap.lmp file.");
+  prompts_.answer(folder_.write("own.lmp", std::string(16000, 'x')));
+  EXPECT_EQ(loadColormap(services_), nullptr);
+  folder_.write("qc/colormap.lmp", std::string(16384, 'x'));
+  const auto table = loadColormap(services_);
   ASSERT_TRUE(table);
   EXPECT_EQ(table->back(), 'x');
 }

@@ -26,36 +26,36 @@ Surface Liquid(Ramp ramp, double level, double contrast, uint32_t seed) {
 }
 
 Surface Lava() {
-  Surface surface(64, 64, ramp::fire, 0.3);
+  Surface surface(64, 64, ramp::kFire, 0.3);
   surface.eachPart([](double u, double v, Texel& t) {
     const Cell crust = CellNoise(u + 0.06 * Swirl(u, v, 4, 171), v, 5, 5, 172);
     const double heat = 0.82 - crust.edge * 1.5 + 0.5 * (Swirl(u, v, 5, 173) - 0.5);
     t.level = heat;
-    if (heat < 0.28) t.ramp = ramp::rust, t.level = 0.2 + 0.4 * SmoothNoise(u, v, 16, 16, 174);
+    if (heat < 0.28) t.ramp = ramp::kRust, t.level = 0.2 + 0.4 * SmoothNoise(u, v, 16, 16, 174);
   });
   return surface;
 }
 
 Surface Portal() {
-  Surface surface(64, 64, ramp::violet, 0.2);
+  Surface surface(64, 64, ramp::kViolet, 0.2);
   surface.eachPart([](double u, double v, Texel& t) {
     const double glow = Swirl(u, v, 3, 175);
-    t.ramp = glow > 0.56 ? ramp::glowBlue : ramp::violet;
+    t.ramp = glow > 0.56 ? ramp::kGlowBlue : ramp::kViolet;
     t.level = glow > 0.56 ? (glow - 0.5) * 3 : 0.1 + glow * 0.8;
     if (Hash(static_cast<int>(u * 64), static_cast<int>(v * 64), 176) > 0.985)
-      t.ramp = ramp::glowBlue, t.level = 1;
+      t.ramp = ramp::kGlowBlue, t.level = 1;
   });
   return surface;
 }
 
 // A sky: the right half is the far layer, the left half the near one, whose black shows the far layer.
 Surface Sky(Ramp far, Ramp near, double stars, uint32_t seed) {
-  Surface sky(256, 128, ramp::grey, 0);
+  Surface sky(256, 128, ramp::kGrey, 0);
   sky.each({128, 0, 128, 128}, [&](int x, int y, Texel& t) {
     const double u = x / 128.0, v = y / 128.0;
     t.ramp = far;
     t.level = 0.12 + 0.7 * std::max(0.0, Swirl(u, v, 3, seed) - 0.3);
-    if (Hash(x, y, seed + 5) < stars) t.ramp = ramp::glowBlue, t.level = 0.5 + 0.5 * Hash(x, y, seed + 6);
+    if (Hash(x, y, seed + 5) < stars) t.ramp = ramp::kGlowBlue, t.level = 0.5 + 0.5 * Hash(x, y, seed + 6);
   });
   sky.each({0, 0, 128, 128}, [&](int x, int y, Texel& t) {
     const double cover = Swirl(x / 128.0, y / 128.0, 4, seed + 7) - 0.5 + 0.06 * (Hash(x, y, seed + 8) - 0.5);
@@ -69,7 +69,7 @@ Surface Word(std::string_view text, Ramp ramp, int x) {
   Surface surface(64, 64, ramp, 0.4);
   for (int i = 0; i < 64; i += 32) {
     surface.each({0, i, 64, 32}, [&](int, int j, Texel& t) { t.level += 0.006 * (j - i - 16); });
-    Write(surface, x + (i ? 8 : 0), i + 12, text, ramp::grey, 1);
+    Write(surface, x + (i ? 8 : 0), i + 12, text, ramp::kGrey, 1);
   }
   surface.raise(surface.all(), 2);
   surface.light();
@@ -79,24 +79,24 @@ Surface Word(std::string_view text, Ramp ramp, int x) {
 }  // namespace
 
 void AddLiquids(Catalogue& out) {
-  out.push_back({"*WATER", Liquid(ramp::blue, 0.42, 0.5, 181).image()});
-  out.push_back({"*WATER_DARK", Liquid(ramp::teal, 0.3, 0.45, 182).image()});
-  out.push_back({"*SLIME", Liquid(ramp::slime, 0.44, 0.55, 183).image()});
-  out.push_back({"*BLOOD", Liquid(ramp::red, 0.36, 0.45, 184).image()});
+  out.push_back({"*WATER", Liquid(ramp::kBlue, 0.42, 0.5, 181).image()});
+  out.push_back({"*WATER_DARK", Liquid(ramp::kTeal, 0.3, 0.45, 182).image()});
+  out.push_back({"*SLIME", Liquid(ramp::kSlime, 0.44, 0.55, 183).image()});
+  out.push_back({"*BLOOD", Liquid(ramp::kRed, 0.36, 0.45, 184).image()});
   out.push_back({"*LAVA", Lava().image()});
   out.push_back({"*TELEPORT", Portal().image()});
 }
 
 void AddSkies(Catalogue& out) {
-  out.push_back({"SKY_DUSK", Sky(ramp::violet, ramp::flesh, 0.0, 191).image()});
-  out.push_back({"SKY_NIGHT", Sky(ramp::blue, ramp::steel, 0.006, 192).image()});
+  out.push_back({"SKY_DUSK", Sky(ramp::kViolet, ramp::kFlesh, 0.0, 191).image()});
+  out.push_back({"SKY_NIGHT", Sky(ramp::kBlue, ramp::kSteel, 0.006, 192).image()});
 }
 
 void AddSpecials(Catalogue& out) {
-  out.push_back({"CLIP", Word("CLIP", ramp::violet, 6).image()});
-  out.push_back({"TRIGGER", Word("TRIGGER", ramp::gold, 6).image()});
-  out.push_back({"SKIP", Word("SKIP", ramp::teal, 6).image()});
-  out.push_back({"BLACK", Surface(16, 16, ramp::grey, 0).image()});
+  out.push_back({"CLIP", Word("CLIP", ramp::kViolet, 6).image()});
+  out.push_back({"TRIGGER", Word("TRIGGER", ramp::kGold, 6).image()});
+  out.push_back({"SKIP", Word("SKIP", ramp::kTeal, 6).image()});
+  out.push_back({"BLACK", Surface(16, 16, ramp::kGrey, 0).image()});
 }
 
 }  // namespace velk::kit

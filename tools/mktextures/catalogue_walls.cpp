@@ -15,7 +15,7 @@ void GrowMoss(Surface& surface, bool fromBelow, uint32_t seed) {
     const double cover = CloudNoise(u, v, 4, 4, 3, seed) + (fromBelow ? 0.5 * (v - 0.75) : 0.0);
     const double ragged =
         cover + 0.05 * (Hash(static_cast<int>(u * 97), static_cast<int>(v * 97), seed + 3) - 0.5);
-    if (ragged > 0.53) t.ramp = ramp::moss, t.level = t.level * 0.85 + 0.12 * (cover - 0.5);
+    if (ragged > 0.53) t.ramp = ramp::kMoss, t.level = t.level * 0.85 + 0.12 * (cover - 0.5);
   });
 }
 
@@ -63,7 +63,7 @@ Surface Marble(Ramp ramp, double level, uint32_t seed) {
 
 // Square tiles in two tones.
 Surface Tiles(int size, int tile, Ramp first, Ramp second, double level, uint32_t seed) {
-  Surface surface(size, size, ramp::grey, 0.15);
+  Surface surface(size, size, ramp::kGrey, 0.15);
   for (int y = 0; y < size; y += tile) {
     for (int x = 0; x < size; x += tile) {
       const bool odd = (x / tile + y / tile) % 2 == 1;
@@ -77,10 +77,10 @@ Surface Tiles(int size, int tile, Ramp first, Ramp second, double level, uint32_
 }
 
 Surface Grass() {
-  Surface surface(64, 64, ramp::moss, 0.38);
+  Surface surface(64, 64, ramp::kMoss, 0.38);
   surface.eachPart([&](double u, double v, Texel& t) {
     t.level += 0.35 * (CloudNoise(u, v, 4, 4, 3, 21) - 0.5) + 0.3 * (SmoothNoise(u, v, 32, 16, 22) - 0.5);
-    if (CloudNoise(u, v, 5, 5, 3, 23) > 0.62) t.ramp = ramp::wood;
+    if (CloudNoise(u, v, 5, 5, 3, 23) > 0.62) t.ramp = ramp::kWood;
   });
   surface.grain(0.16, 24);
   return surface;
@@ -88,8 +88,8 @@ Surface Grass() {
 
 Surface Runes() {
   Surface surface =
-      MakeMasonry({.stoneWidth = 64, .stoneHeight = 64, .stone = ramp::stone, .level = 0.36, .rough = 1.5});
-  Surface carved(64, 64, ramp::stone, 0);
+      MakeMasonry({.stoneWidth = 64, .stoneHeight = 64, .stone = ramp::kStone, .level = 0.36, .rough = 1.5});
+  Surface carved(64, 64, ramp::kStone, 0);
   carved.frame({8, 8, 48, 48}, 3, 2);
   const double middle = 32;
   carved.each(carved.all(), [&](int x, int y, Texel& t) {
@@ -105,41 +105,41 @@ Surface Runes() {
 }  // namespace
 
 void AddWalls(Catalogue& out) {
-  const Masonry greyBrick = Brick(ramp::grey, 0.4, 13),
-                largeBlock = Block(128, 64, 32, ramp::stone, 0.42, 31);
+  const Masonry greyBrick = Brick(ramp::kGrey, 0.4, 13),
+                largeBlock = Block(128, 64, 32, ramp::kStone, 0.42, 31);
   Surface mossy = MakeMasonry(greyBrick), overgrown = MakeMasonry(largeBlock);
   GrowMoss(mossy, true, 15);
   GrowMoss(overgrown, false, 36);
-  out.push_back({"BRICK_RED", MakeMasonry(Brick(ramp::rust, 0.36, 1)).image()});
-  out.push_back({"BRICK_BROWN", MakeMasonry(Brick(ramp::wood, 0.46, 12)).image()});
+  out.push_back({"BRICK_RED", MakeMasonry(Brick(ramp::kRust, 0.36, 1)).image()});
+  out.push_back({"BRICK_BROWN", MakeMasonry(Brick(ramp::kWood, 0.46, 12)).image()});
   out.push_back({"BRICK_GREY", MakeMasonry(greyBrick).image()});
   out.push_back({"BRICK_MOSS", mossy.image()});
   out.push_back(
-      {"BRICK_SMALL", MakeMasonry({.stoneWidth = 8, .stoneHeight = 4, .stone = ramp::sand}).image()});
+      {"BRICK_SMALL", MakeMasonry({.stoneWidth = 8, .stoneHeight = 4, .stone = ramp::kSand}).image()});
   out.push_back({"STONE_BLOCK", MakeMasonry(largeBlock).image()});
   out.push_back({"STONE_MOSS", overgrown.image()});
-  out.push_back({"STONE_CUT", MakeMasonry(Block(64, 32, 16, ramp::stone, 0.42, 32)).image()});
-  out.push_back({"STONE_CASTLE", MakeMasonry(Block(128, 32, 32, ramp::grey, 0.38, 33)).image()});
-  out.push_back({"STONE_BLUE", MakeMasonry(Block(64, 32, 16, ramp::steel, 0.42, 35)).image()});
+  out.push_back({"STONE_CUT", MakeMasonry(Block(64, 32, 16, ramp::kStone, 0.42, 32)).image()});
+  out.push_back({"STONE_CASTLE", MakeMasonry(Block(128, 32, 32, ramp::kGrey, 0.38, 33)).image()});
+  out.push_back({"STONE_BLUE", MakeMasonry(Block(64, 32, 16, ramp::kSteel, 0.42, 35)).image()});
   out.push_back({"STONE_RUNE", Runes().image()});
-  out.push_back({"SAND_BLOCK", MakeMasonry(Block(64, 32, 32, ramp::sand, 0.44, 34)).image()});
-  out.push_back({"ROCK_GREY", MakeRock(128, ramp::grey, 0.36, 1.3, 41).image()});
-  out.push_back({"ROCK_BROWN", MakeRock(128, ramp::stone, 0.36, 1.4, 42).image()});
-  out.push_back({"ROCK_RED", MakeRock(64, ramp::rust, 0.36, 1.2, 43).image()});
-  out.push_back({"PLASTER_SAND", Plaster(ramp::sand, 0.48, 51).image()});
-  out.push_back({"PLASTER_GREY", Plaster(ramp::stone, 0.46, 52).image()});
-  out.push_back({"MARBLE_GREEN", Marble(ramp::teal, 0.36, 53).image()});
-  out.push_back({"MARBLE_RED", Marble(ramp::flesh, 0.36, 54).image()});
+  out.push_back({"SAND_BLOCK", MakeMasonry(Block(64, 32, 32, ramp::kSand, 0.44, 34)).image()});
+  out.push_back({"ROCK_GREY", MakeRock(128, ramp::kGrey, 0.36, 1.3, 41).image()});
+  out.push_back({"ROCK_BROWN", MakeRock(128, ramp::kStone, 0.36, 1.4, 42).image()});
+  out.push_back({"ROCK_RED", MakeRock(64, ramp::kRust, 0.36, 1.2, 43).image()});
+  out.push_back({"PLASTER_SAND", Plaster(ramp::kSand, 0.48, 51).image()});
+  out.push_back({"PLASTER_GREY", Plaster(ramp::kStone, 0.46, 52).image()});
+  out.push_back({"MARBLE_GREEN", Marble(ramp::kTeal, 0.36, 53).image()});
+  out.push_back({"MARBLE_RED", Marble(ramp::kFlesh, 0.36, 54).image()});
 }
 
 void AddFloors(Catalogue& out) {
-  out.push_back({"FLOOR_COBBLE", MakeCobbles(64, 5, ramp::stone, ramp::stone, 0.44, 61).image()});
-  out.push_back({"FLOOR_PEBBLE", MakeCobbles(64, 9, ramp::grey, ramp::stone, 0.4, 62).image()});
-  out.push_back({"FLOOR_FLAGS", MakeCobbles(128, 4, ramp::steel, ramp::stone, 0.42, 63).image()});
-  out.push_back({"FLOOR_TILE", Tiles(64, 32, ramp::stone, ramp::stone, 0.42, 64).image()});
-  out.push_back({"FLOOR_CHECK", Tiles(64, 16, ramp::stone, ramp::rust, 0.38, 65).image()});
-  out.push_back({"FLOOR_SLAB", Tiles(128, 64, ramp::grey, ramp::grey, 0.36, 66).image()});
-  out.push_back({"DIRT", MakeRock(64, ramp::wood, 0.36, 0.6, 67).image()});
+  out.push_back({"FLOOR_COBBLE", MakeCobbles(64, 5, ramp::kStone, ramp::kStone, 0.44, 61).image()});
+  out.push_back({"FLOOR_PEBBLE", MakeCobbles(64, 9, ramp::kGrey, ramp::kStone, 0.4, 62).image()});
+  out.push_back({"FLOOR_FLAGS", MakeCobbles(128, 4, ramp::kSteel, ramp::kStone, 0.42, 63).image()});
+  out.push_back({"FLOOR_TILE", Tiles(64, 32, ramp::kStone, ramp::kStone, 0.42, 64).image()});
+  out.push_back({"FLOOR_CHECK", Tiles(64, 16, ramp::kStone, ramp::kRust, 0.38, 65).image()});
+  out.push_back({"FLOOR_SLAB", Tiles(128, 64, ramp::kGrey, ramp::kGrey, 0.36, 66).image()});
+  out.push_back({"DIRT", MakeRock(64, ramp::kWood, 0.36, 0.6, 67).image()});
   out.push_back({"GRASS", Grass().image()});
 }
 

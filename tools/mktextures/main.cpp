@@ -12,9 +12,9 @@ namespace velk::kit {
 namespace {
 
 Image MissingTexture() {
-  Surface surface(32, 32, ramp::violet, 0.6);
+  Surface surface(32, 32, ramp::kViolet, 0.6);
   surface.each(surface.all(), [](int x, int y, Texel& t) {
-    if ((x / 8 + y / 8) % 2 == 1) t.ramp = ramp::grey, t.level = 0.1;
+    if ((x / 8 + y / 8) % 2 == 1) t.ramp = ramp::kGrey, t.level = 0.1;
   });
   return surface.image();
 }

@@ -128,7 +128,7 @@ Surface MakePlates(int width, int height, int plateWidth, int plateHeight, Ramp 
 }
 
 Surface Quarter(const Surface& surface) {
-  Surface turned(surface.height(), surface.width(), ramp::grey, 0);
+  Surface turned(surface.height(), surface.width(), ramp::kGrey, 0);
   turned.each(turned.all(), [&](int x, int y, Texel& t) { t = surface.at(y, x); });
   return turned;
 }

@@ -11,7 +11,7 @@ namespace velk::kit {
 struct Masonry {
   int width = 64, height = 64;
   int stoneWidth = 16, stoneHeight = 8;
-  Ramp stone = ramp::rust, joint = ramp::stone;
+  Ramp stone = ramp::kRust, joint = ramp::kStone;
   double level = 0.36, jointLevel = 0.3;
   double variety = 0.12;  // how much the stones differ in brightness
   double rough = 1.0;     // height of the unevenness on the stones, texels

@@ -21,10 +21,10 @@ struct Ramp {
 };
 
 namespace ramp {
-inline constexpr Ramp grey{0}, stone{16}, wood{32}, steel{48}, rust{64}, moss{80}, blue{96}, sand{112},
-    slime{128}, red{144}, flesh{160}, gold{176}, violet{192}, teal{208};
+inline constexpr Ramp kGrey{0}, kStone{16}, kWood{32}, kSteel{48}, kRust{64}, kMoss{80}, kBlue{96},
+    kSand{112}, kSlime{128}, kRed{144}, kFlesh{160}, kGold{176}, kViolet{192}, kTeal{208};
 // Colours that no light changes.
-inline constexpr Ramp fire{224}, glowBlue{240, 6}, glowGreen{246, 4}, glowRed{250, 3}, glowWhite{253, 2};
+inline constexpr Ramp kFire{224}, kGlowBlue{240, 6}, kGlowGreen{246, 4}, kGlowRed{250, 3}, kGlowWhite{253, 2};
 }  // namespace ramp
 
 inline constexpr int kFirstFullBright = 224;

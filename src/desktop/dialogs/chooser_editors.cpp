@@ -19,7 +19,7 @@ constexpr int kSwatchWidth = 28;
 constexpr int kSwatchHeight = 16;
 constexpr int kPathWidth = 280;
 
-QColor colourOf(const std::string& value) {
+QColor ColourOf(const std::string& value) {
   int red = 0;
   int green = 0;
   int blue = 0;
@@ -28,9 +28,9 @@ QColor colourOf(const std::string& value) {
 }
 
 // Framed, since a colour may be that of the button.
-QIcon swatch(const std::string& value) {
+QIcon Swatch(const std::string& value) {
   QPixmap pixmap(kSwatchWidth, kSwatchHeight);
-  pixmap.fill(colourOf(value));
+  pixmap.fill(ColourOf(value));
   QPainter painter(&pixmap);
   painter.setPen(Qt::gray);
   painter.drawRect(0, 0, kSwatchWidth - 1, kSwatchHeight - 1);
@@ -39,7 +39,7 @@ QIcon swatch(const std::string& value) {
 }
 
 // What is chosen replaces the text; nothing chosen leaves it.
-void choosePath(QLineEdit& edit, const FormField& field, const Paths* paths) {
+void ChoosePath(QLineEdit& edit, const FormField& field, const Paths* paths) {
   const std::string now = GivenText(edit.text());
   const QString start = ShownText(paths ? paths->native(now).string() : now);
   const QString title = ShownText(field.title);
@@ -58,13 +58,13 @@ FieldEditor ColourEditor(const FormField& field, const Edited& edited) {
   button->setAutoDefault(false);
   const auto held = std::make_shared<std::string>();
   QObject::connect(button, &QPushButton::clicked, button, [button, held, edited, title = field.title] {
-    const QColor chosen = QColorDialog::getColor(colourOf(*held), button->window(), ShownText(title));
+    const QColor chosen = QColorDialog::getColor(ColourOf(*held), button->window(), ShownText(title));
     if (chosen.isValid()) edited(Format("%i %i %i", chosen.red(), chosen.green(), chosen.blue()));
   });
   const auto show = [button, held](const FormField& now) {
     *held = now.value;
     button->setText(ShownText(now.label));
-    button->setIcon(swatch(now.value));
+    button->setIcon(Swatch(now.value));
   };
   return {nullptr, button, button, show};
 }
@@ -75,7 +75,7 @@ FieldEditor PathEditor(const FormField& field, const Paths* paths, const Edited&
   auto* button = new QPushButton(ShownText(field.label));
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, edit,
-                   [edit, field, paths] { choosePath(*edit, field, paths); });
+                   [edit, field, paths] { ChoosePath(*edit, field, paths); });
   QObject::connect(edit, &QLineEdit::textChanged, edit,
                    [edited](const QString& text) { edited(GivenText(text)); });
   const auto show = [edit, button](const FormField& now) {

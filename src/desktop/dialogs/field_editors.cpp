@@ -23,12 +23,12 @@ constexpr int kTextWidth = 140;
 constexpr int kChoiceWidth = 100;
 constexpr size_t kInARow = 3;  // radio buttons
 
-QColor warningColour(const QPalette& palette) {
+QColor WarningColour(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < 128 ? QColor(255, 130, 120) : QColor(190, 20, 20);
 }
 
 // Has the limits beside it while the number lies outside.
-FieldEditor numberEditor(const FormField& field, const Edited& edited) {
+FieldEditor NumberEditor(const FormField& field, const Edited& edited) {
   auto* widget = new QWidget;
   auto* row = new QHBoxLayout(widget);
   row->setContentsMargins(0, 0, 0, 0);
@@ -46,14 +46,14 @@ FieldEditor numberEditor(const FormField& field, const Edited& edited) {
     box->setNumberRange(now.range);
     if (box->value() != value) box->setValue(value);
     QPalette palette = limits->palette();
-    palette.setColor(QPalette::WindowText, warningColour(palette));
+    palette.setColor(QPalette::WindowText, WarningColour(palette));
     limits->setPalette(palette);
     limits->setText(now.range.holds(value) ? QString() : ShownText(now.range.text()));
   };
   return {nullptr, widget, box, show};
 }
 
-FieldEditor lineEditor(const FormField& field, const Edited& edited) {
+FieldEditor LineEditor(const FormField& field, const Edited& edited) {
   auto* edit = new QLineEdit;
   edit->setMinimumWidth(kTextWidth);
   edit->setMaxLength(static_cast<int>(field.maxLength));
@@ -67,7 +67,7 @@ FieldEditor lineEditor(const FormField& field, const Edited& edited) {
   return {nullptr, edit, edit, show};
 }
 
-void setItems(QComboBox& box, const std::vector<std::string>& choices) {
+void SetItems(QComboBox& box, const std::vector<std::string>& choices) {
   QStringList items;
   for (const std::string& choice : choices) items << ShownText(choice);
   QStringList shown;
@@ -78,7 +78,7 @@ void setItems(QComboBox& box, const std::vector<std::string>& choices) {
 }
 
 // A text with suggestions.
-FieldEditor suggestingEditor(const FormField& field, const Edited& edited) {
+FieldEditor SuggestingEditor(const FormField& field, const Edited& edited) {
   auto* box = new QComboBox;
   box->setEditable(true);
   box->setInsertPolicy(QComboBox::NoInsert);
@@ -90,13 +90,13 @@ FieldEditor suggestingEditor(const FormField& field, const Edited& edited) {
       [edited, most = field.maxLength](const QString& text) { edited(CutText(GivenText(text), most)); });
   const auto show = [box](const FormField& now) {
     const QSignalBlocker blocker(box);
-    setItems(*box, now.choices);
+    SetItems(*box, now.choices);
     if (GivenText(box->currentText()) != now.value) box->setEditText(ShownText(now.value));
   };
   return {nullptr, box, box, show};
 }
 
-FieldEditor flagEditor(const Edited& edited) {
+FieldEditor FlagEditor(const Edited& edited) {
   auto* box = new QCheckBox;
   QObject::connect(box, &QCheckBox::toggled, box, [edited](bool on) { edited(on ? "1" : "0"); });
   const auto show = [box](const FormField& now) {
@@ -107,7 +107,7 @@ FieldEditor flagEditor(const Edited& edited) {
   return {nullptr, box, box, show};
 }
 
-FieldEditor choiceEditor(const Edited& edited) {
+FieldEditor ChoiceEditor(const Edited& edited) {
   auto* box = new QComboBox;
   box->setMinimumWidth(kChoiceWidth);
   box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -115,14 +115,14 @@ FieldEditor choiceEditor(const Edited& edited) {
                    [edited](int index) { edited(NumberText(index)); });
   const auto show = [box](const FormField& now) {
     const QSignalBlocker blocker(box);
-    setItems(*box, now.choices);
+    SetItems(*box, now.choices);
     box->setCurrentIndex(TextToInt(now.value));
     box->setEnabled(now.enabled && !now.choices.empty());
   };
   return {nullptr, box, box, show};
 }
 
-FieldEditor radioEditor(const FormField& field, const Edited& edited) {
+FieldEditor RadioEditor(const FormField& field, const Edited& edited) {
   auto* widget = new QWidget;
   auto* group = new QButtonGroup(widget);
   auto* layout = field.choices.size() <= kInARow ? static_cast<QBoxLayout*>(new QHBoxLayout(widget))
@@ -147,17 +147,17 @@ FieldEditor radioEditor(const FormField& field, const Edited& edited) {
   return {nullptr, widget, group->button(0), show};
 }
 
-FieldEditor bareEditor(const FormField& field, const Paths* paths, const Edited& edited) {
+FieldEditor BareEditor(const FormField& field, const Paths* paths, const Edited& edited) {
   switch (field.kind) {
     case FormField::Kind::Whole:
     case FormField::Kind::Real:
-      return numberEditor(field, edited);
+      return NumberEditor(field, edited);
     case FormField::Kind::Flag:
-      return flagEditor(edited);
+      return FlagEditor(edited);
     case FormField::Kind::Choice:
-      return choiceEditor(edited);
+      return ChoiceEditor(edited);
     case FormField::Kind::Radio:
-      return radioEditor(field, edited);
+      return RadioEditor(field, edited);
     case FormField::Kind::Colour:
       return ColourEditor(field, edited);
     case FormField::Kind::Folder:
@@ -166,15 +166,15 @@ FieldEditor bareEditor(const FormField& field, const Paths* paths, const Edited&
     case FormField::Kind::Text:
       break;
   }
-  return field.choices.empty() ? lineEditor(field, edited) : suggestingEditor(field, edited);
+  return field.choices.empty() ? LineEditor(field, edited) : SuggestingEditor(field, edited);
 }
 
-bool showsItsLabel(const FormField& field) {
+bool ShowsItsLabel(const FormField& field) {
   return field.kind == FormField::Kind::Flag || field.kind == FormField::Kind::Colour;
 }
 
 // A label in front of an editor that has none of its own.
-void addLabel(FieldEditor& editor) {
+void AddLabel(FieldEditor& editor) {
   auto* label = new QLabel;
   label->setBuddy(editor.focus);
   editor.label = label;
@@ -187,8 +187,8 @@ void addLabel(FieldEditor& editor) {
 }  // namespace
 
 FieldEditor MakeFieldEditor(const FormField& field, const Paths* paths, const Edited& edited) {
-  FieldEditor editor = bareEditor(field, paths, edited);
-  if (!editor.label && !showsItsLabel(field)) addLabel(editor);
+  FieldEditor editor = BareEditor(field, paths, edited);
+  if (!editor.label && !ShowsItsLabel(field)) AddLabel(editor);
   editor.widget->setObjectName(ShownText(field.name));
   editor.show = [label = editor.label, widget = editor.widget, show = editor.show](const FormField& now) {
     widget->setEnabled(now.enabled);

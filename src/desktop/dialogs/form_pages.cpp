@@ -20,7 +20,7 @@ constexpr size_t kFewFields = 6;  // stand in one column, check boxes among them
 
 using Indices = std::vector<size_t>;
 
-Indices fieldsOf(const Form& form, const std::string& page) {
+Indices FieldsOf(const Form& form, const std::string& page) {
   Indices fields;
   for (size_t i = 0; i < form.fields.size(); ++i) {
     if (form.fields[i].page == page) fields.push_back(i);
@@ -29,13 +29,13 @@ Indices fieldsOf(const Form& form, const std::string& page) {
 }
 
 // As wide as the widest of them.
-void makeAlike(const std::vector<QWidget*>& widgets) {
+void MakeAlike(const std::vector<QWidget*>& widgets) {
   int width = 0;
   for (const QWidget* widget : widgets) width = std::max(width, widget->sizeHint().width());
   for (QWidget* widget : widgets) widget->setMinimumWidth(width);
 }
 
-QLayout* column(const std::vector<FieldEditor>& editors, const Indices& fields) {
+QLayout* Column(const std::vector<FieldEditor>& editors, const Indices& fields) {
   auto* layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   layout->setVerticalSpacing(kBetweenRows);
@@ -47,12 +47,12 @@ QLayout* column(const std::vector<FieldEditor>& editors, const Indices& fields) 
     if (qobject_cast<QPushButton*>(editor.label)) buttons.push_back(editor.label);
     editor.label ? layout->addRow(editor.label, editor.widget) : layout->addRow(editor.widget);
   }
-  makeAlike(numbers);
-  makeAlike(buttons);
+  MakeAlike(numbers);
+  MakeAlike(buttons);
   return layout;
 }
 
-QLayout* colourGrid(const std::vector<FieldEditor>& editors, const Indices& fields) {
+QLayout* ColourGrid(const std::vector<FieldEditor>& editors, const Indices& fields) {
   auto* grid = new QGridLayout;
   grid->setSpacing(kBetweenRows);
   int index = 0;
@@ -83,7 +83,7 @@ FormPages::FormPages(const Form& form, std::vector<FieldEditor> editors) : edito
 }
 
 QWidget* FormPages::page(const Form& form, const std::string& name) {
-  const Indices fields = fieldsOf(form, name);
+  const Indices fields = FieldsOf(form, name);
   if (fields.empty()) return nullptr;
   const auto kindIs = [&form](FormField::Kind kind) {
     return [&form, kind](size_t i) { return form.fields[i].kind == kind; };
@@ -92,7 +92,7 @@ QWidget* FormPages::page(const Form& form, const std::string& name) {
   auto* columns = new QHBoxLayout(widget);
   columns->setSpacing(kBetweenColumns);
   if (std::all_of(fields.begin(), fields.end(), kindIs(FormField::Kind::Colour))) {
-    columns->addLayout(colourGrid(editors_, fields));
+    columns->addLayout(ColourGrid(editors_, fields));
     return widget;
   }
   Indices left = fields;
@@ -101,8 +101,8 @@ QWidget* FormPages::page(const Form& form, const std::string& name) {
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(flags), kindIs(FormField::Kind::Flag));
     std::erase_if(left, kindIs(FormField::Kind::Flag));
   }
-  columns->addLayout(column(editors_, left), 1);
-  if (!flags.empty()) columns->addLayout(column(editors_, flags));
+  columns->addLayout(Column(editors_, left), 1);
+  if (!flags.empty()) columns->addLayout(Column(editors_, flags));
   return widget;
 }
 

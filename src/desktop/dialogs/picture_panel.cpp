@@ -20,16 +20,16 @@ constexpr int kButtonsInARow = 5;
 constexpr int kCaptionMargin = 4;
 constexpr QColor kCaptionGround(0, 0, 0, 160);
 
-void drawCaption(QPainter& painter, const QRect& room, const QString& text) {
+void DrawCaption(QPainter& painter, const QRect& room, const QString& text) {
   if (text.isEmpty()) return;
   const QRect inner = room.adjusted(kCaptionMargin, kCaptionMargin, -kCaptionMargin, -kCaptionMargin);
-  constexpr int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
-  painter.fillRect(painter.boundingRect(inner, flags, text).adjusted(-2, -2, 2, 2), kCaptionGround);
+  constexpr int kFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+  painter.fillRect(painter.boundingRect(inner, kFlags, text).adjusted(-2, -2, 2, 2), kCaptionGround);
   painter.setPen(Qt::white);
-  painter.drawText(inner, flags, text);
+  painter.drawText(inner, kFlags, text);
 }
 
-QLayout* buttonRows(const std::shared_ptr<FormPicture>& picture, PictureView* view) {
+QLayout* ButtonRows(const std::shared_ptr<FormPicture>& picture, PictureView* view) {
   auto* grid = new QGridLayout;
   grid->setSpacing(4);
   int index = 0;
@@ -68,7 +68,7 @@ void PictureView::paintEvent(QPaintEvent*) {
   shown.setDevicePixelRatio(scale);
   QPainter painter(this);
   painter.drawImage(0, 0, shown);
-  drawCaption(painter, rect(), ShownText(picture_->caption()));
+  DrawCaption(painter, rect(), ShownText(picture_->caption()));
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) { last_ = event->pos(); }
@@ -97,7 +97,7 @@ PicturePanel::PicturePanel(const std::shared_ptr<FormPicture>& picture) {
   column->setContentsMargins(0, 0, 0, 0);
   auto* view = new PictureView(picture);
   column->addWidget(view, 1);
-  column->addLayout(buttonRows(picture, view));
+  column->addLayout(ButtonRows(picture, view));
   if (const QString hint = ShownText(picture->hint()); !hint.isEmpty()) {
     auto* label = new QLabel(hint);
     label->setWordWrap(true);

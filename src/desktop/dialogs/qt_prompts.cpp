@@ -20,7 +20,7 @@ constexpr QSize kProgramIcon{64, 64};
 constexpr QSize kChooser{760, 480};
 constexpr int kTitleButtons = 120;  // pixels a title bar needs besides its text
 
-QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
+QMessageBox::StandardButtons ButtonsOf(MessageBox::Buttons buttons) {
   switch (buttons) {
     case MessageBox::Buttons::Ok:
       return QMessageBox::Ok;
@@ -34,7 +34,7 @@ QMessageBox::StandardButtons buttonsOf(MessageBox::Buttons buttons) {
   return QMessageBox::Ok;
 }
 
-QMessageBox::Icon iconOf(MessageBox::Icon icon) {
+QMessageBox::Icon IconOf(MessageBox::Icon icon) {
   switch (icon) {
     case MessageBox::Icon::None:
     case MessageBox::Icon::Program:
@@ -52,7 +52,7 @@ QMessageBox::Icon iconOf(MessageBox::Icon icon) {
 }
 
 // "Map Files (*.map)|*.map|" as Qt writes it, upper-case names included.
-QString nameFilter(const std::string& filter) {
+QString NameFilter(const std::string& filter) {
   const std::vector<std::string> pieces = Split(filter, '|');
   if (pieces.size() < 2) return QString();
   const std::string label = pieces[0].substr(0, pieces[0].find(" ("));
@@ -62,25 +62,25 @@ QString nameFilter(const std::string& filter) {
          ");;All Files (*)";
 }
 
-QString suffixOf(const std::string& filter) {
+QString SuffixOf(const std::string& filter) {
   const std::vector<std::string> pieces = Split(filter, '|');
   if (pieces.size() < 2 || !pieces[1].starts_with("*.") || pieces[1] == "*.*") return QString();
   return ShownText(pieces[1].substr(2));
 }
 
 // Boxes are as wide as their text, which may be shorter than the title.
-int titleWidth(const QDialog& dialog) {
+int TitleWidth(const QDialog& dialog) {
   return dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()) + kTitleButtons;
 }
 
-void makeRoomForTitle(QMessageBox& dialog) {
+void MakeRoomForTitle(QMessageBox& dialog) {
   if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
-    grid->addItem(new QSpacerItem(titleWidth(dialog), 0), grid->rowCount(), 0, 1, grid->columnCount());
+    grid->addItem(new QSpacerItem(TitleWidth(dialog), 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
 }
 
 // Qt's own chooser cuts sizes and dates short; a desktop's has no such table.
-void makeRoomForColumns(QFileDialog& dialog) {
+void MakeRoomForColumns(QFileDialog& dialog) {
   const auto* table = dialog.findChild<QTreeView*>();
   if (!table) return;
   table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -89,7 +89,7 @@ void makeRoomForColumns(QFileDialog& dialog) {
 }
 
 // The first line of the text is the program's name.
-void presentProgram(QMessageBox& dialog) {
+void PresentProgram(QMessageBox& dialog) {
   const QString text = dialog.text();
   dialog.setTextFormat(Qt::RichText);
   dialog.setText("<h2>" + text.section('\n', 0, 0).toHtmlEscaped() + "</h2>" +
@@ -98,16 +98,16 @@ void presentProgram(QMessageBox& dialog) {
   dialog.setIconPixmap(QApplication::windowIcon().pixmap(kProgramIcon));
 }
 
-QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
+QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 }  // namespace
 
 Answer QtPrompts::ask(const MessageBox& box) {
-  QMessageBox dialog(iconOf(box.icon), ShownText(box.caption), ShownText(box.text), buttonsOf(box.buttons),
+  QMessageBox dialog(IconOf(box.icon), ShownText(box.caption), ShownText(box.text), ButtonsOf(box.buttons),
                      owner_);
   dialog.setTextFormat(Qt::PlainText);
-  if (box.icon == MessageBox::Icon::Program) presentProgram(dialog);
-  makeRoomForTitle(dialog);
+  if (box.icon == MessageBox::Icon::Program) PresentProgram(dialog);
+  MakeRoomForTitle(dialog);
   if (box.risky) dialog.setDefaultButton(QMessageBox::No);
   switch (dialog.exec()) {
     case QMessageBox::Yes:
@@ -124,16 +124,16 @@ Answer QtPrompts::ask(const MessageBox& box) {
 
 std::vector<std::string> QtPrompts::chooseFiles(const FileChooser& chooser) {
   const std::filesystem::path start = paths_ ? paths_->native(chooser.directory) : std::filesystem::path();
-  QFileDialog dialog(owner_, ShownText(chooser.title), ShownText(start.string()), nameFilter(chooser.filter));
+  QFileDialog dialog(owner_, ShownText(chooser.title), ShownText(start.string()), NameFilter(chooser.filter));
   if (chooser.kind == FileChooser::Kind::Save) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(suffixOf(chooser.filter));
+    dialog.setDefaultSuffix(SuffixOf(chooser.filter));
   } else {
     const bool many = chooser.kind == FileChooser::Kind::OpenMany;
     dialog.setFileMode(many ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
   }
-  makeRoomForColumns(dialog);
+  MakeRoomForColumns(dialog);
   if (!chooser.fileName.empty()) dialog.selectFile(ShownText(chooser.fileName));
   std::vector<std::string> chosen;
   if (dialog.exec() != QDialog::Accepted) return chosen;
@@ -147,16 +147,16 @@ std::optional<std::string> QtPrompts::input(const TextInput& input) {
   dialog.setLabelText(ShownText(input.prompt));
   dialog.setTextValue(ShownText(input.text));
   if (auto* line = dialog.findChild<QLineEdit*>()) line->setMaxLength(input.maxLength);
-  dialog.resize(dialog.sizeHint().expandedTo(QSize(titleWidth(dialog), 0)));
+  dialog.resize(dialog.sizeHint().expandedTo(QSize(TitleWidth(dialog), 0)));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return GivenText(dialog.textValue());
 }
 
 std::optional<Colour> QtPrompts::chooseColour(const ColourChooser& chooser) {
-  QColorDialog dialog(colour(chooser.colour), owner_);
+  QColorDialog dialog(QtColour(chooser.colour), owner_);
   dialog.setWindowTitle(ShownText(chooser.title));
   for (int i = 0; i < static_cast<int>(chooser.custom.size()) && i < QColorDialog::customCount(); ++i) {
-    QColorDialog::setCustomColor(i, colour(chooser.custom[static_cast<size_t>(i)]));
+    QColorDialog::setCustomColor(i, QtColour(chooser.custom[static_cast<size_t>(i)]));
   }
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const QColor chosen = dialog.currentColor();

@@ -35,8 +35,8 @@ Drawings ReadDrawings() {
 }
 
 const Drawings& AllDrawings() {
-  static const Drawings read = ReadDrawings();
-  return read;
+  static const Drawings kRead = ReadDrawings();
+  return kRead;
 }
 
 QString Expand(const QString& body, int depth);

@@ -16,11 +16,11 @@ constexpr const char* kGeometry = "geometry";
 constexpr const char* kBars = "bars";
 constexpr const char* kCheck = "check";  // Qt would take over half of a damaged state
 
-QByteArray read(const IniFile& file, const char* key) {
+QByteArray Read(const IniFile& file, const char* key) {
   return QByteArray::fromBase64(QByteArray::fromStdString(file.string(kSection, key, "")));
 }
 
-void write(IniFile& file, const char* key, const QByteArray& bytes) {
+void Write(IniFile& file, const char* key, const QByteArray& bytes) {
   file.set(kSection, key, bytes.toBase64().toStdString());
 }
 
@@ -50,8 +50,8 @@ void SettleFloating(QMainWindow& frame, QToolBar& bar) {
 
 void RestoreFrame(QMainWindow& frame, const std::filesystem::path& stateFile) {
   const IniFile file = IniFile::Load(stateFile);
-  const QByteArray geometry = read(file, kGeometry);
-  const QByteArray bars = read(file, kBars);
+  const QByteArray geometry = Read(file, kGeometry);
+  const QByteArray bars = Read(file, kBars);
   if (file.integer(kSection, kCheck, -1) != CheckOf(geometry, bars)) return;
   frame.restoreGeometry(geometry);
   frame.restoreState(bars);
@@ -64,8 +64,8 @@ void RememberFrame(const QMainWindow& frame, const std::filesystem::path& stateF
   IniFile file = IniFile::Load(stateFile);
   const QByteArray geometry = frame.saveGeometry();
   const QByteArray bars = frame.saveState();
-  write(file, kGeometry, geometry);
-  write(file, kBars, bars);
+  Write(file, kGeometry, geometry);
+  Write(file, kBars, bars);
   file.set(kSection, kCheck, std::to_string(CheckOf(geometry, bars)));
   (void)file.save(stateFile);
 }

@@ -33,7 +33,7 @@ constexpr std::chrono::seconds kTick{10};
 constexpr std::chrono::milliseconds kMaximising{200};
 
 // Holds a window's place until its contents are built.
-QLabel* placeholder(const std::string& title, const char* line) {
+QLabel* Placeholder(const std::string& title, const char* line) {
   auto* label = new QLabel(QString::fromLatin1(line));
   label->setWindowTitle(ShownText(title));
   label->setAlignment(Qt::AlignCenter);
@@ -95,7 +95,7 @@ void TVelkWindow::buildWindows() {
   children_ = new ChildWindows(*area_);
   brush_ = new TSelectedBrushWindow(editor_);
   const auto await = [this](ToolWindow window, const char* line) {
-    children_->add(window, placeholder(WindowTitle(editor_, window), line));
+    children_->add(window, Placeholder(WindowTitle(editor_, window), line));
   };
   await(ToolWindow::Textures, "Thumbnails of the textures come here.");
   children_->add(ToolWindow::SelectedBrush, brush_);

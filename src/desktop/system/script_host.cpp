@@ -32,7 +32,7 @@ class Pictures : public ScriptPictures {
   Editor& editor_;
 };
 
-int report(const std::string& file, const ScriptResult& result) {
+int Report(const std::string& file, const ScriptResult& result) {
   if (result.ok) return 0;
   if (result.line > 0) {
     std::fprintf(stderr, "%s:%i: %s\n", file.c_str(), result.line, result.message.c_str());
@@ -55,7 +55,7 @@ int RunScriptFile(const std::string& file, const std::vector<std::string>& maps)
     for (const std::string& map : maps) OpenNamed(editor, map);
   });
   std::cout.flush();
-  return report(file, result);
+  return Report(file, result);
 }
 
 }  // namespace velk

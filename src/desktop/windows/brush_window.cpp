@@ -15,7 +15,7 @@ namespace {
 constexpr int kFontHeight = 10;  // pixels
 constexpr int kTabStops[] = {30, 100, 150, 200};
 
-QColor colour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
+QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 }  // namespace
 
@@ -64,8 +64,8 @@ void TSelectedBrushWindow::refresh() {
 void TSelectedBrushWindow::useColours() {
   const ViewColours& colours = editor_.settings().colours;
   QPalette palette = faces_->palette();
-  palette.setColor(QPalette::Base, colour(colours.bgcolor));
-  palette.setColor(QPalette::Text, colour(colours.fgcolor));
+  palette.setColor(QPalette::Base, QtColour(colours.bgcolor));
+  palette.setColor(QPalette::Text, QtColour(colours.fgcolor));
   faces_->setPalette(palette);
 }
 
@@ -80,7 +80,7 @@ void TSelectedBrushWindow::listFaces(const FaceLines& shown) {
     auto* item = new QTreeWidgetItem(faces_, ShownText(shown.lines[static_cast<size_t>(i)]).split('\t'));
     const bool current = i == shown.current;
     for (int column = 0; column < faces_->columnCount(); ++column) {
-      item->setForeground(column, colour(current ? colours.color_curfacecolor : colours.color_selection));
+      item->setForeground(column, QtColour(current ? colours.color_curfacecolor : colours.color_selection));
     }
     if (current) faces_->setCurrentItem(item);
   }

@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kWireMode = 0;
 
-QString fontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
+QString FontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
 
-QList<QRgb> colourTable(const Wad* wad) {
+QList<QRgb> ColourTable(const Wad* wad) {
   QList<QRgb> table(256, qRgb(0, 0, 0));
   for (int i = 0; i < 256 && wad; ++i) {
     const unsigned char* entry = wad->palette.data() + i * 3;
@@ -25,18 +25,18 @@ QList<QRgb> colourTable(const Wad* wad) {
 }
 
 // The renderer's picture stretched over the whole image.
-void drawRendered(Editor& editor, QImage& image) {
+void DrawRendered(Editor& editor, QImage& image) {
   editor.views().renderCamera();
   const Renderer& renderer = editor.views().renderer;
   QImage rendered(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
                   QImage::Format_Indexed8);
-  rendered.setColorTable(colourTable(editor.views().paletteWad()));
+  rendered.setColorTable(ColourTable(editor.views().paletteWad()));
   QPainter painter(&image);
   painter.drawImage(
       QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);
 }
 
-void drawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
+void DrawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
   const ViewColours& colours = editor.settings().colours;
   canvas.fill({0, 0, width, height}, colours.bgcolor);
   const std::string text = "Press \"New\" to Begin...";
@@ -45,7 +45,7 @@ void drawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
               kTextHeight, colours.fgcolor, nullptr);
 }
 
-void drawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
+void DrawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
   const ViewColours& colours = editor.settings().colours;
   DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera,
               colours.bgcolor);
@@ -59,16 +59,16 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   editor.views().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
   const map* shown = editor.documents().currentMap();
-  if (shown && editor.settings().drawmode != kWireMode) drawRendered(editor, image);
-  QtCanvas canvas(image, fontFamily(editor));
+  if (shown && editor.settings().drawmode != kWireMode) DrawRendered(editor, image);
+  QtCanvas canvas(image, FontFamily(editor));
   if (!shown) {
-    drawEmpty(editor, canvas, width, height);
+    DrawEmpty(editor, canvas, width, height);
     return image;
   }
   if (editor.settings().drawmode == kWireMode) {
     DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
   }
-  drawOverlays(editor, *shown, canvas, width);
+  DrawOverlays(editor, *shown, canvas, width);
   return image;
 }
 

@@ -15,17 +15,17 @@ namespace {
 
 constexpr int kWheelStep = 120;  // eighths of a degree in one notch
 
-Colour colourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
+Colour ColourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
 
 StripColours StripColoursOf(const QPalette& palette) {
-  return {colourOf(palette.color(QPalette::Window)), colourOf(palette.color(QPalette::WindowText))};
+  return {ColourOf(palette.color(QPalette::Window)), ColourOf(palette.color(QPalette::WindowText))};
 }
 
 QImage PictureOfStrip(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
   const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, kStripHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  drawHeaderStrip(canvas, record, editor.settings(), editor.documents().currentMap(), "",
+  DrawHeaderStrip(canvas, record, editor.settings(), editor.documents().currentMap(), "",
                   StripColoursOf(palette));
   return image;
 }
@@ -36,7 +36,7 @@ QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, cons
   const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  drawPlanView(canvas, editor.views().planScene(StripColoursOf(palette)), view);
+  DrawPlanView(canvas, editor.views().planScene(StripColoursOf(palette)), view);
   return image;
 }
 
@@ -65,7 +65,7 @@ void TXYViewWindow::drawPicture() {
   picture_ = PictureOfPlanView(editor_, view_, devicePixelRatioF(), palette());
   stale_ = false;
   stripStale_ = true;
-  setWindowTitle(QString::fromLatin1(captionText(record, editor_.settings()).c_str()));
+  setWindowTitle(QString::fromLatin1(CaptionText(record, editor_.settings()).c_str()));
 }
 
 void TXYViewWindow::paintEvent(QPaintEvent*) {
@@ -104,7 +104,7 @@ void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
 void TXYViewWindow::openMenu(const std::string& name, StripField field) {
   const auto menu = ContextMenu(editor_, name);
   if (!menu) return;
-  for (const StripSlot& slot : layoutStrip(width())) {
+  for (const StripSlot& slot : LayoutStrip(width())) {
     if (slot.field == field) ShowMenu(*menu, *this, QPoint(slot.rect.left, kStripHeight));
   }
 }

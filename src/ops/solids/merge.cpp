@@ -25,7 +25,7 @@ using Parts = std::vector<const brush*>;
 bool AllBehind(const plane& p, const brush& b) {
   return std::ranges::all_of(b.faces(), [&](const face& f) {
     return !f.polygon || std::all_of(f.polygon->begin(), f.polygon->end(), [&](const WindingPoint& corner) {
-      return distanceTo(p, corner.position()) <= SIDE_EPSILON;
+      return DistanceTo(p, corner.position()) <= SIDE_EPSILON;
     });
   });
 }
@@ -47,7 +47,7 @@ std::unique_ptr<brush> Hull(const Parts& parts) {
 void CutAway(std::unique_ptr<brush> piece, const brush& part, std::vector<std::unique_ptr<brush>>& outside) {
   for (const face& f : part.faces()) {
     if (!f.polygon) continue;
-    SplitParts split = splitByFace(f, *piece);
+    SplitParts split = SplitByFace(f, *piece);
     if (split.front && Thickness(*split.front) > kSliver) outside.push_back(std::move(split.front));
     if (!split.back) return;
     piece = std::move(split.back);
