@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/place.h"
+#include "app/remembered.h"
 #include "app/view_input.h"
 #include "app/views.h"
 #include "app/window_places.h"
@@ -45,6 +46,7 @@ class Editor {
   TextureManager& textures() { return textures_; }
   const TextureManager& textures() const { return textures_; }
   TextureChoice& texture() { return texture_; }
+  Remembered& remembered() { return remembered_; }
   Views& views() { return views_; }
   const Views& views() const { return views_; }
   ViewInput& input() { return input_; }
@@ -62,6 +64,7 @@ class Editor {
   EntityClassList classes_;
   TextureManager textures_;
   TextureChoice texture_;
+  Remembered remembered_;
   Documents documents_;
   Door door_;
   RescueKeeper rescue_;

@@ -4,6 +4,7 @@
 #include "commands/camera_handlers.h"
 #include "commands/command_tables.h"
 #include "commands/hit_commands.h"
+#include "commands/maker_commands.h"
 #include "planview/view_steps.h"
 
 namespace velk {
@@ -59,8 +60,8 @@ const Command kRows[] = {
     {.id = 115, .name = "CM_ZDOWN", .label = "Z Down",
      .hint = "Move selection down the z axis by the step size", .enabled = MapOpen,
      .run = With<MoveSelectionByStep, 2, -1>},
-    {.id = 295, .name = "CM_REVOLVE", .label = "Revolve...", .hint = "Revolve a profile about an axis",
-     .enabled = MapOpen, .reason = "not built yet: revolving a profile"},
+    {.id = 295, .name = "CM_REVOLVE", .label = "Revolve...", .hint = "Make a revolved item...",
+     .enabled = MapOpen, .run = RevolveInPlace},
     {.id = 1020, .name = "CM_NUDGE_DOWN", .label = "Move Selection Down", .keys = "Num2",
      .hint = "Move selection down by the grid size", .run = With<NudgeSelection, Nudge::Down>},
     {.id = 1021, .name = "CM_NUDGE_LEFT", .label = "Move Selection Left", .keys = "Num4",

@@ -1,0 +1,28 @@
+// What the dialogs of commands remember until the editor ends: each shows the values last accepted.
+#pragma once
+
+#include "makers/arch.h"
+#include "makers/box.h"
+#include "makers/cylinder.h"
+#include "makers/lights.h"
+#include "makers/prism.h"
+#include "makers/pyramid.h"
+#include "makers/revolve.h"
+#include "makers/sphere.h"
+#include "makers/stairs.h"
+
+namespace velk {
+
+struct Remembered {
+  StairParams stairs;
+  ArchParams arch;
+  SphereParams sphere;
+  CylinderParams cylinder;
+  PrismParams prism;
+  PyramidParams pyramid;
+  BoxParams box;
+  LightParams lights;
+  RevolveParams revolve;
+};
+
+}  // namespace velk
