@@ -16,8 +16,12 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
       door_(services_, documents_),
       rescue_(services_, documents_, door_),
       views_(settings_, documents_, textures_),
-      input_(services_, documents_, door_, views_),
+      input_(services_, documents_, door_, views_, texture_, place_.home),
       windows_(services_) {
+  views_.dragPreview = [this](const brush& b) {
+    const Drag* drag = input_.pointer().drag();
+    return drag ? drag->preview(b) : nullptr;
+  };
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
 }
 

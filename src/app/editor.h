@@ -50,6 +50,7 @@ class Editor {
   Views& views() { return views_; }
   const Views& views() const { return views_; }
   ViewInput& input() { return input_; }
+  const ViewInput& input() const { return input_; }
   WindowPlaces& windows() { return windows_; }
   const WindowPlaces& windows() const { return windows_; }
 

@@ -1,21 +1,48 @@
 #include "app/view_input.h"
 
+#include "mouse/camera/camera_clicks.h"
+#include "mouse/operations.h"
 #include "mouse/view_drag.h"
 
 namespace velk {
 
-ViewInput::ViewInput(const Services& services, Documents& documents, Door& door, Views& views)
-    : services_(services), documents_(documents), door_(door), views_(views) {
+ViewInput::ViewInput(const Services& services, Documents& documents, Door& door, Views& views,
+                     TextureChoice& texture, const std::filesystem::path& home)
+    : services_(services), documents_(documents), door_(door), views_(views), texture_(texture), home_(home) {
+  pointer_.tools.emplace_back(CompassClick);
+  pointer_.tools.emplace_back([this](const MouseContext& context, const PointerEvent& event) {
+    return StartBound(fileOf(context.view).bindings,
+                      context.inCamera() ? CameraOperations() : PlanOperations(), context, event);
+  });
   pointer_.tools.emplace_back(StartViewDrag);
 }
 
 // A map must be open.
 MouseContext ViewInput::context(int view) const {
-  return {.model = *documents_.currentMap(),
+  MapDocument& document = *documents_.current();
+  return {.model = document.model,
           .settings = services_.settings,
           .plans = views_.plans,
           .prompts = services_.prompts,
-          .view = view};
+          .view = view,
+          .texture = &texture_,
+          .textures = &document.textures,
+          .camera = {.width = views_.cameraWidth,
+                     .pickFace = [this](Pixel at) { return views_.pickInCamera(at); },
+                     .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); }},
+          .saveUndo = [this](const char* name, UndoMode mode, brush* working) {
+            MapDocument& saved = *documents_.current();
+            saved.history.save(saved.model, name, mode, History::Limits::of(services_.settings), working);
+          }};
+}
+
+// False when the file is damaged, of which the user is told once.
+bool ViewInput::readBindings(BindingsFile& file) {
+  if (file.read) return true;
+  file.read = true;
+  return door_.attempt("Velk Error", "", [&] {
+    file.bindings = loadMouseBindings(file.name, {std::filesystem::current_path(), home_});
+  });
 }
 
 std::optional<StripField> ViewInput::stripFieldAt(int view, Pixel at) const {
@@ -36,10 +63,10 @@ void ViewInput::press(int view, const PointerEvent& event) {
     views_.plans.current = view;
     if (event.at.y < kStripHeight) return pressStrip(view, event.at);
   }
-  if (!documents_.currentMap()) return;
+  if (!documents_.currentMap() || !readBindings(fileOf(view))) return;
   door_.press(
       {.name = ""}, [&] { return pointer_.press(context(view), event); },
-      [&] { return pointer_.drag() != nullptr; });
+      [&] { return pointer_.drag() != nullptr; }, [&] { return pointer_.undoName(); });
 }
 
 void ViewInput::readCoordinates(int view, Pixel at) {

@@ -2,17 +2,22 @@
 // the door.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 
 #include "app/views.h"
 #include "documents/door.h"
+#include "mouse/bindings.h"
 #include "mouse/pointer.h"
+#include "textures/texture_choice.h"
 
 namespace velk {
 
 class ViewInput {
  public:
-  ViewInput(const Services& services, Documents& documents, Door& door, Views& views);
+  // `home` holds the bindings files that the working directory does not have.
+  ViewInput(const Services& services, Documents& documents, Door& door, Views& views, TextureChoice& texture,
+            const std::filesystem::path& home);
 
   // Views by number: 0..2 the plan views, kCameraView.
   void press(int view, const PointerEvent& event);
@@ -29,6 +34,15 @@ class ViewInput {
   const Pointer& pointer() const { return pointer_; }
 
  private:
+  // The bindings of a kind of view, read at their first use; empty when the file is damaged.
+  struct BindingsFile {
+    const char* name;
+    MouseBindings bindings = {};
+    bool read = false;
+  };
+  BindingsFile& fileOf(int view) { return view == kCameraView ? cameraFile_ : planFile_; }
+  bool readBindings(BindingsFile& file);
+
   MouseContext context(int view) const;
   void pressStrip(int view, Pixel at);
   void readCoordinates(int view, Pixel at);
@@ -37,6 +51,10 @@ class ViewInput {
   Documents& documents_;
   Door& door_;
   Views& views_;
+  TextureChoice& texture_;
+  std::filesystem::path home_;
+  BindingsFile planFile_{"velkmouse.ini"};
+  BindingsFile cameraFile_{"velkmou3D.ini"};
   Pointer pointer_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "camera/wire.h"
 
 namespace velk {
 
@@ -24,7 +25,7 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .strip = strip,
           .groupName = {},
           .leakPoints = {},
-          .preview = {}};
+          .preview = dragPreview};
 }
 
 RenderScene Views::cameraScene() {
@@ -68,6 +69,11 @@ FacePick Views::pickInCamera(Pixel at) {
   const int x = Truncate(double(at.x) * size.width / std::max(1, cameraWidth));
   const int y = Truncate(double(at.y) * size.height / std::max(1, cameraHeight));
   return renderer.pickFace(cameraScene(), size, x, y);
+}
+
+brush* Views::pickInWire(Pixel at, int reach) {
+  map* m = documents_.currentMap();
+  return m ? PickWireBrush({cameraWidth, cameraHeight}, *m, settings_, lens, at, reach) : nullptr;
 }
 
 bool Views::centre(Centre how) {

@@ -1,6 +1,7 @@
 // The plan views and the camera view: what their pictures are drawn from.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "camera/movement.h"
@@ -19,6 +20,8 @@ class Views {
 
   PlanViewSet plans;
   WireLens lens;
+  // The copy that a running drag shows in place of a brush, or none.
+  std::function<const brush*(const brush&)> dragPreview;
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -38,6 +41,8 @@ class Views {
   void renderCamera();
   // The brush and face at a pixel of the camera view; none without a map.
   FacePick pickInCamera(Pixel at);
+  // The same in the wire picture: the brush with an edge within so many pixels.
+  brush* pickInWire(Pixel at, int reach);
   // The wad whose palette the views are drawn in; none when nothing was loaded.
   const Wad* paletteWad() const;
 

@@ -149,11 +149,13 @@ bool Door::perform(const Change& change, const Action& action) {
   return true;
 }
 
-bool Door::press(const Change& change, const Action& action, const std::function<bool()>& runs) {
+bool Door::press(const Change& change, const Action& action, const std::function<bool()>& runs,
+                 const std::function<std::string()>& name) {
   if (drag_) return false;
   Open open = begin(change);
   Outcome outcome;
   if (!run(open, action, outcome)) return false;
+  if (name && open.change.name.empty()) open.change.name = name();
   if (!runs()) {
     end(open, std::move(outcome));
     return true;

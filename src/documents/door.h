@@ -36,7 +36,8 @@ class Door {
   bool dragRuns() const { return drag_.has_value(); }
   // The press. The drag goes on when `runs` says so afterwards; otherwise the change is complete. False as
   // for perform.
-  bool press(const Change& change, const Action& action, const std::function<bool()>& runs);
+  bool press(const Change& change, const Action& action, const std::function<bool()>& runs,
+             const std::function<std::string()>& name = {});
   // A move. False when it failed: the drag is over and the map as it was before the press.
   bool drag(const Action& action);
   // The release; the level gets this name.

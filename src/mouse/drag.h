@@ -9,13 +9,24 @@
 
 #include "base/outcome.h"
 #include "base/prompts.h"
+#include "camera/renderer.h"
+#include "model/history.h"
 #include "mouse/pointer_event.h"
 #include "planview/plan_view.h"
+#include "textures/texture_choice.h"
 
 namespace velk {
 
 // The views by number: the plan views, then the camera view.
 inline constexpr int kCameraView = kPlanViews;
+
+// What tools ask of the camera view. Pixels are those of its window.
+struct CameraPicks {
+  int width = 0;  // of the window
+  std::function<FacePick(Pixel)> pickFace;
+  // The brush with an edge within so many pixels in the wire picture.
+  std::function<brush*(Pixel, int reach)> pickWire;
+};
 
 // What tools work on: a map and the view that the mouse is in.
 struct MouseContext {
@@ -24,6 +35,12 @@ struct MouseContext {
   PlanViewSet& plans;
   Prompts& prompts;
   int view = 0;
+  TextureChoice* texture = nullptr;  // of the texture browser, may be none
+  TextureSet* textures = nullptr;    // of the map, may be none
+  int group = 0;                     // that new brushes are put in
+  CameraPicks camera = {};
+  // Keeps the classic undo copy of the tools that take one; may be empty.
+  std::function<void(const char* name, UndoMode mode, brush* working)> saveUndo = {};
 
   bool inCamera() const { return view == kCameraView; }
   PlanView& plan() const { return plans.views[static_cast<size_t>(view)]; }
@@ -78,6 +95,7 @@ class Drag {
 struct ToolStart {
   bool claimed = false;        // false: the next tool is tried
   std::unique_ptr<Drag> drag;  // none: the tool is done
+  const char* undoName = "";   // of the level of a tool that is done
   Outcome outcome;             // of a tool that is done
 };
 using StartTool = std::function<ToolStart(const MouseContext&, const PointerEvent&)>;

@@ -22,6 +22,7 @@ Outcome Pointer::press(const MouseContext& context, const PointerEvent& event) {
     started = start(context, event);
     if (started.claimed) break;
   }
+  undoName_ = started.drag ? started.drag->undoName() : started.undoName;
   if (!started.drag) return started.outcome;
   drag_ = std::move(started.drag);
   view_ = context.view;

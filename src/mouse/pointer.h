@@ -19,6 +19,8 @@ class Pointer {
 
   const Drag* drag() const { return drag_.get(); }
   const DragState& state() const { return state_; }
+  // Of the undo level of what the last press began or did.
+  const char* undoName() const { return undoName_; }
   // The view of the press.
   int view() const { return view_; }
 
@@ -28,6 +30,7 @@ class Pointer {
 
   std::unique_ptr<Drag> drag_;
   DragState state_;
+  const char* undoName_ = "";
   int view_ = 0;
 };
 

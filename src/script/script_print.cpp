@@ -8,6 +8,7 @@
 #include "commands/context_menus.h"
 #include "commands/dispatch.h"
 #include "mapfile/map_writer.h"
+#include "mouse/operations.h"
 
 namespace velk {
 namespace {
@@ -184,8 +185,35 @@ Lines MapLines(map& m) {
   return lines;
 }
 
+// The operation that runs.
+std::string DragText(const Editor& editor) {
+  const Pointer& pointer = editor.input().pointer();
+  if (!pointer.drag()) return "none";
+  for (const MouseOperation& o : pointer.view() == kCameraView ? CameraOperations() : PlanOperations()) {
+    if (o.code == pointer.drag()->code()) return o.name;
+  }
+  return "view";
+}
+
+Lines HitLines(const map& m) {
+  Lines lines{Format("current %d", m.hits.current)};
+  for (int i = 0; i < m.hits.count; ++i) {
+    const brush* hit = m.hits.brushes[static_cast<size_t>(i)];
+    if (!hit) continue;
+    lines.push_back(Format("%d %d %s", m.indexOf(hit->owner), hit->owner->indexOf(hit),
+                           OrDash(hit->selected(), "selected")));
+  }
+  return lines;
+}
+
+Lines PointLines(const clipper& clip) {
+  Lines lines{Format("count %d current %d", clip.count, clip.current)};
+  for (int i = 0; i < clip.count; ++i) lines.push_back(VectorText(clip.points[i]));
+  return lines;
+}
+
 using Printer = Lines (*)(Editor&);
-constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
+constexpr std::array<std::pair<std::string_view, Printer>, 17> kPrinters{{
     {"status", [](Editor& e) { return Lines{e.documents().status()}; }},
     {"title", [](Editor& e) { return Lines{FrameTitle(e)}; }},
     {"counts", [](Editor& e) { return Lines{CountsText(OpenMap(e))}; }},
@@ -201,6 +229,9 @@ constexpr std::array<std::pair<std::string_view, Printer>, 14> kPrinters{{
     {"menu", MenuLines},
     {"windows", WindowLines},
     {"map", [](Editor& e) { return MapLines(OpenMap(e)); }},
+    {"drag", [](Editor& e) { return Lines{DragText(e)}; }},
+    {"hits", [](Editor& e) { return HitLines(OpenMap(e)); }},
+    {"points", [](Editor& e) { return PointLines(OpenMap(e).clip); }},
 }};
 
 std::string TextBeforeTab(const std::string& label) { return label.substr(0, label.find('\t')); }

@@ -58,6 +58,8 @@ inline void FurnishHome(const TempFolder& home) {
   home.write("velk.ini",
              "[Velk]\nentity_qc_directory=.\\\nwad_directory=.\\\nmap_directory=.\\\ndefault_wad=test.wad\n");
   home.write("badtex.bmp", "BM");
+  home.write("velkmouse.ini", "1 1\n{ Test\n}\n");
+  home.write("velkmou3D.ini", "1 1\n{ Test\n}\n");
   home.write("colormap.lmp", "");
   home.write("ents.qc",
              "/*QUAKED worldspawn (0 0 0) ?\nThe world.\n*/\n"

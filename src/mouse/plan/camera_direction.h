@@ -1,0 +1,12 @@
+// Turning the active camera by the way the mouse goes, in a view from above.
+#pragma once
+
+#include "mouse/drag.h"
+
+namespace velk {
+
+inline constexpr int kCameraDirectionCode = 1;
+
+ToolStart StartCameraDirection(const MouseContext& context, const PointerEvent& event);
+
+}  // namespace velk

@@ -1,0 +1,90 @@
+#include "mouse/plan/rotate.h"
+
+#include "base/text.h"
+#include "model/visit.h"
+#include "mouse/view_ray.h"
+#include "ops/pick_vertex.h"
+#include "ops/transform.h"
+
+namespace velk {
+namespace {
+
+constexpr int kTextLeft = 50;  // of the cursor, pixels
+
+class RotateDrag : public Drag {
+ public:
+  RotateDrag(const vec3& centre, double startAngle) : centre_(centre), startAngle_(startAngle) {}
+
+  int code() const override { return kRotateCode; }
+  const char* undoName() const override { return kRotateTitle; }
+
+  Outcome move(const MouseContext& context, const DragState& state) override {
+    const PlanView& view = context.plan();
+    const double angle =
+        DirectionAngle(state.current.u - centre_[view.axisU], state.current.v - centre_[view.axisV]);
+    degrees_ = Truncate((startAngle_ - angle) * 180 * (1 / 3.141592653589793));
+    originals_.clear();
+    VisitBrushes(context.model, BrushFilter::Every, [&](brush& b) {
+      if (b.selected()) originals_.push_back(&b);
+    });
+    copies_ = TransformedCopies(context.model, turn(context));
+    return Outcome::Drawn(Redraw::Plans);
+  }
+
+  Outcome finish(const MouseContext& context, const DragState& /*state*/) override {
+    copies_.clear();
+    if (degrees_ != 0) ApplyToSelection(context.model, turn(context));
+    return Outcome::Drawn(Redraw::All);
+  }
+
+  void draw(const DragState& state, Overlay& overlay) const override {
+    overlay.texts.push_back({{state.now.at.x - kTextLeft, state.now.at.y}, Format("%i deg.", degrees_)});
+  }
+
+  const brush* preview(const brush& of) const override {
+    for (size_t i = 0; i < copies_.size() && i < originals_.size(); ++i) {
+      if (originals_[i] == &of) return copies_[i].get();
+    }
+    return nullptr;
+  }
+
+ private:
+  Transform turn(const MouseContext& context) const {
+    return RoundedTransform(TurnMatrix(context.plan().axisDepth, degrees_), centre_,
+                            context.settings.careful_tools);
+  }
+
+  vec3 centre_;
+  double startAngle_;  // radians
+  int degrees_ = 0;
+  std::vector<std::unique_ptr<brush>> copies_;
+  std::vector<brush*> originals_;  // of the copies, in their order
+};
+
+bool NearCorner(const MouseContext& context, ViewPoint at) {
+  const PlanView& view = context.plan();
+  const vec3 point = InWorld(view, at, 0);
+  bool found = false;
+  VisitBrushes(context.model, BrushFilter::Visible, [&](const brush& b) {
+    found = found || PickVertex(b, point, view.orientation, VertexPickRadius(context.settings));
+  });
+  return found;
+}
+
+}  // namespace
+
+ToolStart StartRotate(const MouseContext& context, const PointerEvent& event) {
+  ToolStart start;
+  const ViewPoint at = PointUnder(context, event);
+  if (context.model.totalSelected() == 0 || !NearCorner(context, at)) return start;
+  const PlanView& view = context.plan();
+  const vec3 centre = SelectionPivot(context.model);
+  const double angle = context.settings.careful_tools
+                           ? DirectionAngle(at.u - centre[view.axisU], at.v - centre[view.axisV])
+                           : 0;
+  start.claimed = true;
+  start.drag = std::make_unique<RotateDrag>(centre, angle);
+  return start;
+}
+
+}  // namespace velk
