@@ -74,7 +74,7 @@ struct Level {
     classes.scanText(FileText("VELK_BENCH_QC"));
     ReadMapFile(m, std::getenv("VELK_BENCH_MAP"), {});
     Wad& wad = manager.openWad(std::getenv("VELK_BENCH_WAD"), {});
-    BuildMapTextures(m, textures, {&wad});
+    buildMapTextures(m, textures, {&wad});
     assets.makeTextureRef = [this](const std::string& name) { return textures.makeTextureRef(name); };
     assets.palette = wad.palette.data();
     if (colormap.size() >= 64 * 256)

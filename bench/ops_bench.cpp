@@ -121,7 +121,7 @@ void Subtract(benchmark::State& state) {
   bench.addSubtractors(int(state.range(1)));
   int after = 0;
   Repeat(state, bench, [&](map& m) {
-    SubtractSelection(m, true);
+    subtractSelection(m, true);
     after = m.brushCount();
   });
   state.counters["pieces"] = after - bench.m.brushCount();

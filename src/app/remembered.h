@@ -1,6 +1,8 @@
 // What the dialogs of commands remember until the editor ends: each shows the values last accepted.
 #pragma once
 
+#include <array>
+
 #include "makers/arch.h"
 #include "makers/box.h"
 #include "makers/cylinder.h"
@@ -23,6 +25,10 @@ struct Remembered {
   BoxParams box;
   LightParams lights;
   RevolveParams revolve;
+  std::array<double, 3> rotation{0, 0, 0};  // degrees: roll, pitch, yaw
+  std::array<double, 3> scale{1, 1, 1};
+  std::array<double, 3> copyOffset{16, 16, 0};
+  bool moveOnly = false;
 };
 
 }  // namespace velk

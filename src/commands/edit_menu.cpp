@@ -2,6 +2,7 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
+#include "commands/transform_commands.h"
 #include "ops/clipboard.h"
 
 namespace velk {
@@ -85,7 +86,7 @@ const Command kRows[] = {
      .label = "O&ffset Copy/Move...",
      .keyText = "Ctrl-Shift Space", .keys = "Ctrl+Shift+Space",
      .hint = "Copy or move selection by offset...", .enabled = SelectionInEntity,
-     .reason = "not built yet: transforms"},
+     .run = AskCopyMove, .caption = kCannotCopy, .failure = kNoRoom},
     {.id = 216, .name = "CM_EDITCLONE", .menu = "&Edit|&Copy", .label = "C&lone Brush(es)",
      .keyText = "Ctrl-Space", .keys = "Ctrl+Space", .hint = "Clone selected brushes",
      .enabled = SelectionInEntity, .run = Clone, .caption = kCannotCopy, .failure = kNoRoom},
@@ -101,10 +102,10 @@ const Command kRows[] = {
     {.id = 166, .name = "CM_SUBTRACT", .menu = "&Edit", .startsGroup = true,
      .label = "Subtract", .keyText = "F12",
      .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,
-     .reason = "not built yet: subtraction"},
+     .run = Subtract},
     {.id = 140, .name = "CM_SNAP_TO_GRID", .menu = "&Edit", .label = "Snap To Grid", .keyText = "Alt-S",
      .keys = "Alt+S", .hint = "Snap current brush(es) to grid...", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = SnapToGrid},
     {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.",
      .reason = "not built yet: the leak search"},
 };

@@ -5,6 +5,7 @@
 #include "commands/command_tables.h"
 #include "commands/hit_commands.h"
 #include "commands/maker_commands.h"
+#include "commands/transform_commands.h"
 #include "planview/view_steps.h"
 
 namespace velk {
@@ -95,11 +96,11 @@ const Command kRows[] = {
     {.id = 1009, .name = "CM_HIT_9", .label = "Hit 9", .keys = "Ctrl+9",
      .hint = "Select or deselect hit brush 9", .run = With<ToggleHitBrush, 9>},
     {.id = 263, .name = "CM_CLIP_POINT_1", .label = "Clip Point 1", .keys = "F1",
-     .hint = "Make clip point 1 current", .enabled = MapOpen, .reason = "not built yet: the clipper"},
+     .hint = "Make clip point 1 current", .enabled = MapOpen, .run = With<ChooseClipPointAt, 0>},
     {.id = 264, .name = "CM_CLIP_POINT_2", .label = "Clip Point 2", .keys = "F2",
-     .hint = "Make clip point 2 current", .enabled = MapOpen, .reason = "not built yet: the clipper"},
+     .hint = "Make clip point 2 current", .enabled = MapOpen, .run = With<ChooseClipPointAt, 1>},
     {.id = 268, .name = "CM_CLIP_POINT_3", .label = "Clip Point 3", .keys = "F3",
-     .hint = "Make clip point 3 current", .enabled = MapOpen, .reason = "not built yet: the clipper"},
+     .hint = "Make clip point 3 current", .enabled = MapOpen, .run = With<ChooseClipPointAt, 2>},
     {.id = 1030, .name = "CM_CAMERA_FORWARD", .label = "Forward", .keys = "Up",
      .hint = "Move the camera forward", .run = With<MoveOnSettings, MoveForward>},
     {.id = 1031, .name = "CM_CAMERA_BACKWARD", .label = "Backward", .keys = "Down",

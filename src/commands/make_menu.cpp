@@ -1,6 +1,7 @@
 // Commands of the Edit menu that make brushes and entities, turn and mirror.
 #include "commands/command_tables.h"
 #include "commands/maker_commands.h"
+#include "commands/transform_commands.h"
 
 namespace velk {
 namespace {
@@ -15,7 +16,7 @@ const Command kRows[] = {
      .run = MakeRoomInPlace},
     {.id = 206, .name = "CM_EXTRUDE", .menu = "&Edit|&Make|&Room", .label = "Room (Extruded)...",
      .hint = "Extrude room from selected brush", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = ExtrudeBrush},
     {.id = 172, .name = "CM_MAKE_ARCH", .menu = "&Edit|&Make", .label = "Arch...",
      .hint = "Make an arch from selected brush", .enabled = MapOpen,
      .run = MakeArchInPlace},
@@ -35,12 +36,12 @@ const Command kRows[] = {
      .hint = "Make a brush at x, y, z of dx, dy, dz size...", .enabled = MapOpen,
      .run = CreateBrush},
     {.id = 151, .name = "CM_TALL_BRUSH", .menu = "&Edit|&Make", .startsGroup = true, .label = "Tall Brush",
-     .hint = "Make current brush very tall", .enabled = MapOpen, .reason = "not built yet: transforms"},
+     .hint = "Make current brush very tall", .enabled = MapOpen, .run = TallBrush},
     {.id = 152, .name = "CM_SHORT_BRUSH", .menu = "&Edit|&Make", .label = "Short Brush",
-     .hint = "Make current brush very small", .enabled = MapOpen, .reason = "not built yet: transforms"},
+     .hint = "Make current brush very small", .enabled = MapOpen, .run = ShortBrush},
     {.id = 203, .name = "CM_HEIGHT_BRUSH", .menu = "&Edit|&Make", .label = "Height...",
      .hint = "Make brush of specified height", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = AskHeight},
     {.id = 168, .name = "CM_MAKE_ENTITY", .menu = "&Edit|&Make", .startsGroup = true, .label = "Entity...",
      .hint = "Make current brush into entity", .enabled = MapOpen,
      .reason = "not built yet: entity editing"},
@@ -52,25 +53,25 @@ const Command kRows[] = {
      .reason = "not built yet: entity editing"},
     {.id = 176, .name = "CM_ROTATE_BRUSH", .menu = "&Edit", .label = "R&otate Brush", .keyText = "Ctrl-R",
      .keys = "Ctrl+R", .hint = "Rotate current brush", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = AskRotate},
     {.id = 205, .name = "CM_EDIT_SCALE", .menu = "&Edit", .label = "Scale", .keyText = "Ctrl-Shift-S",
      .keys = "Ctrl+Shift+S", .hint = "Scale selected brushes on centroid...", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = AskScale},
     {.id = 177, .name = "CM_FLIP_X", .menu = "&Edit|&Mirror", .label = "Mirror On X",
-     .hint = "Mirror selected along X axis", .enabled = MapOpen, .reason = "not built yet: transforms"},
+     .hint = "Mirror selected along X axis", .enabled = MapOpen, .run = With<MirrorOn, 0>},
     {.id = 178, .name = "CM_FLIP_Y", .menu = "&Edit|&Mirror", .label = "Mirror On Y",
-     .hint = "Mirror selected along Y axis", .enabled = MapOpen, .reason = "not built yet: transforms"},
+     .hint = "Mirror selected along Y axis", .enabled = MapOpen, .run = With<MirrorOn, 1>},
     {.id = 180, .name = "CM_FLIP_Z", .menu = "&Edit|&Mirror", .label = "Mirror On Z",
-     .hint = "Mirror selected along Z axis", .enabled = MapOpen, .reason = "not built yet: transforms"},
+     .hint = "Mirror selected along Z axis", .enabled = MapOpen, .run = With<MirrorOn, 2>},
     {.id = 181, .name = "CM_ROTATE_X", .menu = "&Edit|&Rotate 1/4 Turn", .label = "Rotate On X",
      .hint = "Rotate selected 90 degrees on X Axis", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = With<QuarterTurnOn, 0>},
     {.id = 182, .name = "CM_ROTATE_Y", .menu = "&Edit|&Rotate 1/4 Turn", .label = "Rotate On Y",
      .hint = "Rotate selected 90 degrees on Y axis", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = With<QuarterTurnOn, 1>},
     {.id = 183, .name = "CM_ROTATE_Z", .menu = "&Edit|&Rotate 1/4 Turn", .label = "Rotate On Z",
      .hint = "Rotate selected 90 degrees on Z axis", .enabled = MapOpen,
-     .reason = "not built yet: transforms"},
+     .run = With<QuarterTurnOn, 2>},
 };
 // clang-format on
 

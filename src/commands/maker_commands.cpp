@@ -78,7 +78,8 @@ Form ArchForm(const ArchParams& params, const Seed& seed, const MakerRules& rule
   return form;
 }
 
-// None when the user gave none.
+}  // namespace
+
 std::optional<int> WallThickness(Editor& editor) {
   const int gridsize = editor.settings().gridsize;
   if (!editor.settings().query_wall_width) return gridsize;
@@ -86,8 +87,6 @@ std::optional<int> WallThickness(Editor& editor) {
       {.title = kWallTitle, .prompt = kWallPrompt, .text = Format("%i", gridsize)});
   return answer ? std::optional(TextToInt(*answer)) : std::nullopt;
 }
-
-}  // namespace
 
 Outcome MakeStairsInPlace(Editor& editor, map& m) {
   brush* brushSelected = OnlySelected(m);

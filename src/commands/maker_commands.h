@@ -2,9 +2,14 @@
 // remember, and put what the makers built into the map.
 #pragma once
 
+#include <optional>
+
 #include "app/editor.h"
 
 namespace velk {
+
+// The thickness of walls: the grid size, or what the user says (query_wall_width). None on Cancel.
+std::optional<int> WallThickness(Editor& editor);
 
 Outcome MakeStairsInPlace(Editor& editor, map& m);
 Outcome MakeRoomInPlace(Editor& editor, map& m);

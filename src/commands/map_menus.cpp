@@ -2,6 +2,7 @@
 #include "app/editor.h"
 #include "commands/command_tables.h"
 #include "commands/toggles.h"
+#include "commands/transform_commands.h"
 
 namespace velk {
 namespace {
@@ -61,20 +62,20 @@ const Command kRows[] = {
      .hint = "Don't draw clip brushes", .enabled = MapOpen, .checked = Holds<Omitted, &ViewFilter::omitClip>, .run = OmitClip},
     {.id = 133, .name = "CM_FLIPCLIPPER", .menu = "&Clip", .label = "&Flip", .keyText = "Ctrl-/",
      .keys = "Ctrl+/", .hint = "Flip the normal of the clip plane", .enabled = MapOpen,
-     .reason = "not built yet: the clipper"},
+     .run = FlipClipPlane},
     {.id = 132, .name = "CM_CARVE", .menu = "&Clip", .label = "&Carve", .keyText = "Ins", .keys = "Ins",
      .hint = "Carve selected brushes by clip plane", .enabled = MapOpen,
-     .reason = "not built yet: the clipper"},
+     .run = CarveByClipPlane},
     {.id = 280, .name = "CM_CLIPSPLIT", .menu = "&Clip", .label = "&Split", .keyText = "Alt-Ins",
      .keys = "Alt+Ins", .hint = "Split selected brushes by clip plane..", .enabled = MapOpen,
-     .reason = "not built yet: the clipper"},
+     .run = SplitByClipPlane},
     {.id = 141, .name = "CM_MOVE_UP", .menu = "&Clip", .startsGroup = true,
      .label = "Move &Up", .keyText = "F5", .keys = "F5",
      .hint = "Moves current clip point up by gridsize", .enabled = MapOpen,
-     .reason = "not built yet: the clipper"},
+     .run = RaiseClipPoint},
     {.id = 170, .name = "CM_MOVE_DOWN", .menu = "&Clip", .label = "Move &Down", .keyText = "F6",
      .keys = "F6", .hint = "Move current clip point down by gridsize", .enabled = MapOpen,
-     .reason = "not built yet: the clipper"},
+     .run = LowerClipPoint},
 };
 // clang-format on
 

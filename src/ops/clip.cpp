@@ -45,7 +45,7 @@ void LiftPoint(map& m, int steps) {
 }
 
 void CarveBrush(brush& b, const face& clipFace) {
-  CutBrush(b, clipFace);
+  cutBrush(b, clipFace);
   if (b.invalid) DestroyBrush(b);
 }
 
@@ -60,7 +60,7 @@ void SplitOne(brush& b, const face& clipFace) {
 
 template <typename Cut>
 Outcome CutSelection(map& m, int depthAxis, bool careful, const char* status, Cut&& cut) {
-  const std::optional<face> clipFace = MakeClipFace(m.clip, depthAxis);
+  const std::optional<face> clipFace = makeClipFace(m.clip, depthAxis);
   if (!clipFace && careful) return Outcome::Said(kClipNoPlane);
   m.modified = true;
   if (clipFace) {
@@ -74,7 +74,7 @@ Outcome CutSelection(map& m, int depthAxis, bool careful, const char* status, Cu
 
 }  // namespace
 
-std::optional<face> MakeClipFace(const clipper& clip, int depthAxis) {
+std::optional<face> makeClipFace(const clipper& clip, int depthAxis) {
   if (clip.count < 2) return std::nullopt;
   face f;
   for (int i = 0; i < 3; ++i) f.planepts[i] = clip.points[i];
@@ -86,7 +86,7 @@ std::optional<face> MakeClipFace(const clipper& clip, int depthAxis) {
   return f;
 }
 
-Outcome AddClipPoint(map& m, const ViewAxes& axes, double u, double v, const vec3& planCenter) {
+Outcome addClipPoint(map& m, const ViewAxes& axes, double u, double v, const vec3& planCenter) {
   vec3 at;
   at[axes.u] = float(Snap(u, m.settings().gridsize));
   at[axes.v] = float(Snap(v, m.settings().gridsize));
@@ -130,7 +130,7 @@ int HitClipPoint(const clipper& clip, const ViewAxes& axes, double u, double v) 
   return -1;
 }
 
-std::optional<ClipDrag> DragClipPoint(clipper& clip, const ViewAxes& axes, double u, double v) {
+std::optional<ClipDrag> dragClipPoint(clipper& clip, const ViewAxes& axes, double u, double v) {
   const int hit = HitClipPoint(clip, axes, u, v);
   if (hit < 0) return std::nullopt;
   const ClipDrag drag(clip, axes, hit, false);
@@ -138,7 +138,7 @@ std::optional<ClipDrag> DragClipPoint(clipper& clip, const ViewAxes& axes, doubl
   return drag;
 }
 
-std::optional<ClipDrag> DragClipPlane(const clipper& clip, const ViewAxes& axes, double u, double v) {
+std::optional<ClipDrag> dragClipPlane(const clipper& clip, const ViewAxes& axes, double u, double v) {
   const int hit = HitClipPoint(clip, axes, u, v);
   if (hit < 0) return std::nullopt;
   return ClipDrag(clip, axes, hit, true);
@@ -174,7 +174,7 @@ Outcome HideClipPointsOrDeselect(map& m) {
   return Outcome::Drawn(Redraw::All, kAllDeselected);
 }
 
-void CutBrush(brush& b, const face& clipFace) { b.addFace(clipFace); }
+void cutBrush(brush& b, const face& clipFace) { b.addFace(clipFace); }
 
 std::unique_ptr<brush> SplitBrush(brush& b, const face& clipFace) {
   std::unique_ptr<brush> front = FreshCopy(b);

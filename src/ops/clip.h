@@ -25,13 +25,13 @@ inline constexpr double kClipReach = 10;
 // The face that two or three points make: the third of two lies 16 units along `depthAxis`, the axis that
 // the current plan view looks along (2 without one). None with fewer points or with all on a line. Carve
 // keeps what is behind the face.
-std::optional<face> MakeClipFace(const clipper& clip, int depthAxis);
+std::optional<face> makeClipFace(const clipper& clip, int depthAxis);
 
 // Places a clip point at (u, v), snapped to the grid, in the depth of `planCenter`; a fourth one starts
 // anew. On a point that is there already, moves that one to the other end of the work range instead. In a
 // view along y the first two points are swapped, so that Carve keeps the same side in all views: what lies
 // to the right of the way from the first point to the second.
-Outcome AddClipPoint(map& m, const ViewAxes& axes, double u, double v, const vec3& planCenter);
+Outcome addClipPoint(map& m, const ViewAxes& axes, double u, double v, const vec3& planCenter);
 
 // A drag of one clip point or of all three from its press to its end. Positions are world units on the
 // view's axes; depths stay.
@@ -59,8 +59,8 @@ class ClipDrag {
 int HitClipPoint(const clipper& clip, const ViewAxes& axes, double u, double v);
 // Start a drag: of the point hit, which becomes the current one, or of the plane. None, and nothing
 // changed, when no point is near.
-std::optional<ClipDrag> DragClipPoint(clipper& clip, const ViewAxes& axes, double u, double v);
-std::optional<ClipDrag> DragClipPlane(const clipper& clip, const ViewAxes& axes, double u, double v);
+std::optional<ClipDrag> dragClipPoint(clipper& clip, const ViewAxes& axes, double u, double v);
+std::optional<ClipDrag> dragClipPlane(const clipper& clip, const ViewAxes& axes, double u, double v);
 
 // Turns the plane round.
 Outcome FlipClipper(clipper& clip);
@@ -74,7 +74,7 @@ Outcome HideClipPointsOrDeselect(map& m);
 
 // Cuts one brush down to what is behind the face; it is invalid when that is nothing. A full brush is fatal
 // "addFace: numfaces == MAX_FACES".
-void CutBrush(brush& b, const face& clipFace);
+void cutBrush(brush& b, const face& clipFace);
 // The same, and gives what is in front; none when that is nothing. The new brush is in no list yet.
 std::unique_ptr<brush> SplitBrush(brush& b, const face& clipFace);
 

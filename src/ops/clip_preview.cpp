@@ -38,7 +38,7 @@ void CopyShape(const brush& from, brush& to) {
 }  // namespace
 
 void ClipPreview::begin(const map& m, int depthAxis, bool careful) {
-  std::optional<face> made = MakeClipFace(m.clip, depthAxis);
+  std::optional<face> made = makeClipFace(m.clip, depthAxis);
   const bool usable =
       made && PlaneFromPoints(made->planepts[0], made->planepts[1], made->planepts[2], made->facePlane);
   map_ = usable ? &m : nullptr;
@@ -65,7 +65,7 @@ const brush* ClipPreview::cut(const brush& b) {
   const ErrorTrap trap;
   try {
     CopyShape(b, scratch_);
-    CutBrush(scratch_, clipFace_);
+    cutBrush(scratch_, clipFace_);
   } catch (const TrappedError&) {
     return &b;
   }

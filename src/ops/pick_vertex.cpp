@@ -21,7 +21,7 @@ double VertexPickRadius(const Settings& settings) {
   return std::max(1.0, std::min<double>(settings.select_delta, settings.gridsize * settings.scale * 0.5));
 }
 
-bool PickVertex(const brush& b, const vec3& point, int orientation, double radius) {
+bool pickVertex(const brush& b, const vec3& point, int orientation, double radius) {
   if (b.invalid || b.faces().empty()) return false;
   const ViewAxes axes = AxesOf(orientation);
   const face& current = b.faces()[size_t(b.currentFace())];

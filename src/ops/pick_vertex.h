@@ -14,6 +14,6 @@ double VertexPickRadius(const Settings& settings);
 // Whether a corner of the brush lies within `radius` (world units) of the point, by its coordinates on the
 // two axes that a view of that orientation shows. The current face is asked first. An invalid brush has no
 // corners.
-bool PickVertex(const brush& b, const vec3& point, int orientation, double radius);
+bool pickVertex(const brush& b, const vec3& point, int orientation, double radius);
 
 }  // namespace velk

@@ -117,7 +117,7 @@ class Subtraction {
       return;
     }
     for (const face& f : subtractor.faces()) {
-      SplitParts parts = SplitByFace(f, *piece.at);
+      SplitParts parts = splitByFace(f, *piece.at);
       map_.setWorkLow(piece.at->mins);
       map_.setWorkHigh(piece.at->maxs);
       if (parts.front) output.emplace_back(std::move(parts.front));
@@ -135,7 +135,7 @@ class Subtraction {
 
 }  // namespace
 
-Outcome SubtractSelection(map& m, bool careful, const SubtractProgress& progress) {
+Outcome subtractSelection(map& m, bool careful, const SubtractProgress& progress) {
   entity* e = m.currentEntity();
   if (!e) return {};
   if (careful && (m.selectedCount() == 0 || !e->isModel)) return Outcome::Said(kNothingToSubtract);

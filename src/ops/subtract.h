@@ -28,6 +28,6 @@ using SubtractProgress = std::function<bool(const std::string& text, int top)>;
 // goes, and the world becomes current. `progress` may be empty. Stopped, or ended by a fatal error (a brush
 // of more than 64 faces, an entity of more than 4096 brushes), it leaves the map as it was. Careful: with
 // nothing selected, or only the box of a point entity, it says so and changes nothing.
-Outcome SubtractSelection(map& m, bool careful, const SubtractProgress& progress = {});
+Outcome subtractSelection(map& m, bool careful, const SubtractProgress& progress = {});
 
 }  // namespace velk

@@ -60,7 +60,7 @@ int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& 
   const size_t before = wads_.size();
   std::vector<Wad*> wads;
   for (const std::string& name : names) wads.push_back(&openWad(name, progress));
-  BuildMapTextures(m, set, std::move(wads));
+  buildMapTextures(m, set, std::move(wads));
   return static_cast<int>(wads_.size() - before);
 }
 

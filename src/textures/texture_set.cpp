@@ -107,7 +107,7 @@ std::unique_ptr<TextureRef> TextureSet::makeTextureRef(std::string_view name) co
   return ref;
 }
 
-void BuildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
+void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
   DropTextureCaches(m);
   try {
     set.build(std::move(wads));
@@ -156,7 +156,7 @@ void CountUses(const map& m, TextureSet& set) {
 
 }  // namespace
 
-void RecalculateFrequents(const map& m, TextureSet& set) {
+void recalculateFrequents(const map& m, TextureSet& set) {
   CountUses(m, set);
   std::vector<int> order(static_cast<size_t>(set.count()));
   for (size_t i = 0; i < order.size(); ++i) order[i] = static_cast<int>(i);

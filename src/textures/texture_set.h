@@ -70,7 +70,7 @@ class TextureSet {
 // Builds the map's set and settles its favourites: the ones it names that are in the set, or, when it
 // has no slots yet, the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are
 // dropped. No memory is fatal "Couldn't allocate favorites...".
-void BuildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
+void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
 
 // Favourites are kept in the map, by name. The place in the set of the one in a slot, -1 for a free slot.
 int FavouriteAt(const map& m, const TextureSet& set, int slot);
@@ -78,7 +78,7 @@ int FavouriteAt(const map& m, const TextureSet& set, int slot);
 void SetFavourite(map& m, int slot, std::string_view name);
 
 // Counts how many faces use each texture and finds the numfrq used most.
-void RecalculateFrequents(const map& m, TextureSet& set);
+void recalculateFrequents(const map& m, TextureSet& set);
 
 // Faces look their textures up anew.
 void DropTextureCaches(map& m);

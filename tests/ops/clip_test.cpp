@@ -12,8 +12,8 @@ using test::Bounds;
 struct ClipTest : test::MapTest {
   // Two clicks up the middle of a view of that orientation.
   void clickUpwards(int orientation) {
-    AddClipPoint(m, AxesOf(orientation), 0, 0, centre);
-    AddClipPoint(m, AxesOf(orientation), 0, 64, centre);
+    addClipPoint(m, AxesOf(orientation), 0, 0, centre);
+    addClipPoint(m, AxesOf(orientation), 0, 64, centre);
   }
   brush& selectedCube() { return selectedBox({-32, -32, -32}, {32, 32, 32}); }
   std::string boxes() {
@@ -44,14 +44,14 @@ TEST_F(ClipTest, CarveKeepsTheRightOfTheWayInEveryView) {
 TEST_F(ClipTest, PointsAreToggledInDepthAndStartAnew) {
   centre = {0, 0, 3};
   m.setWorkRange({0, 0, 16}, {0, 0, 80});
-  AddClipPoint(m, AxesOf(0), 13, -12, centre);
+  addClipPoint(m, AxesOf(0), 13, -12, centre);
   EXPECT_TRUE(VecEqual(m.clip.points[0], {16, -16, 3})) << "halves away from zero; depth as it is";
   for (const float depth : {64.0f, 0.0f}) {
-    AddClipPoint(m, AxesOf(0), 16, -16, centre);
+    addClipPoint(m, AxesOf(0), 16, -16, centre);
     EXPECT_EQ(m.clip.points[0].z, depth);
     EXPECT_EQ(m.clip.count, 1);
   }
-  for (const double u : {32, 48, 64}) AddClipPoint(m, AxesOf(0), u, 0, centre);
+  for (const double u : {32, 48, 64}) addClipPoint(m, AxesOf(0), u, 0, centre);
   EXPECT_TRUE(m.clip.count == 1 && m.clip.current == 0 && m.clip.points[0].x == 64);
   EXPECT_EQ(MoveClipPointUp(m).status, "Clip point 0 moved up...");
   EXPECT_EQ(m.clip.points[0].z, 11);
@@ -59,9 +59,9 @@ TEST_F(ClipTest, PointsAreToggledInDepthAndStartAnew) {
 
 TEST_F(ClipTest, DragsOnePointOrThePlane) {
   clickUpwards(0);
-  AddClipPoint(m, AxesOf(0), 64, 0, {0, 0, 5});
-  EXPECT_FALSE(DragClipPoint(m.clip, AxesOf(0), 10.5, 0)) << "out of reach";
-  const std::optional<ClipDrag> drag = DragClipPoint(m.clip, AxesOf(0), 10, 54);
+  addClipPoint(m, AxesOf(0), 64, 0, {0, 0, 5});
+  EXPECT_FALSE(dragClipPoint(m.clip, AxesOf(0), 10.5, 0)) << "out of reach";
+  const std::optional<ClipDrag> drag = dragClipPoint(m.clip, AxesOf(0), 10, 54);
   ASSERT_TRUE(drag);
   EXPECT_EQ(m.clip.current, 1);
   drag->move(m.clip, 21, 3);
@@ -70,7 +70,7 @@ TEST_F(ClipTest, DragsOnePointOrThePlane) {
   EXPECT_TRUE(VecEqual(m.clip.points[1], {24, 64, 0}));
   drag->cancel(m.clip);
   EXPECT_TRUE(VecEqual(m.clip.points[1], {0, 64, 0}));
-  const std::optional<ClipDrag> plane = DragClipPlane(m.clip, AxesOf(0), 64, 0);
+  const std::optional<ClipDrag> plane = dragClipPlane(m.clip, AxesOf(0), 64, 0);
   ASSERT_TRUE(plane);
   plane->move(m.clip, 5, -9);
   plane->finish(m.clip, 8);
@@ -103,7 +103,7 @@ TEST_F(ClipTest, WithoutAPlane) {
   for (const bool careful : {false, true}) {
     for (int i = 0; i < 3; ++i) m.clip.points[i] = {8.0f * i, 0, 0};
     m.clip.count = 3;
-    EXPECT_FALSE(MakeClipFace(m.clip, 2));
+    EXPECT_FALSE(makeClipFace(m.clip, 2));
     EXPECT_EQ(CarveSelection(m, 2, careful).status, careful ? "No clip plane..." : "Carved...");
     EXPECT_EQ(m.clip.count, careful ? 3 : 0);
     EXPECT_EQ(boxes(), "*-32..32 -32..32 -32..32\n");
@@ -132,11 +132,11 @@ TEST_F(ClipTest, PicksVerticesInEveryView) {
   brush& b = box({0, 16, 32}, {64, 80, 96});
   const vec3 nearCorners[] = {{2, 18, 500}, {500, 18, 34}, {2, 500, 34}};
   for (int orientation = 0; orientation < 3; ++orientation) {
-    EXPECT_TRUE(PickVertex(b, nearCorners[orientation], orientation, 2.9));
-    EXPECT_FALSE(PickVertex(b, nearCorners[orientation], orientation, 2.8));
+    EXPECT_TRUE(pickVertex(b, nearCorners[orientation], orientation, 2.9));
+    EXPECT_FALSE(pickVertex(b, nearCorners[orientation], orientation, 2.8));
   }
   b.invalid = true;
-  EXPECT_FALSE(PickVertex(b, nearCorners[0], 0, 2.9));
+  EXPECT_FALSE(pickVertex(b, nearCorners[0], 0, 2.9));
 
   const double radii[][2] = {{0.5, 2}, {0.1, 1}, {8, 4}};
   for (const auto& [scale, radius] : radii) {

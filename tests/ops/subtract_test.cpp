@@ -22,7 +22,7 @@ TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
   box({0, 0, 0}, {64, 64, 64}, "rock");
   brush& inner = selectedBox({16, 16, 16}, {48, 48, 48}, "air");
   m.modified = false;
-  EXPECT_EQ(SubtractSelection(m, false).status, "Subtracting selection...");
+  EXPECT_EQ(subtractSelection(m, false).status, "Subtracting selection...");
   EXPECT_TRUE(m.modified);
   EXPECT_EQ(summary(), "worldspawn ------*");
   EXPECT_EQ(world().at(6), &inner);
@@ -30,15 +30,15 @@ TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
   for (const brush& b : world().brushes()) volume += Volume(b);
   EXPECT_EQ(volume, 64.0 * 64 * 64);
   for (const face& f : world().at(0)->faces()) EXPECT_EQ(f.texture.name, "rock");
-  SubtractSelection(m, true);
+  subtractSelection(m, true);
   EXPECT_EQ(Order(world()), "0 16 48 16 16 16 *16 ") << "what only touches is not cut";
 }
 
 TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
   for (int i = 0; i < 4; ++i) cube(i);
-  SubtractSelection(m, false);
+  subtractSelection(m, false);
   EXPECT_EQ(Order(world()), "96 64 32 0 ") << "without careful tools";
-  EXPECT_EQ(SubtractSelection(m, true).status, "Must have at least one selected brush...");
+  EXPECT_EQ(subtractSelection(m, true).status, "Must have at least one selected brush...");
   EXPECT_EQ(Order(world()), "96 64 32 0 ");
 
   selectedBox({72, 0, 0}, {200, 16, 16});   // cuts two
@@ -46,11 +46,11 @@ TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
   boxIn(addEntity("func_door"), {72, 0, 0}, {80, 16, 16});
   settings.groupmode = true;
   world().at(0)->setGroup(9);
-  SubtractSelection(m, false);
+  subtractSelection(m, false);
   EXPECT_EQ(Order(world()), "0 32 64 96 *190 *72 ") << "of a hidden group, one stays whole";
   EXPECT_EQ(world().at(2)->maxs.x, 72);
   settings.groupmode = false;
-  SubtractSelection(m, false);
+  subtractSelection(m, false);
   EXPECT_EQ(Order(world()), "64 32 0 *72 *190 ");
   EXPECT_EQ(m.at(1)->numbrushes(), 1) << "of another entity";
 }
@@ -59,7 +59,7 @@ TEST_F(SubtractTest, AnInvalidSubtractorGoesAndItsEntityWithIt) {
   entity& door = addEntity("func_door");
   boxIn(door, {8, 0, 0}, {8, 0, 0}).select();
   m.setCurrentEntity(&door);
-  SubtractSelection(m, false);
+  subtractSelection(m, false);
   EXPECT_EQ(summary(), "worldspawn ");
   EXPECT_TRUE(m.worldIsCurrent());
 }
@@ -70,7 +70,7 @@ TEST_F(SubtractTest, StoppedOrFailedItLeavesTheMapAsItWas) {
   const std::string before = Order(world());
   std::vector<std::string> heard;
   m.modified = false;
-  const Outcome outcome = SubtractSelection(m, true, [&](const std::string& text, int top) {
+  const Outcome outcome = subtractSelection(m, true, [&](const std::string& text, int top) {
     heard.push_back(text + std::to_string(top));
     return heard.size() < 3;
   });
@@ -81,7 +81,7 @@ TEST_F(SubtractTest, StoppedOrFailedItLeavesTheMapAsItWas) {
   EXPECT_TRUE(!m.modified && VecEqual(m.workHigh(), {80, 80, 80}));
 
   while (world().numbrushes() < MAX_ENTITY_BRUSHES) cube(50);
-  EXPECT_FATAL(SubtractSelection(m, false), "entity->addobject, too many objects");
+  EXPECT_FATAL(subtractSelection(m, false), "entity->addobject, too many objects");
   EXPECT_TRUE(Order(world()).starts_with(before));
   EXPECT_FALSE(m.modified);
 }

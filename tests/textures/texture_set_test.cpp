@@ -116,7 +116,7 @@ TEST_F(TextureSetTest, FavouritesAreTheMapsOrTheFirstOfTheSet) {
 TEST_F(TextureSetTest, FrequentsAreThoseUsedMost) {
   wad("a.wad", {"a", "b", "c", "+0d", "+1d", "e"});
   open("a.wad");
-  RecalculateFrequents(m, set);
+  recalculateFrequents(m, set);
   EXPECT_TRUE(set.frequents.empty());
 
   // Frames do not count for their head.
@@ -124,11 +124,11 @@ TEST_F(TextureSetTest, FrequentsAreThoseUsedMost) {
        {std::pair{"A", 5}, {"b", 5}, {"c", 7}, {"e", 5}, {"+1d", 9}, {"none", 9}}) {
     for (int i = 0; i < count; ++i) box({0, 0, 0}, {8, 8, 8}, texture);
   }
-  RecalculateFrequents(m, set);
+  recalculateFrequents(m, set);
   EXPECT_EQ(set.frequents, (std::vector{2, 1, 0, 4}));
   EXPECT_EQ(set.at(2).useCount, 42);
   settings.numfrq = 1;
-  RecalculateFrequents(m, set);
+  recalculateFrequents(m, set);
   EXPECT_EQ(set.frequents, (std::vector{2}));
 }
 

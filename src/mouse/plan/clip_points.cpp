@@ -43,18 +43,18 @@ ToolStart AddClipPointClick(const MouseContext& context, const PointerEvent& eve
   const ViewPoint at = PointUnder(context, event);
   ToolStart start;
   start.claimed = true;
-  start.outcome = AddClipPoint(context.model, AxesOf(context.plan()), at.u, at.v, context.plans.planCenter);
+  start.outcome = addClipPoint(context.model, AxesOf(context.plan()), at.u, at.v, context.plans.planCenter);
   return start;
 }
 
 ToolStart StartClipPointDrag(const MouseContext& context, const PointerEvent& event) {
   const ViewPoint at = PointUnder(context, event);
-  return Begin(DragClipPoint(context.model.clip, AxesOf(context.plan()), at.u, at.v), kClipPointDragCode);
+  return Begin(dragClipPoint(context.model.clip, AxesOf(context.plan()), at.u, at.v), kClipPointDragCode);
 }
 
 ToolStart StartClipPlaneDrag(const MouseContext& context, const PointerEvent& event) {
   const ViewPoint at = PointUnder(context, event);
-  return Begin(DragClipPlane(context.model.clip, AxesOf(context.plan()), at.u, at.v), kClipPlaneDragCode);
+  return Begin(dragClipPlane(context.model.clip, AxesOf(context.plan()), at.u, at.v), kClipPlaneDragCode);
 }
 
 }  // namespace velk

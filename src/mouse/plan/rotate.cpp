@@ -66,7 +66,7 @@ bool NearCorner(const MouseContext& context, ViewPoint at) {
   const vec3 point = InWorld(view, at, 0);
   bool found = false;
   VisitBrushes(context.model, BrushFilter::Visible, [&](const brush& b) {
-    found = found || PickVertex(b, point, view.orientation, VertexPickRadius(context.settings));
+    found = found || pickVertex(b, point, view.orientation, VertexPickRadius(context.settings));
   });
   return found;
 }

@@ -32,7 +32,7 @@ std::vector<std::unique_ptr<brush>> Walls(const brush& b, int thickness) {
   inside->buildWindings();
   for (const face& f : b.faces()) {
     if (!f.polygon) continue;
-    SplitParts parts = SplitByFace(InnerFace(f, thickness), *inside);
+    SplitParts parts = splitByFace(InnerFace(f, thickness), *inside);
     if (!parts.back || !IsSolid(*parts.back)) return {};
     if (parts.front && IsSolid(*parts.front)) walls.push_back(std::move(parts.front));
     inside = std::move(parts.back);

@@ -47,7 +47,7 @@ std::unique_ptr<brush> Hull(const Parts& parts) {
 void CutAway(std::unique_ptr<brush> piece, const brush& part, std::vector<std::unique_ptr<brush>>& outside) {
   for (const face& f : part.faces()) {
     if (!f.polygon) continue;
-    SplitParts split = SplitByFace(f, *piece);
+    SplitParts split = splitByFace(f, *piece);
     if (split.front && Thickness(*split.front) > kSliver) outside.push_back(std::move(split.front));
     if (!split.back) return;
     piece = std::move(split.back);

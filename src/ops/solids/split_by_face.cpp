@@ -18,7 +18,7 @@ face TurnedRound(face f) {
   return f;
 }
 
-SplitParts SplitByFace(const face& f, const brush& b) {
+SplitParts splitByFace(const face& f, const brush& b) {
   SplitParts parts;
   parts.back = PartBehind(f, b);
   parts.front = PartBehind(TurnedRound(f), b);

@@ -18,7 +18,7 @@ struct SplitParts {
 // Both parts of the brush, which stays as it is. They are in no list, have the brush's owner, group and
 // selection, and on the new faces its first face's texture. A full brush is fatal "addFace: numfaces ==
 // MAX_FACES".
-SplitParts SplitByFace(const face& f, const brush& b);
+SplitParts splitByFace(const face& f, const brush& b);
 
 // A copy that is nobody's undo copy, not rebuilt yet.
 std::unique_ptr<brush> FreshCopy(const brush& b);
