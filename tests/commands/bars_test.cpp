@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/bar_names.h"
 #include "support/session.h"
 
 namespace velk {
@@ -39,12 +38,6 @@ TEST(Bars, ReadsRecordsUpToTheFirstThingThatIsNone) {
       {"bars -3\nbar 1 CM_FILENEW\n", ""},
   };
   for (const auto& [file, bars] : cases) EXPECT_EQ(Summary(file), bars) << file;
-}
-
-TEST(Bars, EveryNameGivesItsButton) {
-  for (const auto& [name, id] : test::kBarNames) {
-    EXPECT_EQ(Summary(std::string("bars 1\nbar 1 ") + name), std::to_string(id) + " /") << name;
-  }
 }
 
 TEST(Bars, BoundsWhatAFileCanAskFor) {

@@ -113,42 +113,6 @@ TEST(Keys, WhatTheyRun) {
   }
 }
 
-// Besides those with a check mark, all of which need a map.
-constexpr const char* kNeedMap =
-    "CM_XDOWN CM_XUP CM_YDOWN CM_YUP CM_ZDOWN CM_ZUP CM_SELECT_ALL CM_CARVE CM_FLIPCLIPPER "
-    "CM_SWITCH_MAP_VIEW CM_GROUP CM_SNAP_TO_GRID CM_MOVE_UP CM_WINDOW_POSITION CM_TALL_BRUSH "
-    "CM_SHORT_BRUSH CM_FLOOR_UP CM_FLOOR_DOWN CM_DESELECT_ALL CM_EDITMAKESTAIRS CM_SCALE_UP CM_SCALE_DOWN "
-    "CM_SUBTRACT CM_MAKE_ENTITY CM_MOVE_DOWN CM_MAKE_ROOM CM_MAKE_ARCH CM_SELECT_TOTAL CM_SELECT_PARTIAL "
-    "CM_MAKE_LIGHTS CM_ROTATE_BRUSH CM_FLIP_X CM_FLIP_Y CM_MAKE_SPHERE CM_FLIP_Z CM_ROTATE_X CM_ROTATE_Y "
-    "CM_ROTATE_Z CM_FILESAVE_SEL CM_LOAD_BRUSHES CM_FILE_ARRANGE CM_MAKE_CYLINDER CM_MAKE_N_SIDED "
-    "CM_HEIGHT_BRUSH CM_MAKE_PYRAMID CM_EDIT_SCALE CM_EXTRUDE CM_CENTER CM_MAKE_BRUSH CM_NEXT_MAP "
-    "CM_PREVIOUS_MAP CM_RESET_ANGLES CM_DELETE CM_NEXT_FACE CM_PREVIOUS_FACE CM_CLIPSPLIT CM_REPLACE "
-    "CM_REVERT CM_SELECT_BY_TEXTURE CM_HIT_UP CM_HIT_DOWN CM_MERGE_IN CM_MERGE_OUT CM_MERGE_CLIPBOARD "
-    "CM_REVOLVE CM_GRID_DOWN CM_GRID_UP CM_FILESAVE CM_FILESAVEAS CM_FILECLOSE CM_CASCADECHILDREN "
-    "CM_TILECHILDREN 228 229 254 263 264 268 24364"
-    " CM_EDITPASTE 355 265 218 219";
-
-// With rules of their own.
-constexpr const char* kOtherRules =
-    "CM_FILENEW CM_FILEOPEN CM_EDITCOPY CM_EDITCLONE CM_COPY_MOVE 11844 1100 298 24337 98 24338";
-
-std::set<const Command*> namedIn(const char* list) {
-  std::set<const Command*> commands;
-  for (const std::string& name : Split(list, ' ')) commands.insert(FindCommand(name));
-  EXPECT_FALSE(commands.contains(nullptr)) << list;
-  return commands;
-}
-
-TEST(CommandTable, WhatNeedsAMapAndWhatDoesNot) {
-  const std::set<const Command*> needMap = namedIn(kNeedMap);
-  const std::set<const Command*> other = namedIn(kOtherRules);
-  for (const Command& command : Commands()) {
-    if (other.contains(&command) || (command.id >= 1000 && command.id < 1200)) continue;
-    const bool needs = needMap.contains(&command) || command.checked;
-    EXPECT_EQ(command.enabled, needs ? MapOpen : nullptr) << named(command);
-  }
-}
-
 // Answers every question with Cancel.
 struct Declining : Prompts {
   Answer ask(const MessageBox& box) override {
