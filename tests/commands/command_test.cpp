@@ -7,6 +7,7 @@
 #include "commands/named_files.h"
 #include "documents/opening.h"
 #include "planview/view_steps.h"
+#include "support/declining_prompts.h"
 #include "support/session.h"
 
 namespace velk {
@@ -113,18 +114,6 @@ TEST(Keys, WhatTheyRun) {
   }
 }
 
-// Answers every question with Cancel.
-struct Declining : Prompts {
-  Answer ask(const MessageBox& box) override {
-    return box.buttons == MessageBox::Buttons::Ok ? Answer::Ok : Answer::Cancel;
-  }
-  std::vector<std::string> chooseFiles(const FileChooser&) override { return {}; }
-  std::optional<std::string> input(const TextInput&) override { return std::nullopt; }
-  std::optional<Colour> chooseColour(const ColourChooser&) override { return std::nullopt; }
-  FormAnswer fill(Form&) override { return FormAnswer::Cancel; }
-  void show(ModelessForm) override {}
-};
-
 // Disabled rows are called, too, as a stale button would.
 TEST(Commands, LoseNothingWhenDeclined) {
   test::TempFolder home;
@@ -132,7 +121,7 @@ TEST(Commands, LoseNothingWhenDeclined) {
   const std::string empty = home.write("empty.map", "{\n\"classname\" \"worldspawn\"\n}\n");
   const std::string full = home.write("small.map", test::SmallMapText());
   for (const std::string& path : {std::string(), empty, full}) {
-    Declining prompts;
+    test::DecliningPrompts prompts;
     test::RecordingObserver observer;
     Editor editor({home.path(), home.path()}, prompts, observer);
     editor.start();
@@ -155,16 +144,6 @@ TEST(Commands, LoseNothingWhenDeclined) {
 TEST(Commands, CheckMarksFollowTheState) {
   test::Session session;
   session.run("CM_FILENEW");
-  const std::vector<std::pair<const char*, bool>> toggles{
-      {"CM_TOGGLE_NAMES", false}, {"CM_TOGGLE_COORDINATES", true}, {"CM_TOGGLE_HITS", false},
-      {"CM_GRID_MODE", false},    {"CM_GROUP_MODE", false},        {"CM_TOGGLE_OUTLINE", false},
-      {"CM_OMIT_WATER", false},   {"CM_DRAW_CONNECTIONS", false}};
-  for (const auto& [name, before] : toggles) {
-    const Command& command = *FindCommand(name);
-    EXPECT_EQ(IsChecked(session.editor, command), before) << name;
-    EXPECT_TRUE(session.run(name)) << name;
-    EXPECT_EQ(IsChecked(session.editor, command), !before) << name;
-  }
   const auto checkedOf = [&](int from, int to) {
     std::vector<int> ids;
     for (int id = from; id <= to; ++id) {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/builders.h"
-#include "support/scripted_prompts.h"
+#include "support/declining_prompts.h"
 #include "support/temp_folder.h"
 #include "support/wad_builder.h"
 #include "textures/texture_manager.h"
@@ -34,7 +34,7 @@ struct TextureSetTest : test::MapTest {
 
   test::TempFolder folder;
   Paths paths;
-  test::ScriptedPrompts prompts;
+  test::DecliningPrompts prompts;
   TextureManager manager{{settings, paths, prompts}};
   TextureSet set{manager.badtex()};
 };

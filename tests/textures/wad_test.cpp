@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/declining_prompts.h"
 #include "support/fatal.h"
-#include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
 #include "support/wad_builder.h"
 #include "textures/colormap.h"
@@ -11,7 +11,7 @@
 namespace velk {
 namespace {
 
-using test::ScriptedPrompts;
+using test::DecliningPrompts;
 using test::TempFolder;
 using test::TextureLump;
 using test::WadBuilder;
@@ -39,7 +39,7 @@ class WadTest : public testing::Test {
   TempFolder folder;
   Settings settings;
   Paths paths;
-  ScriptedPrompts prompts;
+  DecliningPrompts prompts;
   Random random;
   WadServices services{settings, paths, prompts};
   std::vector<std::string> told;
@@ -128,7 +128,6 @@ TEST_F(WadTest, AMissingWadIsAskedFor) {
   EXPECT_EQ(prompts.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
   EXPECT_EQ(prompts.choosers[0].directory, settings.wad_directory);
 
-  prompts.cancel();
   EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
   prompts.answer("/nowhere/none.wad");
   EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
@@ -139,9 +138,8 @@ TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
       folder.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
   std::string lines;
   for (int i = 0; i < 256; ++i) lines += "1 2 3\n";
-  prompts.cancel();
   EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
-  EXPECT_EQ(prompts.asked.back(), "Select Quake.Pal File|quake.pal");
+  EXPECT_EQ(prompts.choosers.back().title, "Select Quake.Pal File");
   prompts.answer(folder.write("own.pal", lines));
   EXPECT_EQ(load(plain).palette[2], 3);
   folder.write("qc/QUAKE.PAL", lines);
@@ -165,7 +163,6 @@ TEST_F(WadTest, OutlinesAndProgress) {
 }
 
 TEST_F(WadTest, ColormapIsWholeOrNone) {
-  prompts.cancel();
   EXPECT_FATAL(loadColormap(services), "You must select a valid colormap.lmp file.");
   EXPECT_EQ(prompts.choosers[0].title, "Where is the colormap.lmp file?");
   prompts.answer("/nowhere/colormap.lmp");
