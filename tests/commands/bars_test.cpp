@@ -7,8 +7,6 @@
 namespace velk {
 namespace {
 
-using test::Session;
-
 // "bars" as text: commands by number, "|" for a separator, "T" for the texture list, bars parted by '/'.
 std::string Summary(std::string_view file) {
   std::string text;
@@ -64,20 +62,6 @@ TEST(Bars, TipsAreHintsWithTheirKeys) {
   EXPECT_EQ(ButtonTip(*FindCommand("CM_FILENEW")), "Create new Quake .map file (Ctrl-N)");
   EXPECT_EQ(ButtonTip(*FindCommand("CM_FLIP_X")), "Mirror selected along X axis");
   EXPECT_EQ(ButtonTip(*FindCommand("CM_GRID_DOWN")), "Down (Ctrl-PgDn)");
-}
-
-TEST(Bars, TheTextureListSetsTheCurrentTexture) {
-  Session session;
-  const std::vector<std::string> names = TextureListNames(session.editor);
-  session.open();
-  EXPECT_EQ(TextureListNames(session.editor), names);
-  ASSERT_EQ(names.size(), 3u);
-  ChooseTexture(session.editor, names[2]);
-  EXPECT_EQ(session.editor.texture().current().name, names[2]);
-  EXPECT_EQ(session.editor.texture().currentIndex(), 2);
-  EXPECT_EQ(session.editor.documents().current()->textures.currentName, names[2]);
-  ChooseTexture(session.editor, "nothing");
-  EXPECT_EQ(session.editor.texture().current().name, names[2]);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ std::string question(const std::string& path, const char* end, const char* answe
 
 // One box at x, to tell the states of a file apart.
 std::string boxAt(int x) {
-  return "{\n\"classname\" \"worldspawn\"\n" + test::BoxBrushText(x, 64, "wall1") + "}\n";
+  return "{\n\"classname\" \"worldspawn\"\n" + test::Cube(x / 64, "wall1 0 0 0 1 1") + "}\n";
 }
 
 TEST(Disk, AChangedFileIsNotReplacedWithoutAsking) {
