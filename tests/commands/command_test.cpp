@@ -46,14 +46,6 @@ TEST(CommandTable, NoTwoRowsOnOneKey) {
   }
 }
 
-TEST(CommandTable, Finding) {
-  EXPECT_EQ(FindCommand("cm_filenew")->id, 24331);
-  EXPECT_EQ(FindCommand("24331"), FindCommand("CM_FILENEW"));
-  EXPECT_EQ(FindCommand(""), nullptr);
-  EXPECT_EQ(FindCommand("CM_NOTHING"), nullptr);
-  EXPECT_EQ(FindCommand(4711), nullptr);
-}
-
 TEST(CommandTable, HoldsWhatTheViewsMenusName) {
   const Settings settings;
   for (const auto& menu : {gridMenu(settings), scaleMenu(settings), cameraMenu(settings, nullptr)}) {

@@ -88,16 +88,6 @@ TEST(Documents, TheCurrentTextureStaysWhateverIsOpened) {
   EXPECT_EQ(browser.current().name, "FLOOR1") << "there was none";
 }
 
-TEST(Documents, ReloadingClassesReadsTheirOrderAgain) {
-  Session session;
-  session.open();
-  EXPECT_EQ(session.editor.classes().classAt(0).name, "func_wall");
-  session.home.write("velk.ini", "[Velk]\nsort_entities=0\n");
-  session.run("167");
-  EXPECT_EQ(session.editor.classes().classAt(0).name, "worldspawn");
-  EXPECT_EQ(session.editor.documents().status(), "Entity list reloaded...");
-}
-
 TEST(Documents, UntitledMapAsksForItsName) {
   Session session;
   session.run("CM_FILENEW");

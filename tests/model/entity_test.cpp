@@ -189,16 +189,5 @@ TEST(OriginTest, IsWhereTheBoxStandsWhateverThePairSays) {
   }
 }
 
-TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
-  entity e(m);
-  e.setClass("monster_of_another_game");
-  EXPECT_TRUE(e.isModel);
-  EXPECT_EQ(e.numbrushes(), 0);
-  e.makeClassBox({100, 0, 0});
-  EXPECT_FALSE(e.isModel);
-  EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
-  EXPECT_EQ(e.valueOfKey("origin"), "92 -8 -8") << "no class mins to take off";
-}
-
 }  // namespace
 }  // namespace velk

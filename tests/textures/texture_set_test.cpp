@@ -127,9 +127,6 @@ TEST_F(TextureSetTest, FrequentsAreThoseUsedMost) {
   recalculateFrequents(m, set);
   EXPECT_EQ(set.frequents, (std::vector{2, 1, 0, 4}));
   EXPECT_EQ(set.at(2).useCount, 42);
-  settings.numfrq = 1;
-  recalculateFrequents(m, set);
-  EXPECT_EQ(set.frequents, (std::vector{2}));
 }
 
 }  // namespace
