@@ -11,22 +11,12 @@
 #include "app/editor.h"
 #include "commands/dispatch.h"
 #include "mapfile/map_reader.h"
+#include "support/declining_prompts.h"
 
 namespace velk {
 namespace {
 
 constexpr int kGeneratedBrushes = 2000;
-
-// A user who cancels whatever is asked.
-class NoAnswers : public Prompts {
- public:
-  Answer ask(const MessageBox&) override { return Answer::Cancel; }
-  std::vector<std::string> chooseFiles(const FileChooser&) override { return {}; }
-  std::optional<std::string> input(const TextInput&) override { return {}; }
-  std::optional<Colour> chooseColour(const ColourChooser&) override { return {}; }
-  FormAnswer fill(Form&) override { return {}; }
-  void show(ModelessForm) override {}
-};
 
 // An editor with one map open.
 struct Desk {
@@ -77,7 +67,7 @@ struct Desk {
     }
   }
 
-  NoAnswers prompts;
+  test::DecliningPrompts prompts;
   Observer observer;
   Editor editor;
 };

@@ -92,60 +92,12 @@ bool WindsOnce(const WindingPoint* corners, int count, const vec3& normal) {
   return true;
 }
 
-// The coordinate of the next corner, for four corners in a register.
-__m128 OfNext(__m128 v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(0, 3, 2, 1)); }
-
-__m128 Magnitude(__m128 v) { return _mm_andnot_ps(_mm_set1_ps(-0.0f), v); }
-
-__m128 CrossPart(__m128 a, __m128 b, __m128 c, __m128 d) {
-  return _mm_sub_ps(_mm_mul_ps(a, b), _mm_mul_ps(c, d));
-}
-
-__m128 Dot(__m128 x, __m128 y, __m128 z, __m128 a, __m128 b, __m128 c) {
-  return _mm_add_ps(_mm_add_ps(_mm_mul_ps(x, a), _mm_mul_ps(y, b)), _mm_mul_ps(z, c));
-}
-
-// TurnsAtEveryCorner for four corners at once, in floats: a turn must exceed what they cannot tell.
-bool QuadTurnsAtEveryCorner(const WindingPoint* corners, const plane& facePlane) {
-  constexpr float kFloatTurn = 1e-5f;  // of the squares of the sides' lengths
-  __m128 x = detail::Load(corners[0]);
-  __m128 y = detail::Load(corners[1]);
-  __m128 z = detail::Load(corners[2]);
-  __m128 s = detail::Load(corners[3]);
-  _MM_TRANSPOSE4_PS(x, y, z, s);
-  const __m128 nx = _mm_set1_ps(facePlane.normal.x);
-  const __m128 ny = _mm_set1_ps(facePlane.normal.y);
-  const __m128 nz = _mm_set1_ps(facePlane.normal.z);
-
-  const __m128 farthest = _mm_max_ps(_mm_max_ps(Magnitude(x), Magnitude(y)), Magnitude(z));
-  const __m128 inRange = _mm_cmplt_ps(farthest, _mm_set1_ps(float(COORD_LIMIT - 1)));
-  const __m128 d = _mm_sub_ps(Dot(x, y, z, nx, ny, nz), _mm_set1_ps(facePlane.dist));
-  const __m128 onPlane = _mm_cmplt_ps(Magnitude(d), _mm_set1_ps(kNearPlane));
-
-  const __m128 ax = _mm_sub_ps(OfNext(x), x);
-  const __m128 ay = _mm_sub_ps(OfNext(y), y);
-  const __m128 az = _mm_sub_ps(OfNext(z), z);
-  const __m128 squared = Dot(ax, ay, az, ax, ay, az);
-  const __m128 longEnough = _mm_cmpgt_ps(squared, _mm_set1_ps(kLongEnough));
-
-  const __m128 bx = OfNext(ax);
-  const __m128 by = OfNext(ay);
-  const __m128 bz = OfNext(az);
-  const __m128 area =
-      Dot(CrossPart(az, by, ay, bz), CrossPart(ax, bz, az, bx), CrossPart(ay, bx, ax, by), nx, ny, nz);
-  const __m128 doubt = _mm_mul_ps(_mm_add_ps(squared, OfNext(squared)), _mm_set1_ps(kFloatTurn));
-  const __m128 turns = _mm_cmpgt_ps(area, _mm_add_ps(doubt, _mm_set1_ps(kTurn)));
-
-  return _mm_movemask_ps(_mm_and_ps(_mm_and_ps(inRange, onPlane), _mm_and_ps(longEnough, turns))) == 15;
-}
-
 }  // namespace
 
 bool CheckCorners(const WindingPoint* corners, int count, const plane& facePlane) {
-  // Four corners that turn the same way cannot wind round twice.
-  if (count == 4 && QuadTurnsAtEveryCorner(corners, facePlane)) return true;
-  if (count != 4 && TurnsAtEveryCorner(corners, count, facePlane) &&
-      WindsOnce(corners, count, facePlane.normal)) {
+  // Fewer than five corners that turn the same way cannot wind round twice.
+  if (TurnsAtEveryCorner(corners, count, facePlane) &&
+      (count < 5 || WindsOnce(corners, count, facePlane.normal))) {
     return true;
   }
   return CheckEveryEdge(corners, count, facePlane);

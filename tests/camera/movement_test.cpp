@@ -139,14 +139,5 @@ TEST(Movement, TheLensKeepsItsLimits) {
   EXPECT_TRUE(LargerPpd(lens).redraw == Redraw::Camera);
 }
 
-TEST(Movement, ChoosesCameras) {
-  TestMap t;
-  EXPECT_EQ(PreviousCamera(t.m).status, "Camera 5 Active...");
-  EXPECT_EQ(NextCamera(t.m).status, "Camera 1 Active...");
-  EXPECT_TRUE(SelectCamera(t.m, 3).centre == Centre::Jump);
-  EXPECT_EQ(SelectCamera(t.m, 6).status, "");
-  EXPECT_EQ(t.m.currentCamera, 2);
-}
-
 }  // namespace
 }  // namespace velk

@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "support/bar_names.h"
 #include "support/session.h"
 
 namespace velk {
 namespace {
-
-using test::Session;
 
 // "bars" as text: commands by number, "|" for a separator, "T" for the texture list, bars parted by '/'.
 std::string Summary(std::string_view file) {
@@ -41,12 +38,6 @@ TEST(Bars, ReadsRecordsUpToTheFirstThingThatIsNone) {
   for (const auto& [file, bars] : cases) EXPECT_EQ(Summary(file), bars) << file;
 }
 
-TEST(Bars, EveryNameGivesItsButton) {
-  for (const auto& [name, id] : test::kBarNames) {
-    EXPECT_EQ(Summary(std::string("bars 1\nbar 1 ") + name), std::to_string(id) + " /") << name;
-  }
-}
-
 TEST(Bars, BoundsWhatAFileCanAskFor) {
   std::string file = "bars 2000000000\n";
   for (int i = 0; i < 300; ++i) file += "bar 1 CM_ABOUT\n";
@@ -71,20 +62,6 @@ TEST(Bars, TipsAreHintsWithTheirKeys) {
   EXPECT_EQ(ButtonTip(*FindCommand("CM_FILENEW")), "Create new Quake .map file (Ctrl-N)");
   EXPECT_EQ(ButtonTip(*FindCommand("CM_FLIP_X")), "Mirror selected along X axis");
   EXPECT_EQ(ButtonTip(*FindCommand("CM_GRID_DOWN")), "Down (Ctrl-PgDn)");
-}
-
-TEST(Bars, TheTextureListSetsTheCurrentTexture) {
-  Session session;
-  const std::vector<std::string> names = TextureListNames(session.editor);
-  session.open();
-  EXPECT_EQ(TextureListNames(session.editor), names);
-  ASSERT_EQ(names.size(), 3u);
-  ChooseTexture(session.editor, names[2]);
-  EXPECT_EQ(session.editor.texture().current().name, names[2]);
-  EXPECT_EQ(session.editor.texture().currentIndex(), 2);
-  EXPECT_EQ(session.editor.documents().current()->textures.currentName, names[2]);
-  ChooseTexture(session.editor, "nothing");
-  EXPECT_EQ(session.editor.texture().current().name, names[2]);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "commands/named_files.h"
 #include "documents/opening.h"
 #include "planview/view_steps.h"
+#include "support/declining_prompts.h"
 #include "support/session.h"
 #include "commands/key_stroke.h"
 
@@ -44,14 +45,6 @@ TEST(CommandTable, NoTwoRowsOnOneKey) {
       EXPECT_EQ(CommandOnKey(stroke), &command) << Named(command) << " and " << Named(*CommandOnKey(stroke));
     }
   }
-}
-
-TEST(CommandTable, Finding) {
-  EXPECT_EQ(FindCommand("cm_filenew")->id, 24331);
-  EXPECT_EQ(FindCommand("24331"), FindCommand("CM_FILENEW"));
-  EXPECT_EQ(FindCommand(""), nullptr);
-  EXPECT_EQ(FindCommand("CM_NOTHING"), nullptr);
-  EXPECT_EQ(FindCommand(4711), nullptr);
 }
 
 TEST(CommandTable, HoldsWhatTheViewsMenusName) {
@@ -114,54 +107,6 @@ TEST(Keys, WhatTheyRun) {
   }
 }
 
-// Besides those with a check mark, all of which need a map.
-constexpr const char* kNeedMap =
-    "CM_XDOWN CM_XUP CM_YDOWN CM_YUP CM_ZDOWN CM_ZUP CM_SELECT_ALL CM_CARVE CM_FLIPCLIPPER "
-    "CM_SWITCH_MAP_VIEW CM_GROUP CM_SNAP_TO_GRID CM_MOVE_UP CM_WINDOW_POSITION CM_TALL_BRUSH "
-    "CM_SHORT_BRUSH CM_FLOOR_UP CM_FLOOR_DOWN CM_DESELECT_ALL CM_EDITMAKESTAIRS CM_SCALE_UP CM_SCALE_DOWN "
-    "CM_SUBTRACT CM_MAKE_ENTITY CM_MOVE_DOWN CM_MAKE_ROOM CM_MAKE_ARCH CM_SELECT_TOTAL CM_SELECT_PARTIAL "
-    "CM_MAKE_LIGHTS CM_ROTATE_BRUSH CM_FLIP_X CM_FLIP_Y CM_MAKE_SPHERE CM_FLIP_Z CM_ROTATE_X CM_ROTATE_Y "
-    "CM_ROTATE_Z CM_FILESAVE_SEL CM_LOAD_BRUSHES CM_FILE_ARRANGE CM_MAKE_CYLINDER CM_MAKE_N_SIDED "
-    "CM_HEIGHT_BRUSH CM_MAKE_PYRAMID CM_EDIT_SCALE CM_EXTRUDE CM_CENTER CM_MAKE_BRUSH CM_NEXT_MAP "
-    "CM_PREVIOUS_MAP CM_RESET_ANGLES CM_DELETE CM_NEXT_FACE CM_PREVIOUS_FACE CM_CLIPSPLIT CM_REPLACE "
-    "CM_REVERT CM_SELECT_BY_TEXTURE CM_HIT_UP CM_HIT_DOWN CM_MERGE_IN CM_MERGE_OUT CM_MERGE_CLIPBOARD "
-    "CM_REVOLVE CM_GRID_DOWN CM_GRID_UP CM_FILESAVE CM_FILESAVEAS CM_FILECLOSE CM_CASCADECHILDREN "
-    "CM_TILECHILDREN 228 229 254 263 264 268 24364"
-    " CM_EDITPASTE 355 265 218 219";
-
-// With rules of their own.
-constexpr const char* kOtherRules =
-    "CM_FILENEW CM_FILEOPEN CM_EDITCOPY CM_EDITCLONE CM_COPY_MOVE 11844 1100 298 24337 98 24338";
-
-std::set<const Command*> NamedIn(const char* list) {
-  std::set<const Command*> commands;
-  for (const std::string& name : Split(list, ' ')) commands.insert(FindCommand(name));
-  EXPECT_FALSE(commands.contains(nullptr)) << list;
-  return commands;
-}
-
-TEST(CommandTable, WhatNeedsAMapAndWhatDoesNot) {
-  const std::set<const Command*> needMap = NamedIn(kNeedMap);
-  const std::set<const Command*> other = NamedIn(kOtherRules);
-  for (const Command& command : Commands()) {
-    if (other.contains(&command) || (command.id >= 1000 && command.id < 1200)) continue;
-    const bool needs = needMap.contains(&command) || command.checked;
-    EXPECT_EQ(command.enabled, needs ? MapOpen : nullptr) << Named(command);
-  }
-}
-
-// Answers every question with Cancel.
-struct Declining : Prompts {
-  Answer ask(const MessageBox& box) override {
-    return box.buttons == MessageBox::Buttons::Ok ? Answer::Ok : Answer::Cancel;
-  }
-  std::vector<std::string> chooseFiles(const FileChooser&) override { return {}; }
-  std::optional<std::string> input(const TextInput&) override { return std::nullopt; }
-  std::optional<Colour> chooseColour(const ColourChooser&) override { return std::nullopt; }
-  FormAnswer fill(Form&) override { return FormAnswer::Cancel; }
-  void show(ModelessForm) override {}
-};
-
 // Disabled rows are called, too, as a stale button would.
 TEST(Commands, LoseNothingWhenDeclined) {
   test::TempFolder home;
@@ -169,7 +114,7 @@ TEST(Commands, LoseNothingWhenDeclined) {
   const std::string empty = home.write("empty.map", "{\n\"classname\" \"worldspawn\"\n}\n");
   const std::string full = home.write("small.map", test::SmallMapText());
   for (const std::string& path : {std::string(), empty, full}) {
-    Declining prompts;
+    test::DecliningPrompts prompts;
     test::RecordingObserver observer;
     Editor editor({home.path(), home.path()}, prompts, observer);
     editor.start();
@@ -192,16 +137,6 @@ TEST(Commands, LoseNothingWhenDeclined) {
 TEST(Commands, CheckMarksFollowTheState) {
   test::Session session;
   session.run("CM_FILENEW");
-  const std::vector<std::pair<const char*, bool>> toggles{
-      {"CM_TOGGLE_NAMES", false}, {"CM_TOGGLE_COORDINATES", true}, {"CM_TOGGLE_HITS", false},
-      {"CM_GRID_MODE", false},    {"CM_GROUP_MODE", false},        {"CM_TOGGLE_OUTLINE", false},
-      {"CM_OMIT_WATER", false},   {"CM_DRAW_CONNECTIONS", false}};
-  for (const auto& [name, before] : toggles) {
-    const Command& command = *FindCommand(name);
-    EXPECT_EQ(IsChecked(session.editor, command), before) << name;
-    EXPECT_TRUE(session.run(name)) << name;
-    EXPECT_EQ(IsChecked(session.editor, command), !before) << name;
-  }
   const auto checkedOf = [&](int from, int to) {
     std::vector<int> ids;
     for (int id = from; id <= to; ++id) {

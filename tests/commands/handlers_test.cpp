@@ -27,21 +27,6 @@ TEST(Handlers, OmitWorksWithoutAMapAndOnEveryMap) {
   }
 }
 
-TEST(Handlers, DeselectHidesClipPointsFirst) {
-  Session session;
-  session.open();
-  session.run("CM_SELECT_ALL");
-  session.current().setCurrentEntity(session.current().at(1));
-  session.current().clip.count = 2;
-  session.run("CM_DESELECT_ALL");
-  EXPECT_EQ(session.editor.documents().status(), "Hiding clip points");
-  EXPECT_EQ(session.current().totalSelected(), 3);
-  session.run("CM_DESELECT_ALL");
-  EXPECT_EQ(session.editor.documents().status(), "Deselected all brushes/entities");
-  EXPECT_EQ(session.current().totalSelected(), 0);
-  EXPECT_TRUE(session.current().worldIsCurrent());
-}
-
 TEST(Handlers, HitListCommands) {
   Session session;
   session.open();
@@ -66,17 +51,6 @@ TEST(Handlers, HitListCommands) {
   EXPECT_EQ(m.hits.current, 7) << "out of range: nothing to cycle from";
   session.run("228");
   EXPECT_TRUE(first.selected() && second.selected());
-}
-
-TEST(Handlers, PlanViewsFollowTheCameraUnlessLocked) {
-  Session session;
-  session.open();
-  session.editor.settings().lock_cameras = true;
-  session.run("CM_CAMERA_RAISE");
-  EXPECT_EQ(session.editor.views().plans.planCenter.z, 0);
-  session.editor.settings().lock_cameras = false;
-  session.run("CM_CAMERA_RAISE");
-  EXPECT_EQ(session.editor.views().plans.planCenter.z, 128);
 }
 
 TEST(Handlers, PlanViewsGoToTheCameraOfTheMapThatIsShown) {

@@ -56,19 +56,5 @@ TEST(Menus, NamesOfMapsAreShownAsTheyAre) {
   EXPECT_TRUE(ItemOf(bar, 1010).text().contains("this && that.map"));
 }
 
-// Of the items that exclude each other exactly one is marked, whichever was chosen.
-TEST(Menus, OneOfTheGridsIsMarked) {
-  test::Application();
-  test::Session session;
-  session.open();
-  QMenuBar bar;
-  BuildMenus(bar, session.editor);
-  constexpr int kGridOf1 = 550;
-  for (const int chosen : {3, 0}) {
-    ItemOf(bar, kGridOf1 + chosen).trigger();
-    for (int i = 0; i < 9; ++i) EXPECT_EQ(ItemOf(bar, kGridOf1 + i).isChecked(), i == chosen) << i;
-  }
-}
-
 }  // namespace
 }  // namespace velk

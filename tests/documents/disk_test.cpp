@@ -18,8 +18,8 @@ std::string Question(const std::string& path, const char* end, const char* answe
 }
 
 // One box at x, to tell the states of a file apart.
-std::string BoxAt(int x) {
-  return "{\n\"classname\" \"worldspawn\"\n" + test::BoxBrushText(x, 64, "wall1") + "}\n";
+std::string boxAt(int x) {
+  return "{\n\"classname\" \"worldspawn\"\n" + test::Cube(x / 64, "wall1 0 0 0 1 1") + "}\n";
 }
 
 TEST(Disk, AChangedFileIsNotReplacedWithoutAsking) {

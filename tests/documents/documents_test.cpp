@@ -60,24 +60,6 @@ TEST(Documents, FatalErrorWhileOpeningLeavesTheListAlone) {
   EXPECT_TRUE(session.run("CM_SELECT_ALL"));
 }
 
-TEST(Documents, SaveWritesWhatWasOpened) {
-  Session session;
-  const std::string path = session.open();
-  session.run("CM_SELECT_ALL");
-  EXPECT_TRUE(session.current().modified);
-  session.run("CM_FILESAVE");
-  EXPECT_FALSE(session.current().modified);
-  EXPECT_EQ(session.editor.documents().status(), ("File [" + path + "] saved...").substr(0, 127));
-  const std::string first = session.contents(path);
-  OpenNamed(session.editor, path);
-  EXPECT_EQ(session.current().brushCount(), 3);
-  session.run("CM_FILESAVE");
-  EXPECT_NE(session.contents(path).find("\"classname\"\t\"light\""), std::string::npos);
-  OpenNamed(session.editor, path);
-  session.run("CM_FILESAVE");
-  EXPECT_EQ(session.contents(path), first);
-}
-
 TEST(Documents, FavouritesAreTheNamedTexturesThatAreThere) {
   Session session;
   const std::pair<std::string, std::string> cases[] = {
@@ -104,16 +86,6 @@ TEST(Documents, TheCurrentTextureStaysWhateverIsOpened) {
   browser.setCurrent({});
   session.open();
   EXPECT_EQ(browser.current().name, "FLOOR1") << "there was none";
-}
-
-TEST(Documents, ReloadingClassesReadsTheirOrderAgain) {
-  Session session;
-  session.open();
-  EXPECT_EQ(session.editor.classes().classAt(0).name, "func_wall");
-  session.home.write("velk.ini", "[Velk]\nsort_entities=0\n");
-  session.run("167");
-  EXPECT_EQ(session.editor.classes().classAt(0).name, "worldspawn");
-  EXPECT_EQ(session.editor.documents().status(), "Entity list reloaded...");
 }
 
 TEST(Documents, UntitledMapAsksForItsName) {
@@ -198,16 +170,6 @@ TEST(Documents, ClosedMapLeavesItsPlaceToTheLast) {
   EXPECT_EQ(session.editor.documents().currentIndex(), 1);
   session.run("CM_NEXT_MAP");
   EXPECT_EQ(session.editor.documents().currentIndex(), 0);
-}
-
-TEST(Documents, LastCloseClearsTheViews) {
-  Session session;
-  session.open();
-  const int redraws = session.observer.planRedraws;
-  session.run("CM_FILECLOSE");
-  EXPECT_GT(session.observer.planRedraws, redraws);
-  EXPECT_EQ(FrameTitle(session.editor), "[Velk - Velk]");
-  EXPECT_FALSE(IsEnabled(session.editor, *FindCommand("CM_FILESAVE")));
 }
 
 TEST(Documents, ExitAsksForEveryModifiedMap) {

@@ -4,8 +4,8 @@
 
 #include "base/text.h"
 #include "entities/quaked_tokenizer.h"
+#include "support/declining_prompts.h"
 #include "support/fatal.h"
-#include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
 
 namespace velk {
@@ -146,7 +146,7 @@ class EntityClassFilesTest : public testing::Test {
 
   test::TempFolder folder_;
   Settings settings_;
-  test::ScriptedPrompts prompts_;
+  test::DecliningPrompts prompts_;
   EntityClassList list_;
 };
 
@@ -165,9 +165,10 @@ TEST_F(EntityClassFilesTest, ReadsEveryFileInTheDirectory) {
 
 TEST_F(EntityClassFilesTest, AsksForMissingFiles) {
   const std::string elsewhere = folder_.write("other/defs.txt", "/*QUAKED a (0 0 0) ?\n*/");
-  prompts_.cancel().answer(elsewhere);
+  prompts_.answer("").answer(elsewhere);
   load("one.qc;sub\\two.qc");
-  EXPECT_EQ(prompts_.asked, Names({"Where is .qc file:  one.qc?|", "Where is .qc file:  two.qc?|"}));
+  ASSERT_EQ(prompts_.choosers.size(), 2u);
+  EXPECT_EQ(prompts_.choosers[1].title, "Where is .qc file:  two.qc?");
   EXPECT_EQ(prompts_.choosers[0].filter, "Entity .qc Files (*.qc)|*.qc|");
   EXPECT_EQ(NamesOf(list_), Names({"a"}));
 }

@@ -152,15 +152,5 @@ TEST_F(LightsTest, TakeTheSeedsPlaceAndGroup) {
   EXPECT_FALSE(light.isModel);
 }
 
-TEST_F(LightsTest, AFullMapStaysAsItWas) {
-  brush& seed = box({0, 0, 0}, {100, 100, 100});
-  seed.select();
-  EXPECT_FATAL(MakeLights(m, seed, {.counts = {2000, 2000, 2000}}),
-               "map->addobject, too many brushes on entity...");
-  EXPECT_EQ(summary(), "worldspawn *");
-  MakeLights(m, seed, {.counts = {11, 31, 3}});
-  EXPECT_EQ(m.numentities(), MAX_ENTITIES);
-}
-
 }  // namespace
 }  // namespace velk

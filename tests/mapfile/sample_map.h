@@ -7,6 +7,7 @@
 #include "mapfile/map_reader.h"
 #include "mapfile/map_writer.h"
 #include "support/builders.h"
+#include "support/cube_text.h"
 
 namespace velk::test {
 
@@ -21,22 +22,6 @@ struct SampleMap : TestMap {
     return MapFileText(m, {.comments = comments, .selectedOnly = selectedOnly});
   }
 };
-
-// The faces of a cube of 64 units a side, at 64 * place along x.
-inline std::string CubeFaces(int place, const std::string& texture = "brick1 0 0 0 1.000000 1.000000") {
-  const int a = 64 * place, b = a + 64;
-  const int points[][9] = {{a, 64, 64, a, 0, 64, a, 0, 0},   {b, 64, 64, a, 64, 64, a, 64, 0},
-                           {b, 0, 64, b, 64, 64, b, 64, 0},  {a, 0, 64, b, 0, 64, b, 0, 0},
-                           {a, 0, 64, a, 64, 64, b, 64, 64}, {b, 64, 0, a, 64, 0, a, 0, 0}};
-  std::string text;
-  for (const auto& p : points) {
-    for (int i = 0; i < 9; i += 3) text += Format("( %d %d %d ) ", p[i], p[i + 1], p[i + 2]);
-    text += texture + "\n";
-  }
-  return text;
-}
-
-inline std::string Cube(int place) { return "{\n" + CubeFaces(place) + "}\n"; }
 
 inline std::string WithCrLf(const std::string& text) {
   std::string result;

@@ -119,15 +119,6 @@ TEST_F(BrushTest, AnotherTextureDropsTheOldReference) {
   EXPECT_FATAL(b.setTexturedef(Texture("door"), 6), "setTexturedef:forFace: bad face number 6");
 }
 
-TEST_F(BrushTest, TranslatesAndTransforms) {
-  brush& b = box({0, 0, 0}, {16, 32, 64});
-  b.translate({8, 0, -8});
-  ExpectBounds(b, {8, 0, -8}, {24, 32, 56});
-  const float quarterTurn[3][3] = {{0, 1, 0}, {-1, 0, 0}, {0, 0, 1}};
-  b.transform(quarterTurn, {8, 0, 0});
-  ExpectBounds(b, {8, -16, -8}, {40, 0, 56});
-}
-
 TEST_F(BrushTest, ACopyCarriesEverythingButPolygons) {
   brush& b = box({0, 0, 0}, {64, 64, 64});
   b.select(true);

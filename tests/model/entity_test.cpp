@@ -10,7 +10,7 @@ namespace {
 
 using test::TestMap;
 
-typedef test::MapTest PairTest, BrushListTest, MoveToEntityTest, EntityCopyTest, TargetNameTest, ClassTest;
+typedef test::MapTest PairTest, BrushListTest, MoveToEntityTest, TargetNameTest, ClassTest;
 
 std::string Keys(const entity& e) {
   std::string keys;
@@ -112,17 +112,6 @@ TEST_F(BrushListTest, HoldsAtMost4096) {
   EXPECT_EQ(m.at(1)->at(0), &stays) << "still there to be rescued";
 }
 
-TEST_F(BrushListTest, ARemovedBrushLeavesItsDepthUnlessInvalid) {
-  entity& door = addEntity("func_door");
-  brush& b = boxIn(door, {16, 16, 16}, {32, 32, 32});
-  const std::unique_ptr<brush> removed = RemoveFromEntity(b);
-  EXPECT_EQ(removed->owner, nullptr) << "the door is gone";
-  EXPECT_TRUE(VecEqual(m.workLow(), {16, 16, 16}));
-  brush& invalid = box({64, 64, 64}, {64, 64, 64});
-  DestroyBrush(invalid);
-  EXPECT_TRUE(VecEqual(m.workLow(), {16, 16, 16}));
-}
-
 TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
   entity& door = addEntity("func_door");
   brush& b = cube(0);
@@ -141,16 +130,6 @@ TEST_F(MoveToEntityTest, TakesTheTargetsColourAndSparesFixedSizeEntities) {
   MoveToEntity(box, door);
   EXPECT_EQ(box.owner, &door);
   EXPECT_EQ(m.numentities(), 2) << "the light is gone";
-}
-
-TEST_F(EntityCopyTest, TakesBrushesAlongRebuilt) {
-  entity& door = addEntity("func_door");
-  boxIn(door, {0, 0, 0}, {8, 8, 8});
-  const std::unique_ptr<entity> copy = door.copy(m);
-  EXPECT_TRUE(copy->isModel);
-  ASSERT_EQ(copy->numbrushes(), 1);
-  EXPECT_EQ(copy->at(0)->owner, copy.get());
-  EXPECT_NE(copy->at(0)->faces()[0].polygon, nullptr);
 }
 
 TEST_F(TargetNameTest, CountsOnFromTheLargest) {
@@ -208,17 +187,6 @@ TEST(OriginTest, IsWhereTheBoxStandsWhateverThePairSays) {
     EXPECT_EQ(e.valueOfKey("origin"), c.expected);
     EXPECT_EQ((*e.pairs().begin()).value, "stored") << "asking changes nothing";
   }
-}
-
-TEST_F(ClassTest, UnknownClassesAreModelsWithABoxOf16) {
-  entity e(m);
-  e.setClass("monster_of_another_game");
-  EXPECT_TRUE(e.isModel);
-  EXPECT_EQ(e.numbrushes(), 0);
-  e.makeClassBox({100, 0, 0});
-  EXPECT_FALSE(e.isModel);
-  EXPECT_TRUE(VecEqual(e.at(0)->mins, {92, -8, -8}));
-  EXPECT_EQ(e.valueOfKey("origin"), "92 -8 -8") << "no class mins to take off";
 }
 
 }  // namespace

@@ -54,16 +54,6 @@ TEST_F(DispatcherTest, VisitsItsClassFromTheLastToTheFirst) {
   }
 }
 
-TEST(CutTest, CutAndSplitDestroyWhatIsLeftInvalid) {
-  for (const Method method : {Method::Cut, Method::Split}) {
-    TestMap t;
-    t.boxIn(t.addEntity("func_door"), {0, 0, 0}, {8, 8, 8});
-    for (int i = 0; i < 3; ++i) t.cube(i);
-    t.m.MAPerform(BrushMethod::carriedOut(method, [](brush& b) { b.invalid = b.mins.x < 16; }));
-    EXPECT_EQ(t.summary(), "worldspawn --") << "the door went with its brush";
-  }
-}
-
 TEST_F(MethodTest, DeleteTakesEmptiedEntitiesToo) {
   for (int i = 0; i < 3; ++i) cube(i).select(true);
   for (int i = 0; i < 4; ++i) addPoint("light", {0, 0, 0}).at(0)->select(i != 1);
@@ -100,24 +90,6 @@ TEST_F(MethodTest, SelectInsideOrTouchingABox) {
     t.m.MAPerform(BrushMethod::selectTouching({0, 0, 0}, {64, 64, 64}));
     EXPECT_EQ(b.selected(), c.touching);
   }
-}
-
-TEST_F(MethodTest, ShapesAndBounds) {
-  cube(1);
-  brush& flat = box({-500, 0, 0}, {-500, 0, 0});
-  m.MAPerform(BrushMethod::translate({0, 0, 8}));
-  flat.mins.x = -500;
-  vec3 mins{32767, 32767, 32767};
-  vec3 maxs{-32767, -32767, -32767};
-  m.MAPerform(BrushMethod::widenBounds(mins, maxs));
-  EXPECT_TRUE(VecEqual(mins, {32, 0, 8})) << "a brush without faces does not count";
-  EXPECT_TRUE(VecEqual(maxs, {48, 16, 24}));
-
-  const float mirror[3][3] = {{-1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-  m.MAPerform(BrushMethod::transform(mirror, {}));
-  EXPECT_TRUE(world().at(0)->invalid) << "a mirrored brush is inside out";
-  m.MAPerform(Method::ReverseFaces);
-  EXPECT_TRUE(VecEqual(world().at(0)->mins, {-48, 0, 8}));
 }
 
 }  // namespace

@@ -25,20 +25,6 @@ TEST(GroupListTest, HoldsAtMost256AndPassesNegativeNumbersOnly) {
   EXPECT_FATAL(groups.add("one more"), "Group:  Too many groups 256");
 }
 
-TEST(GroupListTest, IndicesOutsideDoNothing) {
-  GroupList groups;
-  for (const int index : {-1, 1, 256}) {
-    groups.remove(index);
-    groups.rename(index, "x");
-    groups.setVisible(index, true);
-    groups.setColour(index, {1, 2, 3});
-    EXPECT_FALSE(groups.visible(index));
-    EXPECT_EQ(groups.colour(index), (Colour{255, 255, 255}));
-  }
-  groups.remove(0);
-  EXPECT_EQ(groups.count(), 1) << "the only group stays";
-}
-
 struct GroupOpsTest : test::MapTest {
   GroupOpsTest() {
     for (const char* name : {"a", "b", "c"}) m.groups.add(name);

@@ -15,19 +15,6 @@ using test::Texture;
 const vec3 kStart{8, 8, 4096};
 const vec3 kEnd{8, 8, -4096};
 
-TEST(SelectByBoxTest, UsesUpTheOneSelectedBrush) {
-  for (const bool inside : {true, false}) {
-    TestMap t;
-    for (int i = 0; i < 3; ++i) t.cube(i);
-    t.box({-8, -8, -8}, {40, 40, 40}).select(true);
-    SelectByBox(t.m, inside);
-    EXPECT_EQ(t.summary(), inside ? "worldspawn *--" : "worldspawn **-");
-    for (int i = 0; i < 2; ++i) t.world().at(i)->select(true);
-    SelectByBox(t.m, inside);
-    EXPECT_EQ(t.summary(), "worldspawn **-") << "two are selected";
-  }
-}
-
 TEST_F(ApplyTextureTest, OnTheFaceHitOrTheWholeBrush) {
   box({0, 0, 100}, {16, 16, 116}, "clip");
   settings.filter.omitClip = true;  // what is filtered is passed over

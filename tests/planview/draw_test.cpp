@@ -47,13 +47,6 @@ TEST_F(Drawing, GoesFromTheBackgroundToTheHeaderStrip) {
   }
 }
 
-TEST_F(Drawing, WithoutAMapOnlyStripAndEyeAreDrawn) {
-  box({-10, -10, 0}, {10, 10, 20});
-  settings.show_grid = settings.showeye = settings.show_cameras = true;
-  scene.shown = nullptr;
-  EXPECT_EQ(polygons(), (Strokes{"polygon #800000 1 98 98 101 101"}));
-}
-
 TEST_F(Drawing, BrushesShowFacesTurnedToTheViewer) {
   box({-10, -20, 0}, {10, 20, 40});
   EXPECT_EQ(polygons(0), (Strokes{"polygon #ffffff 1 90 80 110 120"}));
@@ -118,15 +111,6 @@ TEST_F(Drawing, AnglesPointFromTheFirstBrushInTopViews) {
     door.setKey("angle", angle);
     EXPECT_EQ(draw(0).starting("line"), expected) << angle;
     EXPECT_TRUE(draw(1).starting("line").empty());
-  }
-}
-
-TEST_F(Drawing, NamesScaleWithTheView) {
-  boxIn(addEntity("func_door"), {-10, -10, 0}, {10, 10, 20});
-  settings.show_names = true;
-  for (const auto& [scale, height] : {std::pair{1.0f, 12}, {0.25f, 7}, {2.0f, 18}}) {
-    settings.scale = scale;
-    EXPECT_EQ(draw().starting(Format("text 'func_door' #ffffff %i ", height)).size(), 1u) << scale;
   }
 }
 

@@ -23,23 +23,6 @@ TEST(Scale, StepsStopAtTheLimits) {
   }
 }
 
-TEST(Scale, OtherScaleTakesAPercentage) {
-  Settings settings;
-  EXPECT_EQ(SetScalePercent(settings, ""), std::nullopt);
-  EXPECT_EQ(ScalePercentText(settings), "100.0");
-  const struct {
-    const char* text;
-    float scale;
-    const char* status;
-  } cases[] = {{"5000", 16, "Scale set to  16.0..."},
-               {"250", 2.5f, "Scale set to   2.5..."},
-               {"nonsense", 0.01f, "Scale set to   0.0..."}};
-  for (const auto& c : cases) {
-    EXPECT_EQ(SetScalePercent(settings, c.text), c.status);
-    EXPECT_FLOAT_EQ(settings.scale, c.scale);
-  }
-}
-
 TEST(Scale, TextIsAReciprocalOrAPercentage) {
   const std::pair<double, const char*> cases[] = {{1.0 / 64, "1/64"}, {0.125, "1/8"},   {0.25, " 25.0%"},
                                                   {1, "100.0%"},      {0.01f, "1/100"}, {0.15f, " 15.0%"}};

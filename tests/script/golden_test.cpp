@@ -1,4 +1,5 @@
-// Runs the cases of the golden folder: each holds a script, what it prints, and the files it needs. A
+// Runs the cases of the golden folder: each holds a script, what it prints, and the files it needs beside
+// small.map. A
 // script that fails ends its output with "line N: why". With VELK_WRITE_GOLDEN set, what is printed is
 // written as what is expected; read it before committing.
 #include <algorithm>
@@ -34,6 +35,7 @@ class WorkingIn {
 
 std::string RunCase(const fs::path& folder) {
   test::Session session;
+  fs::copy_file(fs::path(GOLDEN_FOLDER) / "small.map", session.home.path() / "small.map");
   fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing | fs::copy_options::recursive);
   const WorkingIn home(session.home.path());
   std::ostringstream out;
@@ -53,7 +55,7 @@ TEST_P(Golden, PrintsWhatIsExpected) {
 std::vector<std::string> CaseNames() {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(GOLDEN_FOLDER)) {
-    names.push_back(entry.path().filename().string());
+    if (entry.is_directory()) names.push_back(entry.path().filename().string());
   }
   std::sort(names.begin(), names.end());
   return names;

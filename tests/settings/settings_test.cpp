@@ -12,15 +12,6 @@
 namespace velk {
 namespace {
 
-// The keys and sections of a file in their order, each with a blank after it.
-std::string KeysOf(const IniFile& ini) {
-  std::string keys;
-  for (const std::string& line : Split(ini.text(), '\n')) {
-    if (!line.empty()) keys += line.substr(0, line.find('=')) + ' ';
-  }
-  return keys;
-}
-
 struct DialogFiles {
   explicit DialogFiles(const Settings& settings) {
     StorePreferences(settings, preferences);
@@ -104,23 +95,6 @@ TEST(SettingsTest, EveryKeyIsItsOwn) {
           << key.name << ", " << other.name;
     }
   }
-}
-
-TEST(SettingsTest, DialogsSaveTheirKeysInOrder) {
-  const DialogFiles files{Settings()};
-  const std::vector<std::string> preferences = Split(KeysOf(files.preferences), ' ');
-  ASSERT_EQ(preferences.size(), 40u) << "39 and nothing after the last blank";
-  EXPECT_EQ(preferences[1], "drag_vertex");
-  EXPECT_EQ(preferences[18], "start_set->scale");
-  EXPECT_EQ(preferences[35], "lock_cameras");
-  EXPECT_EQ(KeysOf(files.colours),
-            "[VelkColors] fgcolor bgcolor majorgrid minorgrid color_gridlabel color_currentclipface "
-            "color_otherclipface color_clipborder color_connection color_selection color_otherbrush "
-            "color_hitcolor color_curfacecolor color_textureselection color_activecamera color_othercamera "
-            "color_eyemarker [Velk] brush_outline select_outline face_outline ");
-  EXPECT_EQ(KeysOf(files.directories),
-            "[Velk] map_directory entity_qc_directory wad_directory bat_directory badtex newmap default_wad "
-            "entities ");
 }
 
 TEST(SettingsTest, PlacesOfADialogAreOneToN) {

@@ -6,7 +6,7 @@
 #include "mouse/drag.h"
 #include "planview/draw_plan_view.h"
 #include "support/builders.h"
-#include "support/scripted_prompts.h"
+#include "support/declining_prompts.h"
 
 namespace velk::test {
 
@@ -19,7 +19,7 @@ struct PlanFixture : testing::Test, TestMap {
   MouseContext context(int view = 0) { return {m, settings, set, prompts, view}; }
 
   PlanViewSet set;
-  ScriptedPrompts prompts;
+  DecliningPrompts prompts;
 };
 
 }  // namespace velk::test

@@ -11,6 +11,7 @@
 #include "commands/dispatch.h"
 #include "commands/named_files.h"
 #include "script/script_prompts.h"
+#include "support/cube_text.h"
 #include "support/fatal.h"
 #include "support/temp_folder.h"
 #include "support/wad_builder.h"
@@ -33,24 +34,10 @@ struct RecordingObserver : Observer {
   void exitRequested() override { exiting = true; }
 };
 
-inline std::string BoxBrushText(int x, int size, const char* texture) {
-  const auto point = [&](int a, int b, int c) {
-    return "( " + std::to_string(x + a * size) + " " + std::to_string(b * size) + " " +
-           std::to_string(c * size) + " ) ";
-  };
-  const auto side = [&](const std::string& points) { return points + texture + " 0 0 0 1 1\n"; };
-  return "{\n" + side(point(0, 1, 0) + point(0, 0, 1) + point(0, 0, 0)) +
-         side(point(1, 0, 1) + point(1, 1, 0) + point(1, 0, 0)) +
-         side(point(0, 0, 1) + point(1, 0, 0) + point(0, 0, 0)) +
-         side(point(1, 1, 0) + point(0, 1, 1) + point(0, 1, 0)) +
-         side(point(1, 0, 0) + point(0, 1, 0) + point(0, 0, 0)) +
-         side(point(0, 1, 1) + point(1, 0, 1) + point(0, 0, 1)) + "}\n";
-}
-
 // Two boxes and a light: 2 entities, 3 brushes.
 inline std::string SmallMapText() {
-  return "{\n\"classname\" \"worldspawn\"\n\"wad\" \"test.wad\"\n" + BoxBrushText(0, 64, "wall1") +
-         BoxBrushText(128, 64, "floor1") + "}\n{\n\"classname\" \"light\"\n\"origin\" \"32 32 128\"\n}\n";
+  return "{\n\"classname\" \"worldspawn\"\n\"wad\" \"test.wad\"\n" + Cube(0, "wall1 0 0 0 1 1") +
+         Cube(2, "floor1 0 0 0 1 1") + "}\n{\n\"classname\" \"light\"\n\"origin\" \"32 32 128\"\n}\n";
 }
 
 // What Velk needs to start, in the folder.

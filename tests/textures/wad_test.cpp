@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/declining_prompts.h"
 #include "support/fatal.h"
-#include "support/scripted_prompts.h"
 #include "support/temp_folder.h"
 #include "support/wad_builder.h"
 #include "textures/colormap.h"
@@ -11,7 +11,7 @@
 namespace velk {
 namespace {
 
-using test::ScriptedPrompts;
+using test::DecliningPrompts;
 using test::TempFolder;
 using test::TextureLump;
 using test::WadBuilder;
@@ -36,13 +36,13 @@ class WadTest : public testing::Test {
     return wad;
   }
 
-  TempFolder folder_;
-  Settings settings_;
-  Paths paths_;
-  ScriptedPrompts prompts_;
-  Random random_;
-  WadServices services_{settings_, paths_, prompts_};
-  std::vector<std::string> told_;
+  TempFolder folder;
+  Settings settings;
+  Paths paths;
+  DecliningPrompts prompts;
+  Random random;
+  WadServices services{settings, paths, prompts};
+  std::vector<std::string> told;
 };
 
 TEST_F(WadTest, TexturesComeSortedWithUpperCaseNames) {
@@ -128,7 +128,6 @@ TEST_F(WadTest, AMissingWadIsAskedFor) {
   EXPECT_EQ(prompts_.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
   EXPECT_EQ(prompts_.choosers[0].directory, settings_.wad_directory);
 
-  prompts_.cancel();
   EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
   prompts_.answer("/nowhere/none.wad");
   EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
@@ -139,10 +138,9 @@ TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
       folder_.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
   std::string lines;
   for (int i = 0; i < 256; ++i) lines += "1 2 3\n";
-  prompts_.cancel();
   EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
-  EXPECT_EQ(prompts_.asked.back(), "Select Quake.Pal File|quake.pal");
-  prompts_.answer(folder_.write("own.pal", lines));
+  EXPECT_EQ(prompts.choosers.back().title, "Select Quake.Pal File");
+  prompts.answer(folder.write("own.pal", lines));
   EXPECT_EQ(load(plain).palette[2], 3);
   folder_.write("qc/QUAKE.PAL", lines);
   EXPECT_EQ(load(plain).palette[765], 1);
@@ -166,15 +164,14 @@ TEST_F(WadTest, OutlinesAndProgress) {
 }
 
 TEST_F(WadTest, ColormapIsWholeOrNone) {
-  prompts_.cancel();
-  EXPECT_FATAL(loadColormap(services_), "You must select a valid colormap.lmp file.");
-  EXPECT_EQ(prompts_.choosers[0].title, "Where is the colormap.lmp file?");
-  prompts_.answer("/nowhere/colormap.lmp");
-  EXPECT_FATAL(loadColormap(services_), "Invalid colormap.lmp file.");
-  prompts_.answer(folder_.write("own.lmp", std::string(16000, 'x')));
-  EXPECT_EQ(loadColormap(services_), nullptr);
-  folder_.write("qc/colormap.lmp", std::string(16384, 'x'));
-  const auto table = loadColormap(services_);
+  EXPECT_FATAL(loadColormap(services), "You must select a valid colormap.lmp file.");
+  EXPECT_EQ(prompts.choosers[0].title, "Where is the colormap.lmp file?");
+  prompts.answer("/nowhere/colormap.lmp");
+  EXPECT_FATAL(loadColormap(services), "Invalid colormap.lmp file.");
+  prompts.answer(folder.write("own.lmp", std::string(16000, 'x')));
+  EXPECT_EQ(loadColormap(services), nullptr);
+  folder.write("qc/colormap.lmp", std::string(16384, 'x'));
+  const auto table = loadColormap(services);
   ASSERT_TRUE(table);
   EXPECT_EQ(table->back(), 'x');
 }
