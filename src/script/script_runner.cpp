@@ -8,10 +8,10 @@
 #include "base/tokenizer.h"
 #include "commands/context_menus.h"
 #include "commands/dispatch.h"
+#include "commands/key_stroke.h"
 #include "documents/disk_check.h"
 #include "documents/opening.h"
 #include "script/script_print.h"
-#include "commands/key_stroke.h"
 
 namespace velk {
 namespace {

@@ -4,12 +4,12 @@
 
 #include "base/text.h"
 #include "commands/dispatch.h"
+#include "commands/key_stroke.h"
 #include "commands/named_files.h"
 #include "documents/opening.h"
 #include "planview/view_steps.h"
 #include "support/declining_prompts.h"
 #include "support/session.h"
-#include "commands/key_stroke.h"
 
 namespace velk {
 namespace {

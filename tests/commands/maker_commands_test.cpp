@@ -1,4 +1,5 @@
 // Making brushes with care: what cannot be made leaves the seed and says why, and what is made stays with it.
+#include "support/cube_text.h"
 #include "support/session.h"
 
 namespace velk {
@@ -47,8 +48,8 @@ TEST(MakerCommands, WithCareWhatIsMadeStaysInTheSeedsEntity) {
     for (const char* command : {"CM_MAKE_ROOM", "CM_EDITMAKESTAIRS", "CM_MAKE_ARCH"}) {
       Session session;
       session.editor.settings().careful_tools = careful;
-      const std::string wall = "{\n\"classname\" \"worldspawn\"\n" + test::BoxBrushText(0, 64, "wall1") +
-                               "}\n{\n\"classname\" \"func_wall\"\n" + test::BoxBrushText(128, 64, "floor1") +
+      const std::string wall = "{\n\"classname\" \"worldspawn\"\n" + test::Cube(0, "wall1 0 0 0 1 1") +
+                               "}\n{\n\"classname\" \"func_wall\"\n" + test::Cube(2, "floor1 0 0 0 1 1") +
                                "}\n";
       OpenNamed(session.editor, session.home.write("wall.map", wall));
       session.current().at(1)->at(0)->select();

@@ -33,7 +33,7 @@ TEST(CommandIcons, EveryCommandOfTheBarsHasOneOfItsOwn) {
     const QIcon icon = CommandIcon(command.name);
     if (icon.isNull()) continue;
     for (const int size : {16, 32}) {
-      const int drawn = drawnPixels(icon.pixmap(size, size));
+      const int drawn = DrawnPixels(icon.pixmap(size, size));
       EXPECT_GT(drawn, size * size / 12) << command.name;
       EXPECT_LT(drawn, size * size * 9 / 10) << command.name;
     }

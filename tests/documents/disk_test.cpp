@@ -18,7 +18,7 @@ std::string Question(const std::string& path, const char* end, const char* answe
 }
 
 // One box at x, to tell the states of a file apart.
-std::string boxAt(int x) {
+std::string BoxAt(int x) {
   return "{\n\"classname\" \"worldspawn\"\n" + test::Cube(x / 64, "wall1 0 0 0 1 1") + "}\n";
 }
 

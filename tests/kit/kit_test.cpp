@@ -24,11 +24,11 @@ const std::string kFolder = std::string(VELK_KIT_FOLDER) + "/";
 class Kit : public testing::Test {
  protected:
   Kit() {
-    settings_.entity_qc_directory = settings_.wad_directory = kFolder;
-    classes_.loadAll(settings_, paths_, prompts_);
+    settings.entity_qc_directory = settings.wad_directory = kFolder;
+    classes.loadAll(settings, paths, prompts);
   }
   // A prompt means that something was missing.
-  ~Kit() override { EXPECT_TRUE(prompts_.choosers.empty()); }
+  ~Kit() override { EXPECT_TRUE(prompts.choosers.empty()); }
 
   const IniFile ini = IniFile::Load(kFolder + "velk.ini");
   Settings settings = LoadSettings(ini);
@@ -39,17 +39,17 @@ class Kit : public testing::Test {
 
 TEST_F(Kit, SettingsPointAtTheKit) {
   for (const char* key : {"entity_qc_directory", "wad_directory", "map_directory", "bat_directory"}) {
-    EXPECT_EQ(ini_.string("Velk", key, ""), ".\\") << key;
+    EXPECT_EQ(ini.string("Velk", key, ""), ".\\") << key;
   }
-  EXPECT_TRUE(std::filesystem::exists(kFolder + settings_.badtex));
-  EXPECT_TRUE(settings_.wheel_zoom && settings_.middle_drag && settings_.window_quality);
-  EXPECT_EQ(settings_.undo_levels, 100);
+  EXPECT_TRUE(std::filesystem::exists(kFolder + settings.badtex));
+  EXPECT_TRUE(settings.wheel_zoom && settings.middle_drag && settings.window_quality);
+  EXPECT_EQ(settings.undo_levels, 100);
 }
 
 TEST_F(Kit, NoClassIsMalformedOrTwice) {
   std::set<std::string> names;
-  for (int i = 0; i < classes_.count(); ++i) {
-    const EntityClass& c = classes_.classAt(i);
+  for (int i = 0; i < classes.count(); ++i) {
+    const EntityClass& c = classes.classAt(i);
     EXPECT_TRUE(names.insert(c.name).second) << c.name;
     EXPECT_TRUE(c.comments && !c.comments->empty()) << c.name;
     for (size_t axis = 0; c.fixedSize && axis < 3; ++axis) EXPECT_LT(c.mins[axis], c.maxs[axis]) << c.name;
@@ -58,16 +58,16 @@ TEST_F(Kit, NoClassIsMalformedOrTwice) {
   const EntityClass& door = classes.findByName("func_door");
   EXPECT_EQ(door.flagName(0), "START_OPEN");
   EXPECT_EQ(door.flagName(5), "TOGGLE");
-  EXPECT_EQ(classes_.findByName("monster_zombie").flagName(1), "AMBUSH");
+  EXPECT_EQ(classes.findByName("monster_zombie").flagName(1), "AMBUSH");
 }
 
 class KitTextures : public Kit {
  protected:
-  TextureManager textures_{{settings_, paths_, prompts_}};
+  TextureManager textures_{{settings, paths, prompts}};
 };
 
 TEST_F(KitTextures, WadHoldsTextures) {
-  const Wad& wad = textures_.openWad(settings_.default_wad, {});
+  const Wad& wad = textures_.openWad(settings.default_wad, {});
   EXPECT_GE(wad.count(), 48);
   for (const auto& texture : wad.textures) {
     EXPECT_TRUE(texture->width % 16 == 0 && texture->height % 16 == 0) << texture->name;
@@ -77,7 +77,7 @@ TEST_F(KitTextures, WadHoldsTextures) {
 
 // Row 32 leaves colours as they are, row 63 is black, and the last 32 colours glow in every row.
 TEST_F(KitTextures, LightTableFits) {
-  const auto table = loadColormap({settings_, paths_, prompts_});
+  const auto table = loadColormap({settings, paths, prompts});
   ASSERT_TRUE(table);
   const auto lit = [&](size_t row, size_t colour) {
     return size_t{(*table)[row * PALETTE_COLOURS + colour]};
@@ -90,7 +90,7 @@ TEST_F(KitTextures, LightTableFits) {
 }
 
 TEST_F(KitTextures, MapIsSound) {
-  map m(settings_, classes_);
+  map m(settings, classes);
   const MapReadResult read = ReadMapFile(m, kFolder + "start.map", {});
   EXPECT_TRUE(read.complete && read.camerasRead);
   EXPECT_EQ(read.cutPoints + read.invalidBrushes + read.brushesOfFixedSize, 0);
@@ -98,7 +98,7 @@ TEST_F(KitTextures, MapIsSound) {
   textures_.openMapWads(m, set, {});
   bool start = false;
   for (const entity& e : m.entities()) {
-    EXPECT_TRUE(classes_.isKnown(e.entityClass())) << e.valueOfKey("classname");
+    EXPECT_TRUE(classes.isKnown(e.entityClass())) << e.valueOfKey("classname");
     start = start || e.valueOfKey("classname") == "info_player_start";
     for (const brush& b : e.brushes()) {
       EXPECT_FALSE(b.invalid);
@@ -125,7 +125,7 @@ TEST_F(Kit, FirstStartNeedsNoAnswer) {
   const test::TempFolder folder;
   const Surroundings bare{folder.path(), folder.directory("home"), "", ""};
   Observer nobody;
-  Editor editor(FindPlace(bare, kFolder), prompts_, nobody);
+  Editor editor(FindPlace(bare, kFolder), prompts, nobody);
   editor.start();
   EXPECT_EQ(editor.documents().status(), "Welcome to Velk...");
   OpenNamed(editor, folder.directory("home") + "start.map");

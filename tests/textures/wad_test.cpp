@@ -19,20 +19,20 @@ using test::WadBuilder;
 class WadTest : public testing::Test {
  protected:
   WadTest() {
-    settings_.wad_directory = folder_.directory("wads");
-    settings_.entity_qc_directory = folder_.directory("qc");
+    settings.wad_directory = folder.directory("wads");
+    settings.entity_qc_directory = folder.directory("qc");
   }
 
   Wad load(const std::string& name) {
     Wad wad;
-    LoadWad(wad, name, services_, random_, [this](const WadProgress& p) { told_.push_back(p.text); });
+    LoadWad(wad, name, services, random, [this](const WadProgress& p) { told.push_back(p.text); });
     return wad;
   }
   // The textures of a wad with these contents.
   Wad read(const std::string& contents) {
     Wad wad;
     wad.path = "a.wad";
-    LoadTextures(contents, wad, 3, random_, {});
+    LoadTextures(contents, wad, 3, random, {});
     return wad;
   }
 
@@ -113,54 +113,53 @@ TEST_F(WadTest, PlacesOutsideTheFileAreRefused) {
 }
 
 TEST_F(WadTest, FilesAreFoundInTheWadDirectory) {
-  folder_.write("wads/base.wad", WadBuilder().texture("wall").palette().bytes("WAD3"));
-  folder_.write("wads/gfx/deep.wad", WadBuilder().palette().bytes());
+  folder.write("wads/base.wad", WadBuilder().texture("wall").palette().bytes("WAD3"));
+  folder.write("wads/gfx/deep.wad", WadBuilder().palette().bytes());
   for (const char* name : {"base.wad", "gfx/base.wad", "\\quake\\id1\\gfx\\BASE.WAD", "gfx/deep.wad"}) {
-    EXPECT_TRUE(load(name).path.starts_with(settings_.wad_directory)) << name;
+    EXPECT_TRUE(load(name).path.starts_with(settings.wad_directory)) << name;
   }
 }
 
 TEST_F(WadTest, AMissingWadIsAskedFor) {
-  prompts_.answer(folder_.write("else.wad", WadBuilder().texture("wall").palette().bytes()));
+  prompts.answer(folder.write("else.wad", WadBuilder().texture("wall").palette().bytes()));
   EXPECT_EQ(load("gfx\\none.wad").count(), 1);
-  ASSERT_EQ(prompts_.choosers.size(), 1u);
-  EXPECT_EQ(prompts_.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
-  EXPECT_EQ(prompts_.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
-  EXPECT_EQ(prompts_.choosers[0].directory, settings_.wad_directory);
+  ASSERT_EQ(prompts.choosers.size(), 1u);
+  EXPECT_EQ(prompts.choosers[0].title, "Where is texture .wad file: gfx\\none.wad?");
+  EXPECT_EQ(prompts.choosers[0].filter, "Wad Files (*.wad)|*.wad|");
+  EXPECT_EQ(prompts.choosers[0].directory, settings.wad_directory);
 
   EXPECT_FATAL(load("none.wad"), "You must select a valid .wad file...");
-  prompts_.answer("/nowhere/none.wad");
+  prompts.answer("/nowhere/none.wad");
   EXPECT_FATAL(load("none.wad"), "Texture:  Couldn't open wad file...");
 }
 
 TEST_F(WadTest, PaletteComesFromTheLumpTheTextFileOrTheUser) {
   const std::string plain =
-      folder_.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
+      folder.write("plain.wad", WadBuilder().lump("palette", '@', test::GreyPalette()).bytes());
   std::string lines;
   for (int i = 0; i < 256; ++i) lines += "1 2 3\n";
   EXPECT_FATAL(load(plain), "You must either use a WAD2 with a palette or select a valid palette file...");
   EXPECT_EQ(prompts.choosers.back().title, "Select Quake.Pal File");
   prompts.answer(folder.write("own.pal", lines));
   EXPECT_EQ(load(plain).palette[2], 3);
-  folder_.write("qc/QUAKE.PAL", lines);
+  folder.write("qc/QUAKE.PAL", lines);
   EXPECT_EQ(load(plain).palette[765], 1);
 
-  const std::string own =
-      folder_.write("own.wad", WadBuilder().palette(test::GreyPalette() + "more").bytes());
-  settings_.gammashift = 128;
+  const std::string own = folder.write("own.wad", WadBuilder().palette(test::GreyPalette() + "more").bytes());
+  settings.gammashift = 128;
   EXPECT_EQ(load(own).palette[3 * 100], 177);
-  EXPECT_FATAL(load(folder_.write("short.wad", "not a wad")),
-               "Error: " + folder_.directory() + "short.wad isn't a wadfile");
+  EXPECT_FATAL(load(folder.write("short.wad", "not a wad")),
+               "Error: " + folder.directory() + "short.wad isn't a wadfile");
 }
 
 TEST_F(WadTest, OutlinesAndProgress) {
-  settings_.brush_outline = {100, 100, 100};
+  settings.brush_outline = {100, 100, 100};
   WadBuilder builder;
   for (int i = 0; i < 6; ++i) builder.texture("t");
-  const std::string path = folder_.write("t.wad", builder.palette().bytes());
+  const std::string path = folder.write("t.wad", builder.palette().bytes());
   EXPECT_EQ(load(path).outlines.brush, 100);
-  EXPECT_EQ(told_, (std::vector<std::string>{"", "Loading " + path + " [0/7] ", "Loading " + path + " [5/7] ",
-                                             "Done..."}));
+  EXPECT_EQ(told, (std::vector<std::string>{"", "Loading " + path + " [0/7] ", "Loading " + path + " [5/7] ",
+                                            "Done..."}));
 }
 
 TEST_F(WadTest, ColormapIsWholeOrNone) {

@@ -1,8 +1,9 @@
 #include "desktop/frame/keys.h"
-#include "commands/key_stroke.h"
 
 #include <array>
 #include <utility>
+
+#include "commands/key_stroke.h"
 
 namespace velk {
 namespace {
