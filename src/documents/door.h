@@ -13,10 +13,10 @@ namespace velk {
 
 // What is about to be done.
 struct Change {
-  std::string name;                    // of its undo level
-  const char* caption = "Velk Error";  // of the box that says why it failed
-  std::string failure = {};            // what that box says first
-  bool byKey = false;                  // a key that is held: repeats within a second are one level
+  std::string name;                       // of its undo level
+  const char* caption = "Velk Error...";  // of the box that says why it failed
+  std::string failure = {};               // what that box says first
+  bool byKey = false;                     // a key that is held: repeats within a second are one level
   // The classic single level is saved only by the operations that say so.
   std::optional<UndoMode> classic = {};
   brush* working = nullptr;  // the brush of UndoMode::Working
