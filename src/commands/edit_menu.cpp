@@ -4,6 +4,7 @@
 #include "commands/command_tables.h"
 #include "commands/transform_commands.h"
 #include "ops/clipboard.h"
+#include "ops/move_selection.h"
 
 namespace velk {
 namespace {
@@ -67,10 +68,7 @@ Outcome Clone(Editor& editor, map& m) {
   return Outcome::Drawn(Redraw::All, "Selection cloned...");
 }
 
-Outcome DeleteSelection(Editor&, map& m) {
-  m.MSPerform(Method::Delete);
-  return Outcome::Drawn(Redraw::All, "Deleting...");
-}
+Outcome DeleteSelected(Editor&, map& m) { return DeleteSelection(m); }
 
 // clang-format off
 const Command kRows[] = {
@@ -98,7 +96,7 @@ const Command kRows[] = {
      .run = Paste, .caption = kCannotCopy, .failure = kNoRoom},
     {.id = 270, .name = "CM_DELETE", .menu = "&Edit", .label = "&Delete", .keyText = "-",
      .keys = "Ctrl+X Num-", .hint = "Delete selected brushes from world", .enabled = MapOpen,
-     .run = DeleteSelection},
+     .run = DeleteSelected},
     {.id = 166, .name = "CM_SUBTRACT", .menu = "&Edit", .startsGroup = true,
      .label = "Subtract", .keyText = "F12",
      .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,

@@ -6,6 +6,7 @@
 #include "commands/hit_commands.h"
 #include "commands/maker_commands.h"
 #include "commands/transform_commands.h"
+#include "ops/move_selection.h"
 #include "planview/view_steps.h"
 
 namespace velk {
@@ -14,7 +15,7 @@ namespace {
 Outcome RedrawAll(Editor&, map&) { return Outcome::Drawn(Redraw::All, "Redrawing..."); }
 
 Outcome Move(map& m, const vec3& offset, std::string text) {
-  m.MSPerform(BrushMethod::translate(offset));
+  MoveSelection(m, offset);
   return Outcome::Drawn(Redraw::All, std::move(text));
 }
 

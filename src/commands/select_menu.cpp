@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "commands/command_tables.h"
 #include "commands/hit_commands.h"
+#include "ops/clip.h"
 #include "ops/face_textures.h"
 #include "ops/selection.h"
 
@@ -14,15 +15,7 @@ Outcome SelectAll(Editor&, map& m) {
   return Outcome::Drawn(Redraw::All, "Selected all brushes/entities");
 }
 
-Outcome DeselectAll(Editor&, map& m) {
-  if (m.clip.count > 0) {
-    m.clip.count = 0;
-    return Outcome::Drawn(Redraw::All, "Hiding clip points");
-  }
-  m.MGPerform(Method::Deselect);
-  m.setCurrentEntity(m.world());
-  return Outcome::Drawn(Redraw::All, "Deselected all brushes/entities");
-}
+Outcome DeselectAll(Editor&, map& m) { return HideClipPointsOrDeselect(m); }
 
 Outcome SelectTotal(Editor&, map& m) {
   SelectByBox(m, true);
