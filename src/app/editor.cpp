@@ -15,6 +15,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
       documents_(services_, classes_, textures_, texture_),
       door_(services_, documents_),
       rescue_(services_, documents_, door_),
+      panels_({services_, documents_, door_, classes_, textures_, texture_}),
       views_(settings_, documents_, textures_),
       input_(services_, documents_, door_, views_, texture_, place_.home),
       windows_(services_) {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "app/panels.h"
 #include "app/place.h"
 #include "app/remembered.h"
 #include "app/view_input.h"
@@ -47,6 +48,7 @@ class Editor {
   const TextureManager& textures() const { return textures_; }
   TextureChoice& texture() { return texture_; }
   Remembered& remembered() { return remembered_; }
+  Panels& panels() { return panels_; }
   Views& views() { return views_; }
   const Views& views() const { return views_; }
   ViewInput& input() { return input_; }
@@ -69,6 +71,7 @@ class Editor {
   Documents documents_;
   Door door_;
   RescueKeeper rescue_;
+  Panels panels_;
   Views views_;
   ViewInput input_;
   WindowPlaces windows_;

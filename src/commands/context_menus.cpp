@@ -35,6 +35,7 @@ const StripMenuRow kStripMenus[] = {
 }  // namespace
 
 std::optional<Menu> ContextMenu(Editor& editor, const std::string& name) {
+  if (Panel* panel = editor.panels().named(name)) return panel->contextMenu();
   for (int view = 0; view < kPlanViews; ++view) {
     for (const StripMenuRow& row : kStripMenus) {
       if (!EqualNoCase(name, StripMenuName(view, row.field))) continue;

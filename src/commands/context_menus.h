@@ -1,4 +1,5 @@
-// The context menus by name: those of the plan views' header strips ("XY.grid", "XZ.scale", "YZ.camera").
+// The context menus by name: those of the tool windows (as Panels names them) and of the plan views' header
+// strips ("XY.grid", "XZ.scale", "YZ.camera").
 #pragma once
 
 #include <optional>

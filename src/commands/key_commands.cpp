@@ -1,11 +1,11 @@
 // Commands without a menu item: they are on keys, on button bars, or in the menus of the views.
 #include "app/editor.h"
 #include "base/text.h"
-#include "commands/camera_handlers.h"
 #include "commands/command_tables.h"
-#include "commands/hit_commands.h"
-#include "commands/maker_commands.h"
-#include "commands/transform_commands.h"
+#include "commands/editing/hit_commands.h"
+#include "commands/editing/transform_commands.h"
+#include "commands/making/maker_commands.h"
+#include "commands/views/camera_handlers.h"
 #include "ops/move_selection.h"
 #include "planview/view_steps.h"
 

@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 #include "base/error.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "desktop/dialogs/picture_prompts.h"
 #include "desktop/dialogs/qt_prompts.h"
 #include "desktop/dialogs/shown_text.h"

@@ -267,6 +267,11 @@ int ScriptViewNamed(const std::string& name) {
   throw ScriptFailure("no such view: " + name);
 }
 
+Panel& ScriptPanelNamed(Editor& editor, const std::string& name) {
+  if (Panel* panel = editor.panels().named(name)) return *panel;
+  throw ScriptFailure("no such window: " + name);
+}
+
 const MenuItem* FindMenuItem(const Menu& menu, const std::string& name) {
   const size_t mark = name.rfind('#');
   const std::string label = name.substr(0, mark);
@@ -293,6 +298,9 @@ Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vecto
     return {ViewText(editor, ScriptViewNamed(what[1].text))};
   }
   if (what.size() == 2 && EqualNoCase(word, "menu")) return ContextMenuLines(editor, what[1].text);
+  if (what.size() == 2 && EqualNoCase(word, "window")) {
+    return ScriptPanelNamed(editor, what[1].text).printed();
+  }
   if (what.size() == 3 && EqualNoCase(word, "pick")) {
     return {PickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};
   }

@@ -14,6 +14,9 @@ namespace velk {
 int ScriptViewNamed(const std::string& name);
 int ScriptNumber(const ScriptWord& word);
 
+// The tool window of that name. Throws ScriptFailure when there is none.
+Panel& ScriptPanelNamed(Editor& editor, const std::string& name);
+
 // The item of that name in a context menu: the text before a tab, "NAME#2" for the second of that text. None
 // when there is none.
 const MenuItem* FindMenuItem(const Menu& menu, const std::string& name);

@@ -51,6 +51,10 @@ void SetModifier(PointerEvent& event, const ScriptWord& word) {
   }
 }
 
+ScriptFailure NoLine(const std::vector<ScriptWord>& words) {
+  return ScriptFailure(words[0].text + " has no line " + words[1].text);
+}
+
 void RunEnabled(Editor& editor, const Command& command, const std::string& asked, bool byKey) {
   if (RunCommand(editor, command, byKey)) return;
   if (editor.door().dragRuns()) throw ScriptFailure(asked + " is refused while a drag runs");
@@ -84,6 +88,9 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"menu", 2, 2, "menu WINDOW LABEL", &ScriptRunner::menu},
       {"checkdisk", 0, 0, "checkdisk", &ScriptRunner::checkDisk},
       {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
+      {"pick", 2, 2, "pick WINDOW N", &ScriptRunner::pick},
+      {"double", 2, 2, "double WINDOW N", &ScriptRunner::doubleClick},
+      {"control", 2, 3, "control WINDOW NAME [VALUE]", &ScriptRunner::control},
       {"offer", 0, 0, "offer", &ScriptRunner::offer},
       {"tick", 0, 0, "tick", &ScriptRunner::tick},
       {"rescue", 0, 0, "rescue", &ScriptRunner::rescue},
@@ -235,6 +242,20 @@ void ScriptRunner::menu(const Words& words) {
   if (!item) throw ScriptFailure("the menu has no item " + words[1].text);
   if (!item->enabled || !item->run) throw ScriptFailure(words[1].text + " is disabled");
   item->run();
+}
+
+void ScriptRunner::pick(const Words& words) {
+  if (!ScriptPanelNamed(editor_, words[0].text).pick(ScriptNumber(words[1]))) throw NoLine(words);
+}
+
+void ScriptRunner::doubleClick(const Words& words) {
+  if (!ScriptPanelNamed(editor_, words[0].text).doubleClick(ScriptNumber(words[1]))) throw NoLine(words);
+}
+
+void ScriptRunner::control(const Words& words) {
+  const std::string value = words.size() > 2 ? words[2].text : "";
+  if (ScriptPanelNamed(editor_, words[0].text).control(words[1].text, value)) return;
+  throw ScriptFailure(words[0].text + " has no control " + words[1].text + " that takes this");
 }
 
 void ScriptRunner::offer(const Words&) { editor_.rescue().offer(); }

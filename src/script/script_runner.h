@@ -68,6 +68,9 @@ class ScriptRunner {
   void checkDisk(const Words& words);
   void image(const Words& words);
   void menu(const Words& words);
+  void pick(const Words& words);
+  void doubleClick(const Words& words);
+  void control(const Words& words);
   void offer(const Words& words);
   void tick(const Words& words);
   void rescue(const Words& words);

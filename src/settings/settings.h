@@ -163,6 +163,24 @@ struct Settings {
   bool careful_tools = false;     // tools and operations do better where their classic behaviour hurts
   bool ask_when_changed = false;  // questions before closing go by what a map holds, not by its modified flag
   int undo_megabytes = 0;         // that undo may keep; 0 for any number
+  bool hover_pick = false;        // what a click would take is shown before the click
+  bool tool_cursors = false;      // a cursor shape for each kind of tool
+  bool show_sizes = false;        // sizes and offsets stand beside what is drawn, resized or moved
+  bool cancel_drags = false;      // Esc and the other buttons cancel a drag
+  bool scroll_drags = false;      // a view scrolls when a drag leaves it
+  bool click_selects = false;     // a press and release in one place selects
+  bool click_menu = false;        // a right click opens a context menu
+  bool drag_clone = false;        // a drag with CTRL leaves a copy behind
+  bool drag_arrows = false;       // arrow keys during a drag move by a grid step
+  bool smooth_camera = false;     // held movement keys move the camera by time
+  bool solid_entities = false;    // entity boxes shaded in the camera view, those around the eye left out
+  bool preview_results = false;   // dialogs show what they would make as ghosts in the views
+  bool texture_lock = false;      // textures move along with brushes
+  bool long_group_names = false;  // group names of up to 63 characters are kept when a map is read
+  bool shared_borders = false;    // the border between two windows resizes both
+  bool watch_leaks = false;       // leak points beside a map are loaded when they change
+  bool build_window = false;      // the batch commands run in the build window
+  std::string compiler_directory;  // of the map compiler's programs, besides PATH
 
   ViewColours colours;
 

@@ -4,8 +4,8 @@
 
 #include "base/text.h"
 #include "commands/dispatch.h"
+#include "commands/files/named_files.h"
 #include "commands/key_stroke.h"
-#include "commands/named_files.h"
 #include "documents/opening.h"
 #include "planview/view_steps.h"
 #include "support/declining_prompts.h"

@@ -1,6 +1,6 @@
 // Commands whose effect is not told by a script's output.
 #include "commands/dispatch.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "documents/opening.h"
 #include "mapfile/map_writer.h"
 #include "support/session.h"

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "application.h"
-#include "commands/replace_form.h"
+#include "commands/texturing/replace_form.h"
 #include "support/temp_folder.h"
 
 namespace velk {

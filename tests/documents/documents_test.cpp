@@ -1,7 +1,7 @@
 #include <filesystem>
 
 #include "commands/dispatch.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "support/session.h"
 
 namespace velk {

@@ -6,7 +6,7 @@
 #include <sys/stat.h>
 
 #include "commands/dispatch.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "documents/opening.h"
 #include "support/session.h"
 

@@ -9,7 +9,7 @@
 #include "base/files.h"
 #include "base/text.h"
 #include "commands/bars.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "entities/entity_class.h"
 #include "mapfile/map_reader.h"
 #include "support/declining_prompts.h"

@@ -9,7 +9,7 @@
 #include "app/editor.h"
 #include "base/files.h"
 #include "commands/dispatch.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "script/script_prompts.h"
 #include "support/cube_text.h"
 #include "support/fatal.h"

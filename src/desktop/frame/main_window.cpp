@@ -16,7 +16,7 @@
 #include <chrono>
 
 #include "commands/dispatch.h"
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/frame_state.h"
 #include "desktop/frame/keys.h"

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 #include "desktop/system/kit.h"
 #include "desktop/system/picture_file.h"
 #include "desktop/windows/camera_window.h"

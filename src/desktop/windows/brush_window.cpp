@@ -7,7 +7,7 @@
 #include "base/text.h"
 #include "desktop/dialogs/shown_text.h"
 #include "ops/face_textures.h"
-#include "panels/brush_panel.h"
+#include "panels/brush/brush_panel.h"
 
 namespace velk {
 namespace {
@@ -53,11 +53,10 @@ TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
 
 void TSelectedBrushWindow::refresh() {
   refreshing_ = true;
-  map* m = editor_.documents().currentMap();
-  readout_->setText(ShownText(BrushReadout(m)));
+  readout_->setText(ShownText(editor_.panels().brush.readout()));
   useColours();
   faces_->clear();
-  listFaces(FacesOfCurrentBrush(m));
+  listFaces(editor_.panels().brush.faces());
   refreshing_ = false;
 }
 
@@ -69,10 +68,7 @@ void TSelectedBrushWindow::useColours() {
   faces_->setPalette(palette);
 }
 
-void TSelectedBrushWindow::choose(int index) {
-  map* m = editor_.documents().currentMap();
-  if (m) editor_.door().perform({.name = "Face"}, [&] { return ChooseFace(*m, index); });
-}
+void TSelectedBrushWindow::choose(int index) { editor_.panels().brush.pick(index); }
 
 void TSelectedBrushWindow::listFaces(const FaceLines& shown) {
   const ViewColours& colours = editor_.settings().colours;

@@ -4,7 +4,7 @@
 #include <QTreeWidget>
 
 #include "app/editor.h"
-#include "panels/brush_panel.h"
+#include "panels/brush/brush_panel.h"
 
 namespace velk {
 

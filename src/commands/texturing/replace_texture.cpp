@@ -1,8 +1,8 @@
-#include "commands/replace_texture.h"
+#include "commands/texturing/replace_texture.h"
 
 #include "base/text.h"
 #include "commands/bars.h"
-#include "commands/replace_form.h"
+#include "commands/texturing/replace_form.h"
 #include "ops/face_textures.h"
 
 namespace velk {

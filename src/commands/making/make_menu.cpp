@@ -1,7 +1,7 @@
 // Commands of the Edit menu that make brushes and entities, turn and mirror.
 #include "commands/command_tables.h"
-#include "commands/maker_commands.h"
-#include "commands/transform_commands.h"
+#include "commands/editing/transform_commands.h"
+#include "commands/making/maker_commands.h"
 
 namespace velk {
 namespace {

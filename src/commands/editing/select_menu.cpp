@@ -2,7 +2,7 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
-#include "commands/hit_commands.h"
+#include "commands/editing/hit_commands.h"
 #include "ops/clip.h"
 #include "ops/face_textures.h"
 #include "ops/selection.h"

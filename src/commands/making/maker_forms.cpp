@@ -1,4 +1,4 @@
-#include "commands/maker_forms.h"
+#include "commands/making/maker_forms.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,11 +1,12 @@
-#include "panels/brush_panel.h"
+#include "panels/brush/brush_panel.h"
 
 #include "base/text.h"
 #include "ops/face_textures.h"
 
 namespace velk {
 
-std::string BrushReadout(map* m) {
+std::string BrushPanel::readout() const {
+  const map* m = currentMap();
   const int selected = m ? m->totalSelected() : 0;
   const brush* shown = m ? m->firstSelected() : nullptr;
   if (!shown) return Format("[%i] Selected", selected);
@@ -14,8 +15,9 @@ std::string BrushReadout(map* m) {
                 double(shown->maxs.z));
 }
 
-FaceLines FacesOfCurrentBrush(map* m) {
+FaceLines BrushPanel::faces() const {
   FaceLines faces;
+  const map* m = currentMap();
   const brush* shown = m ? m->firstSelected() : nullptr;
   if (!shown) return faces;
   for (int i = 0; i < shown->numfaces(); ++i) faces.lines.push_back(FaceListLine(*shown, i));
@@ -23,9 +25,20 @@ FaceLines FacesOfCurrentBrush(map* m) {
   return faces;
 }
 
-Outcome ChooseFace(map& m, int index) {
-  if (!ChooseCurrentFace(m, index)) return {};
-  return Outcome::Drawn(Redraw::All, "Face changed...");
+bool BrushPanel::pick(int line) {
+  map* m = currentMap();
+  if (!m || line < 0 || line >= static_cast<int>(faces().lines.size())) return false;
+  context_.door.perform({.name = "Face"}, [&]() -> Outcome {
+    if (!ChooseCurrentFace(*m, line)) return {};
+    return Outcome::Drawn(Redraw::All, "Face changed...");
+  });
+  return true;
+}
+
+std::vector<std::string> BrushPanel::printed() {
+  std::vector<std::string> lines = faces().lines;
+  lines.insert(lines.begin(), readout());
+  return lines;
 }
 
 }  // namespace velk

@@ -1,9 +1,9 @@
-#include "commands/maker_commands.h"
+#include "commands/making/maker_commands.h"
 
 #include <algorithm>
 
 #include "base/text.h"
-#include "commands/maker_forms.h"
+#include "commands/making/maker_forms.h"
 #include "makers/room.h"
 #include "makers/seed.h"
 #include "mapfile/revolve_file.h"

@@ -1,4 +1,4 @@
-#include "commands/replace_form.h"
+#include "commands/texturing/replace_form.h"
 
 #include "base/text.h"
 

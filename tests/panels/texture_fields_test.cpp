@@ -1,4 +1,4 @@
-#include "panels/texture_browser.h"
+#include "panels/textures/texture_fields.h"
 
 #include <gtest/gtest.h>
 

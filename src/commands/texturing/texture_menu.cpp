@@ -2,7 +2,7 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
-#include "commands/replace_texture.h"
+#include "commands/texturing/replace_texture.h"
 #include "ops/face_textures.h"
 
 namespace velk {

@@ -1,8 +1,8 @@
 // Commands of the Export, Group and Clip menus.
 #include "app/editor.h"
 #include "commands/command_tables.h"
+#include "commands/editing/transform_commands.h"
 #include "commands/toggles.h"
-#include "commands/transform_commands.h"
 
 namespace velk {
 namespace {

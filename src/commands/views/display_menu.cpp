@@ -1,8 +1,8 @@
 // Commands of the Display, Grid and Scale menus.
 #include "app/editor.h"
-#include "commands/camera_handlers.h"
 #include "commands/command_tables.h"
 #include "commands/toggles.h"
+#include "commands/views/camera_handlers.h"
 #include "planview/view_steps.h"
 
 namespace velk {

@@ -1,4 +1,4 @@
-#include "commands/settings_forms.h"
+#include "commands/files/settings_forms.h"
 
 #include <algorithm>
 

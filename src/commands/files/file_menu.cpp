@@ -2,7 +2,7 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
-#include "commands/settings_commands.h"
+#include "commands/files/settings_commands.h"
 #include "documents/opening.h"
 #include "documents/saving.h"
 

@@ -1,4 +1,4 @@
-#include "commands/named_files.h"
+#include "commands/files/named_files.h"
 
 #include "documents/opening.h"
 

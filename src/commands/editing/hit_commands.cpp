@@ -1,4 +1,4 @@
-#include "commands/hit_commands.h"
+#include "commands/editing/hit_commands.h"
 
 #include "base/text.h"
 

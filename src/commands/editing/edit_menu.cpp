@@ -2,7 +2,7 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
-#include "commands/transform_commands.h"
+#include "commands/editing/transform_commands.h"
 #include "ops/clipboard.h"
 #include "ops/move_selection.h"
 

@@ -1,8 +1,8 @@
-#include "commands/settings_commands.h"
+#include "commands/files/settings_commands.h"
 
 #include "base/error.h"
 #include "base/ini_file.h"
-#include "commands/settings_forms.h"
+#include "commands/files/settings_forms.h"
 
 namespace velk {
 namespace {

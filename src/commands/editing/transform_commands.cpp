@@ -1,7 +1,7 @@
-#include "commands/transform_commands.h"
+#include "commands/editing/transform_commands.h"
 
 #include "base/text.h"
-#include "commands/maker_commands.h"
+#include "commands/making/maker_commands.h"
 #include "ops/clip.h"
 #include "ops/move_selection.h"
 #include "ops/reshape.h"

@@ -1,0 +1,15 @@
+#include "app/panels.h"
+
+#include "base/text.h"
+
+namespace velk {
+
+Panel* Panels::named(std::string_view name) {
+  if (EqualNoCase(name, "TEXTURES")) return &textures;
+  if (EqualNoCase(name, "ENTITY")) return &entities;
+  if (EqualNoCase(name, "GROUPS")) return &groups;
+  if (EqualNoCase(name, "BRUSH")) return &brush;
+  return nullptr;
+}
+
+}  // namespace velk

@@ -1,0 +1,1 @@
+#include "panels/entities/entity_panel.h"

@@ -1,0 +1,1 @@
+#include "panels/groups/group_panel.h"

@@ -1,0 +1,1 @@
+#include "panels/textures/texture_panel.h"
