@@ -12,6 +12,8 @@ namespace {
 constexpr float kMargin = 0.0625f;
 // Nearer than this a brush counts as all over the picture.
 constexpr float kNearDepth = 1;
+// Boxes that begin nearer to the eye than this are in its way, world units.
+constexpr double kInTheWay = 32;
 
 float Reach(const vec3& axis, const vec3& half) {
   return std::abs(axis.x) * half.x + std::abs(axis.y) * half.y + std::abs(axis.z) * half.z;
@@ -23,13 +25,25 @@ float Along(const vec3& axis, const vec3& offset) {
 
 }  // namespace
 
+bool IsInTheWay(const RenderScene& scene, const brush& b) {
+  if (!scene.settings.solid_entities || !b.owner || b.owner->isModel || b.invalid) return false;
+  const vec3& eye = scene.model.activeCamera().origin;
+  double squares = 0;
+  for (int axis = 0; axis < 3; ++axis) {
+    const double gap = std::max({0.0, double(b.mins[axis]) - eye[axis], double(eye[axis]) - b.maxs[axis]});
+    squares += gap * gap;
+  }
+  return squares < kInTheWay * kInTheWay;
+}
+
 brush& ShownShape(const RenderScene& scene, brush& b) {
   if (!b.selected() || !scene.preview) return b;
   brush* copy = scene.preview(b);
   return copy ? *copy : b;
 }
 
-BrushCuller::BrushCuller(const FrameView& view) : view_(view) {
+BrushCuller::BrushCuller(const FrameView& view)
+    : view_(view), outside_(view.projection.cutsExactly ? 0 : float(SIDE_EPSILON)) {
   const Eye& eye = view.eye;
   for (int axis = 0; axis < 3; ++axis) {
     for (int i = 0; i < 4; ++i) {
@@ -61,7 +75,7 @@ bool BrushCuller::place(const brush& b, BrushDraw& draw) const {
   const Four closest = middle - reach;
   draw.onBorder = false;
   for (int i = 0; i < 4; ++i) {
-    if (farthest[i] <= float(SIDE_EPSILON)) return false;
+    if (farthest[i] <= outside_) return false;
     draw.onBorder |= closest[i] < 0;
   }
   findOutline(centre, half, draw);

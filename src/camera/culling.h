@@ -45,6 +45,7 @@ class BrushCuller {
   void findOutline(const vec3& centre, const vec3& half, BrushDraw& draw) const;
 
   const FrameView& view_;
+  float outside_;       // so far inside a plane of the frustum counts as outside
   Four planes_[3];      // normals of the frustum planes in the world, by axis
   Four planeSizes_[3];  // their absolute values
 };
@@ -53,6 +54,9 @@ class BrushCuller {
 // the last to the first. Those the filters leave out are skipped.
 template <typename Visit>
 void VisitShownBrushes(const RenderScene& scene, Visit&& visit);
+// Whether it is the box of a fixed-size entity that would hide the picture from the eye, and such boxes are
+// to be left out.
+bool IsInTheWay(const RenderScene& scene, const brush& b);
 // The brush itself or the copy that stands in for it.
 brush& ShownShape(const RenderScene& scene, brush& b);
 
@@ -62,7 +66,7 @@ void VisitShownBrushes(const RenderScene& scene, Visit&& visit) {
     const entity& owner = *scene.model.at(e);
     for (int i = owner.numbrushes() - 1; i >= 0; --i) {
       brush& b = *owner.at(i);
-      if (IsShown(scene.model, b)) visit(b);
+      if (IsShown(scene.model, b) && !IsInTheWay(scene, b)) visit(b);
     }
   }
 }

@@ -71,7 +71,9 @@ bool VisiblePolygon(const FrameView& view, const face& f, bool onBorder, ViewPol
                     ViewPolygon& scratch) {
   if (!f.polygon || !(dot(view.eye.origin, f.facePlane.normal) > f.facePlane.dist)) return false;
   MoveToView(view.eye, *f.polygon, polygon);
-  return !onBorder || CutToPicture(view.projection, polygon, scratch);
+  if (!onBorder) return true;
+  return view.projection.cutsExactly ? CutExactly(view.projection, polygon, scratch)
+                                     : CutToPicture(view.projection, polygon, scratch);
 }
 
 void FaceList::begin(const RenderScene& scene, const FrameView& view) {
@@ -120,7 +122,8 @@ void FaceList::addFace(brush& b, int index, FaceState state, const BrushLook& lo
 const std::uint8_t* FaceList::shadesOf(const face& f, const BrushLook& look) const {
   const Settings& settings = scene_->settings;
   if (!scene_->assets.colormap) return kUnshaded.colours;
-  const bool shaded = !look.fixedColour && (look.flat ? settings.shadeflats : settings.shadetextures);
+  const bool shaded =
+      look.fixedColour ? settings.solid_entities : (look.flat ? settings.shadeflats : settings.shadetextures);
   const int row =
       shaded ? ShadeRow(view_->eye, f.facePlane.normal, settings.lightintensity, settings.ambientintensity)
              : settings.flatlevel;

@@ -7,6 +7,9 @@ namespace velk {
 
 namespace {
 
+// Nothing nearer to the eye is shown when polygons are cut exactly, world units.
+constexpr double kNearest = 1.0 / 1024;
+
 struct ScreenPolygon {
   int count = 0;
   int rows[ViewPolygon::kCapacity];
@@ -52,6 +55,38 @@ void ProjectAll(const Projection& projection, const ViewPolygon& polygon, Screen
   outline.nearest *= 1.0001f;  // interpolation may round up
 }
 
+WindingPoint Between(const WindingPoint& a, const WindingPoint& b, double part) {
+  const auto mix = [part](float from, float to) { return float(from + part * (double(to) - from)); };
+  return {mix(a.x, b.x), mix(a.y, b.y), mix(a.z, b.z), mix(a.s, b.s), mix(a.t, b.t)};
+}
+
+// Keeps the part for which `inside` is not negative; false when that is nothing.
+template <typename Inside>
+bool CutHalf(ViewPolygon& polygon, ViewPolygon& scratch, Inside&& inside) {
+  double sides[ViewPolygon::kCapacity];
+  double least = 0, most = -1;
+  for (int i = 0; i < polygon.count; ++i) {
+    sides[i] = inside(polygon.points[i]);
+    least = std::min(least, sides[i]);
+    most = std::max(most, sides[i]);
+  }
+  if (most < 0 || least >= 0) return most >= 0;
+  scratch.count = 0;
+  const auto keep = [&](const WindingPoint& p) {
+    if (scratch.count < WINDING_MAX_POINTS) scratch.points[scratch.count++] = p;
+  };
+  for (int i = 0; i < polygon.count; ++i) {
+    const WindingPoint& from = polygon.points[i];
+    const int next = i + 1 < polygon.count ? i + 1 : 0;
+    const double a = sides[i], b = sides[next];
+    if (a >= 0) keep(from);
+    if ((a >= 0) != (b >= 0)) keep(Between(from, polygon.points[next], a / (a - b)));
+  }
+  polygon.count = scratch.count;
+  std::copy_n(scratch.points, scratch.count, polygon.points);
+  return true;
+}
+
 }  // namespace
 
 void MoveToView(const Eye& eye, const winding& w, ViewPolygon& polygon) {
@@ -74,6 +109,18 @@ bool CutToPicture(const Projection& projection, ViewPolygon& polygon, ViewPolygo
     std::copy_n(scratch.points, polygon.count, polygon.points);
   }
   return polygon.count > 0;
+}
+
+bool CutExactly(const Projection& projection, ViewPolygon& polygon, ViewPolygon& scratch) {
+  if (!CutHalf(polygon, scratch, [](const WindingPoint& p) { return p.z - kNearest; })) return false;
+  for (const SplitPlane& edge : projection.frustum) {
+    const double* n = edge.normal;
+    if (!CutHalf(polygon, scratch,
+                 [n](const WindingPoint& p) { return n[0] * p.x + n[1] * p.y + n[2] * p.z; })) {
+      return false;
+    }
+  }
+  return polygon.count > 2;
 }
 
 bool MakeOutline(const Projection& projection, const ViewPolygon& polygon, std::vector<Edge>& edges,

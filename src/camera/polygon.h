@@ -22,6 +22,9 @@ void MoveToView(const Eye& eye, const winding& w, ViewPolygon& polygon);
 // `scratch` is overwritten. False when nothing is left.
 bool CutToPicture(const Projection& projection, ViewPolygon& polygon, ViewPolygon& scratch);
 
+// The same to the hair.
+bool CutExactly(const Projection& projection, ViewPolygon& polygon, ViewPolygon& scratch);
+
 // Projects the polygon and appends its edges. False, with nothing appended, when it covers no row or
 // reaches beyond the top or bottom row.
 bool MakeOutline(const Projection& projection, const ViewPolygon& polygon, std::vector<Edge>& edges,

@@ -39,6 +39,7 @@ void Renderer::State::aim(const RenderScene& scene, RenderSize size) {
   if (usable || view.projection.width == 0) view.projection = MakeProjection(size.width, size.height);
   view.projection.width = size.width;
   view.projection.height = size.height;
+  view.projection.cutsExactly = scene.settings.window_quality;
 }
 
 void Renderer::State::collectBrushes(const RenderScene& scene) {

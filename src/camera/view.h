@@ -37,6 +37,9 @@ struct Projection {
   // In view space, through the eye: right, left, top and bottom edge of the picture. Normals have unit
   // length, as those of every plane; they point into the picture.
   SplitPlane frustum[4];
+  // Polygons are cut to the picture to the hair. Otherwise corners may stay that lie a little outside; close
+  // to the eye that is far, and polygons that then reach beyond the top or bottom row are left out.
+  bool cutsExactly = false;
 };
 
 Projection MakeProjection(int width, int height);

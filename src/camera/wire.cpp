@@ -12,6 +12,8 @@ namespace velk {
 
 namespace {
 
+// Edges that cutting makes along the border lie this far outside the picture.
+constexpr int kMargin = 16;          // pixels of the picture, beyond the reach of a pick
 constexpr double kNearLimit = -1.0;  // view depth; the eye looks along -z
 
 struct DeepPoint {
@@ -98,8 +100,8 @@ class WirePlotter {
   }
 
   void cutToCanvas() {
-    cutSide(&Pixel::x, 0, size_.width - 1);
-    cutSide(&Pixel::y, 0, size_.height - 1);
+    cutSide(&Pixel::x, -kMargin, size_.width - 1 + kMargin);
+    cutSide(&Pixel::y, -kMargin, size_.height - 1 + kMargin);
   }
 
   void cutSide(int Pixel::*axis, int low, int high) {

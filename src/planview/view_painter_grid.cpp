@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <vector>
 
 #include "base/text.h"
@@ -11,7 +12,7 @@ namespace {
 constexpr int kLabelHeight = 10;       // pixels
 constexpr int kLabelLeft = 2;          // of a horizontal line's label
 constexpr int kLabelAboveBottom = 14;  // of a vertical line's label
-constexpr int kLabelGap = 4;           // between labels of vertical lines
+constexpr int kLabelGap = 4;           // between labels
 
 class GridPainter {
  public:
@@ -29,7 +30,7 @@ class GridPainter {
       for (long long c = u.first; c <= u.last; c += u.step) vertical(c, p_.colours.majorgrid);
       for (long long c = v.first; c <= v.last; c += v.step) horizontal(c, p_.colours.majorgrid);
     }
-    if (p_.settings.show_coordinates) labels(u, v);
+    if (p_.settings.show_coordinates) labels(u);
   }
 
  private:
@@ -75,28 +76,37 @@ class GridPainter {
     p_.canvas.devicePolygon({colour, 1}, ends);
   }
 
-  // Labels that would cover the one before are left out.
-  void labels(const GridRange& u, const GridRange& v) {
+  // So many world units lie between labels that none covers the next: major lines times a power of two.
+  long long labelStep(const GridRange& u) const {
+    const int wide = std::max(labelWidth(u.first), labelWidth(u.last));
+    const double least = std::max(wide + kLabelGap, kLabelHeight) / p_.projection.scale;
+    long long step = levels_.major;
+    while (double(step) < least && step <= u.last - u.first) step *= 2;
+    return step;
+  }
+
+  int labelWidth(long long position) const {
+    return p_.canvas.textWidth(Format("%lli", position), kLabelHeight);
+  }
+
+  void labels(const GridRange& majorU) {
     const PlanProjection& projection = p_.projection;
-    int freeFrom = kLabelLeft - 1;
+    const long long step = labelStep(majorU);
+    const GridRange u = rangeU(step), v = rangeV(step);
     for (long long c = u.first; c <= u.last; c += u.step) {
-      const std::string text = Format("%lli", c);
       const int x = Truncate((double(c) - projection.centreU) * projection.scale + projection.width / 2);
-      if (x < freeFrom || x >= projection.width) continue;
-      label(text, {x, projection.height - kLabelAboveBottom});
-      freeFrom = x + p_.canvas.textWidth(text, kLabelHeight) + kLabelGap;
+      if (x >= kLabelLeft && x < projection.width) label(c, {x, projection.height - kLabelAboveBottom});
     }
-    int freeAbove = projection.height - kLabelAboveBottom;
+    const int lowest = projection.height - kLabelAboveBottom - kLabelHeight;
     for (long long c = v.first; c <= v.last; c += v.step) {
       const int y = Truncate(-(double(c) - projection.centreV) * projection.scale + projection.height / 2);
-      if (y > freeAbove - kLabelHeight || y < kStripHeight - kLabelHeight) continue;
-      label(Format("%lli", c), {kLabelLeft, y});
-      freeAbove = y;
+      if (y <= lowest && y >= kStripHeight - kLabelHeight) label(c, {kLabelLeft, y});
     }
   }
 
-  void label(const std::string& text, Pixel at) {
-    p_.canvas.text(text, at, kLabelHeight, p_.colours.color_gridlabel, &p_.colours.bgcolor);
+  void label(long long position, Pixel at) {
+    p_.canvas.text(Format("%lli", position), at, kLabelHeight, p_.colours.color_gridlabel,
+                   &p_.colours.bgcolor);
   }
 
   ViewPainter& p_;

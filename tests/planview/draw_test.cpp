@@ -142,6 +142,23 @@ TEST_F(Drawing, GridDotsStandAtIntersections) {
   EXPECT_EQ(draw().starting("points #00007f").front(), "points #00007f 8,12");
 }
 
+TEST_F(Drawing, GridLabelsStandAtEvenSteps) {
+  settings.show_grid = true;
+  for (PlanView& view : set.views) view.clientWidth = 800, view.clientHeight = 600;
+  for (const auto& [scale, step] : {std::pair{1.0f, 64}, {0.5f, 64}, {0.25f, 128}, {0.0625f, 512}}) {
+    settings.scale = scale;
+    std::vector<int> along, up;  // labels of vertical lines, of horizontal ones
+    for (const std::string& stroke : draw().starting("text '")) {
+      if (stroke.find("#ffff00 10") == std::string::npos) continue;
+      (stroke.ends_with(" 586") ? along : up).push_back(std::stoi(stroke.substr(6)));
+    }
+    for (const std::vector<int>& labels : {along, up}) {
+      ASSERT_GE(labels.size(), 9u) << scale;
+      for (size_t i = 1; i < labels.size(); ++i) EXPECT_EQ(labels[i] - labels[i - 1], step) << scale;
+    }
+  }
+}
+
 TEST(ClipPolygon, CutsAtEveryBorderWithoutOverflow) {
   const ClipRect rect{0, 0, 100, 100};
   Pixel corners[kMaxClipped] = {{INT_MIN, 50}, {50, INT_MIN}, {INT_MAX, 50}, {50, INT_MAX}};

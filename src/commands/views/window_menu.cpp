@@ -42,6 +42,11 @@ Outcome RestoreTool(Editor& editor, ToolWindow window) {
   return Outcome::Said(Format("%s %s...", NameOf(window), what));
 }
 
+Outcome RestorePlanView(Editor& editor, ToolWindow window) {
+  editor.windows().windows().bringToFront(window);
+  return {};
+}
+
 Outcome RestorePositions(Editor& editor) { return editor.windows().apply(); }
 
 Outcome UseArrangement(Editor& editor, int slot) { return editor.windows().use(slot); }
@@ -142,6 +147,12 @@ const Command kRows[] = {
     {.id = 219, .menu = "&Window", .label = "Restore &Brush View", .keyText = "Ctrl-B", .keys = "Ctrl+B",
      .hint = "Restore Selected Brush View", .enabled = MapOpen,
      .run = With<RestoreTool, ToolWindow::SelectedBrush>},
+    {.id = 1190, .name = "CM_SHOW_XY_VIEW", .menu = "&Window|Restore &Plan View", .label = "&XY View",
+     .hint = "Show XY View Window", .enabled = MapOpen, .run = With<RestorePlanView, ToolWindow::Plan1>},
+    {.id = 1191, .name = "CM_SHOW_XZ_VIEW", .menu = "&Window|Restore &Plan View", .label = "X&Z View",
+     .hint = "Show XZ View Window", .enabled = MapOpen, .run = With<RestorePlanView, ToolWindow::Plan2>},
+    {.id = 1192, .name = "CM_SHOW_YZ_VIEW", .menu = "&Window|Restore &Plan View", .label = "&YZ View",
+     .hint = "Show YZ View Window", .enabled = MapOpen, .run = With<RestorePlanView, ToolWindow::Plan3>},
     {.id = 214, .name = "CM_NEXT_MAP", .menu = "&Window", .startsGroup = true,
      .label = "&Next Map", .keyText = "Ctrl-+",
      .keys = "Ctrl+= Ctrl++", .hint = "Switch to Next Map", .enabled = MapOpen, .run = With<StepMap, 1>},

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/dialogs/shown_text.h"
+
 namespace velk {
 
 QImage MakeCanvasImage(int width, int height, double devicePixelRatio) {
@@ -28,7 +30,7 @@ const QFont& QtCanvas::font(int height) const {
 
 void QtCanvas::text(const std::string& text, Pixel at, int height, Colour colour, const Colour* background) {
   const QFontMetrics metrics(font(height));
-  const QString shown = QString::fromLatin1(text.c_str());
+  const QString shown = ShownText(text);
   painter_.setFont(font(height));
   if (background) {
     painter_.fillRect(at.x, at.y, metrics.horizontalAdvance(shown), metrics.height(),
@@ -39,7 +41,7 @@ void QtCanvas::text(const std::string& text, Pixel at, int height, Colour colour
 }
 
 int QtCanvas::textWidth(const std::string& text, int height) const {
-  return QFontMetrics(font(height)).horizontalAdvance(QString::fromLatin1(text.c_str()));
+  return QFontMetrics(font(height)).horizontalAdvance(ShownText(text));
 }
 
 }  // namespace velk
