@@ -7,9 +7,11 @@ namespace {
 
 ViewPoint Minus(ViewPoint a, ViewPoint b) { return {a.u - b.u, a.v - b.v}; }
 
-ViewPoint PointAt(const MouseContext& context, const Drag& drag, Pixel at) {
+ViewPoint Plus(ViewPoint a, ViewPoint b) { return {a.u + b.u, a.v + b.v}; }
+
+ViewPoint PointAt(const MouseContext& context, const Drag& drag, Pixel at, ViewPoint nudged = {}) {
   if (context.inCamera()) return {};
-  const ViewPoint point = context.projection().screenToWorld(at);
+  const ViewPoint point = Plus(context.projection().screenToWorld(at), nudged);
   return drag.snaps() ? snapToGrid(point, context.settings) : point;
 }
 
@@ -27,6 +29,7 @@ Outcome Pointer::press(const MouseContext& context, const PointerEvent& event) {
   drag_ = std::move(started.drag);
   view_ = context.view;
   state_ = {};
+  nudged_ = {};
   state_.press = state_.now = event;
   state_.start = state_.current = PointAt(context, *drag_, event.at);
   if (!context.inCamera()) {
@@ -42,9 +45,10 @@ bool Pointer::follow(const MouseContext& context, const PointerEvent& event) {
   const MouseButton button = state_.press.button;
   state_.now = event;
   state_.now.button = button;
-  const bool moved = !(before == event.at);
+  if (context.inCamera()) state_.now.at = {event.at.x + int(nudged_.u), event.at.y - int(nudged_.v)};
+  const bool moved = !(before == state_.now.at);
   if (context.inCamera()) return moved;
-  state_.current = PointAt(context, *drag_, event.at);
+  state_.current = PointAt(context, *drag_, event.at, nudged_);
   const ViewPoint total = Minus(state_.current, state_.start);
   if (drag_->goesByPixels() ? !moved : total.u == state_.total.u && total.v == state_.total.v) return false;
   state_.step = Minus(total, state_.total);
@@ -54,7 +58,20 @@ bool Pointer::follow(const MouseContext& context, const PointerEvent& event) {
 
 Outcome Pointer::move(const MouseContext& context, const PointerEvent& event) {
   if (!drag_ || !follow(context, event)) return {};
-  return drag_->move(context, state_);
+  Outcome outcome = drag_->move(context, state_);
+  if (!context.inCamera() && drag_->readsOut() && context.plans.dragReadout) {
+    context.plan().deltaText = DeltaText(state_.total);
+    outcome.redraw = outcome.redraw | Redraw::Strips;
+  }
+  return outcome;
+}
+
+Outcome Pointer::nudge(const MouseContext& context, ViewPoint by) {
+  if (!drag_) return {};
+  PointerEvent still = state_.now;
+  if (context.inCamera()) still.at = {still.at.x - int(nudged_.u), still.at.y + int(nudged_.v)};
+  nudged_ = Plus(nudged_, by);
+  return move(context, still);
 }
 
 void Pointer::end(const MouseContext& context) {
@@ -70,6 +87,7 @@ Outcome Pointer::release(const MouseContext& context, const PointerEvent& event)
   Outcome outcome = move(context, event);
   Outcome finished = drag_->finish(context, state_);
   finished.redraw = finished.redraw | outcome.redraw | Redraw::Strips;
+  finished.groups = finished.groups || drag_->readsOut();
   if (finished.status.empty()) finished.status = std::move(outcome.status);
   end(context);
   return finished;

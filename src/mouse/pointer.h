@@ -16,6 +16,9 @@ class Pointer {
   Outcome move(const MouseContext& context, const PointerEvent& event);
   Outcome release(const MouseContext& context, const PointerEvent& event);
   void cancel(const MouseContext& context);
+  // Moves the running drag on by so much of its view's axes, where the mouse stays; in the camera view by
+  // pixels, `v` upwards.
+  Outcome nudge(const MouseContext& context, ViewPoint by);
 
   const Drag* drag() const { return drag_.get(); }
   const DragState& state() const { return state_; }
@@ -30,6 +33,7 @@ class Pointer {
 
   std::unique_ptr<Drag> drag_;
   DragState state_;
+  ViewPoint nudged_;  // so far, in the view's terms
   const char* undoName_ = "";
   int view_ = 0;
 };

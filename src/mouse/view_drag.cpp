@@ -7,7 +7,7 @@
 namespace velk {
 namespace {
 
-constexpr int kViewDragCode = 100;  // beyond the codes of the bound operations
+constexpr int kViewDragCode = 200;  // beyond the codes of the bound operations
 constexpr int kAllSteps = 11;       // from one end of the scale to the other
 
 // Moves planCenter so that `world` is shown at the pixel.
