@@ -26,6 +26,8 @@ struct CameraPicks {
   std::function<FacePick(Pixel)> pickFace;
   // The brush with an edge within so many pixels in the wire picture.
   std::function<brush*(Pixel, int reach)> pickWire;
+  // A point of the world far beyond what a flat or textured picture shows at the pixel.
+  std::function<vec3(Pixel)> beyond;
   // The face under the press, which the tools are tried on; none in the wire picture.
   FacePick under = {};
 };

@@ -24,6 +24,7 @@ Outcome Pointer::press(const MouseContext& context, const PointerEvent& event) {
     started = start(context, event);
     if (started.claimed) break;
   }
+  claimed_ = started.claimed;
   undoName_ = started.drag ? started.drag->undoName() : started.undoName;
   if (!started.drag) return started.outcome;
   drag_ = std::move(started.drag);
@@ -66,10 +67,15 @@ Outcome Pointer::move(const MouseContext& context, const PointerEvent& event) {
   return outcome;
 }
 
+PointerEvent Pointer::lastEvent() const {
+  PointerEvent event = state_.now;
+  if (view_ == kCameraView) event.at = {event.at.x - int(nudged_.u), event.at.y + int(nudged_.v)};
+  return event;
+}
+
 Outcome Pointer::nudge(const MouseContext& context, ViewPoint by) {
   if (!drag_) return {};
-  PointerEvent still = state_.now;
-  if (context.inCamera()) still.at = {still.at.x - int(nudged_.u), still.at.y + int(nudged_.v)};
+  const PointerEvent still = lastEvent();
   nudged_ = Plus(nudged_, by);
   return move(context, still);
 }

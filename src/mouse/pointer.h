@@ -22,6 +22,10 @@ class Pointer {
 
   const Drag* drag() const { return drag_.get(); }
   const DragState& state() const { return state_; }
+  // The last event of the drag as it came.
+  PointerEvent lastEvent() const;
+  // Whether a tool claimed the last press.
+  bool claimed() const { return claimed_; }
   // Of the undo level of what the last press began or did.
   const char* undoName() const { return undoName_; }
   // The view of the press.
@@ -36,6 +40,7 @@ class Pointer {
   ViewPoint nudged_;  // so far, in the view's terms
   const char* undoName_ = "";
   int view_ = 0;
+  bool claimed_ = false;
 };
 
 }  // namespace velk

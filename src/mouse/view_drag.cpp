@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "camera/flight.h"
 #include "planview/view_steps.h"
 
 namespace velk {
@@ -59,6 +60,13 @@ Outcome ZoomAt(const MouseContext& context, Pixel at, int notches) {
     outcome.status = notches > 0 ? ScaleUp(context.settings) : ScaleDown(context.settings);
     PinUnder(context, world, at);
   }
+  return outcome;
+}
+
+Outcome FlyBy(const MouseContext& context, int notches) {
+  MoveBy(context.model.activeCamera(), 0, 0, double(notches) * context.settings.stepsize);
+  Outcome outcome = Outcome::Drawn(Redraw::All);
+  outcome.centre = Centre::Follow;
   return outcome;
 }
 
