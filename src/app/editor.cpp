@@ -23,6 +23,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
     const Drag* drag = input_.pointer().drag();
     return drag ? drag->preview(b) : nullptr;
   };
+  // input_.newBrushGroup is to ask panels_.groups for its current group; until then drawn brushes get none.
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
 }
 

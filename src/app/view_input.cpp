@@ -1,19 +1,40 @@
 #include "app/view_input.h"
 
+#include <algorithm>
+
 #include "mouse/camera/camera_clicks.h"
 #include "mouse/operations.h"
 #include "mouse/view_drag.h"
 
 namespace velk {
+namespace {
+
+constexpr int kTextureStep = 4;  // pixels of a texture drag that are one step
+
+std::span<const MouseOperation> OperationsOf(int view) {
+  return view == kCameraView ? CameraOperations() : PlanOperations();
+}
+
+// While one lives, other events are passed over.
+class Busy {
+ public:
+  explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Busy() { flag_ = false; }
+  Busy(const Busy&) = delete;
+  Busy& operator=(const Busy&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
 
 ViewInput::ViewInput(const Services& services, Documents& documents, Door& door, Views& views,
                      TextureChoice& texture, const std::filesystem::path& home)
     : services_(services), documents_(documents), door_(door), views_(views), texture_(texture), home_(home) {
   pointer_.tools.emplace_back(CompassClick);
-  pointer_.tools.emplace_back([this](const MouseContext& context, const PointerEvent& event) {
-    return StartBound(fileOf(context.view).bindings,
-                      context.inCamera() ? CameraOperations() : PlanOperations(), context, event);
-  });
+  pointer_.tools.emplace_back(
+      [this](const MouseContext& context, const PointerEvent& event) { return startBound(context, event); });
   pointer_.tools.emplace_back(StartViewDrag);
 }
 
@@ -27,27 +48,48 @@ MouseContext ViewInput::context(int view) const {
           .view = view,
           .texture = &texture_,
           .textures = &document.textures,
+          .group = newBrushGroup(),
           .camera = {.width = views_.cameraWidth,
                      .pickFace = [this](Pixel at) { return views_.pickInCamera(at); },
-                     .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); }},
+                     .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); },
+                     .beyond = [this](Pixel at) { return views_.beyondInCamera(at); }},
           .saveUndo = [this](const char* name, UndoMode mode, brush* working) {
             MapDocument& saved = *documents_.current();
             saved.history.save(saved.model, name, mode, History::Limits::of(services_.settings), working);
           }};
 }
 
-// False when the file is damaged, of which the user is told once.
+ToolStart ViewInput::startBound(const MouseContext& context, const PointerEvent& event) {
+  return StartBound(fileOf(context.view).bindings, OperationsOf(context.view), context, event);
+}
+
 bool ViewInput::readBindings(BindingsFile& file) {
-  if (file.read) return true;
+  if (file.read) return !file.damaged;
   file.read = true;
-  return door_.attempt("Velk Error", "", [&] {
+  file.damaged = !door_.attempt("Velk Error...", "", [&] {
     file.bindings = loadMouseBindings(file.name, {std::filesystem::current_path(), home_});
   });
+  return !file.damaged;
+}
+
+void ViewInput::readBindings() {
+  readBindings(planFile_);
+  readBindings(cameraFile_);
+}
+
+MouseBindings* ViewInput::bindings(int view) {
+  BindingsFile& file = fileOf(view);
+  return readBindings(file) ? &file.bindings : nullptr;
 }
 
 std::optional<StripField> ViewInput::stripFieldAt(int view, Pixel at) const {
   if (view == kCameraView || at.y >= kStripHeight) return std::nullopt;
   return velk::StripFieldAt(views_.plans.views[static_cast<size_t>(view)].clientWidth, at);
+}
+
+std::vector<brush*> ViewInput::brushesUnder(int view) const {
+  if (!documents_.currentMap()) return {};
+  return BrushesUnder(context(view), at_[static_cast<size_t>(view)]);
 }
 
 // The other fields have menus, or do nothing.
@@ -58,15 +100,38 @@ void ViewInput::pressStrip(int view, Pixel at) {
 }
 
 void ViewInput::press(int view, const PointerEvent& event) {
-  if (pointer_.drag()) return;
+  if (busy_) return;
+  if (pointer_.drag()) {
+    const bool other = event.button != pointer_.state().press.button;
+    if (other && services_.settings.cancel_drags) cancel();
+    return;
+  }
+  at_[static_cast<size_t>(view)] = event.at;
+  press_.reset();
   if (view != kCameraView) {
     views_.plans.current = view;
     if (event.at.y < kStripHeight) return pressStrip(view, event.at);
   }
   if (!documents_.currentMap() || !readBindings(fileOf(view))) return;
-  door_.press(
-      {.name = ""}, [&] { return pointer_.press(context(view), event); },
-      [&] { return pointer_.drag() != nullptr; }, [&] { return pointer_.undoName(); });
+  begin(view, event);
+}
+
+void ViewInput::begin(int view, const PointerEvent& event) {
+  const Busy busy(busy_);
+  bool claimed = false;
+  centreBefore_ = views_.plans.planCenter;
+  const auto start = [&] {
+    Outcome outcome = pointer_.press(context(view), event);
+    claimed = pointer_.claimed();
+    const Drag* drag = pointer_.drag();
+    const MouseOperation* running = drag ? OperationOf(OperationsOf(view), drag->code()) : nullptr;
+    if (running && outcome.status.empty()) outcome.status = HintOf(*running, services_.settings);
+    return outcome;
+  };
+  const bool done = door_.press(
+      {.name = ""}, start, [&] { return pointer_.drag() != nullptr; }, [&] { return pointer_.undoName(); });
+  // What a click operation has done is no longer a click.
+  if (done && (!claimed || pointer_.drag())) press_ = Press{view, event};
 }
 
 void ViewInput::readCoordinates(int view, Pixel at) {
@@ -78,30 +143,123 @@ void ViewInput::readCoordinates(int view, Pixel at) {
   door_.show(Outcome::Drawn(Redraw::Strips));
 }
 
-void ViewInput::move(int view, const PointerEvent& event) {
-  const int shown = pointer_.drag() ? pointer_.view() : view;
-  if (shown != kCameraView) readCoordinates(shown, event.at);
-  if (!pointer_.drag()) return;
-  if (!door_.drag([&] { return pointer_.move(context(shown), event); })) pointer_.cancel(context(shown));
+bool ViewInput::clicksMatter(MouseButton button) const {
+  if (button == MouseButton::Left) return services_.settings.click_selects;
+  return button == MouseButton::Right && services_.settings.click_menu;
 }
 
-void ViewInput::release(int /*view*/, const PointerEvent& event) {
-  if (!pointer_.drag()) return;
+// Whether the mouse has not left the place of its press yet, where it may become a click.
+bool ViewInput::staysPut(int view, const PointerEvent& event) {
+  if (!press_ || press_->moved) return false;
+  const bool here = clicksMatter(press_->event.button) ? InOnePlace(press_->event.at, event.at)
+                                                       : press_->event.at == event.at;
+  press_->moved = view != press_->view || !here;
+  return !press_->moved;
+}
+
+void ViewInput::dragAlong(const Door::Action& action) {
+  if (door_.drag(action)) return;
+  pointer_.cancel(context(pointer_.view()));
+  press_.reset();
+  stopDragMotions();
+}
+
+void ViewInput::move(int view, const PointerEvent& event) {
+  if (busy_) return;
+  const bool drags = pointer_.drag() != nullptr;
+  const int shown = drags ? pointer_.view() : view;
+  at_[static_cast<size_t>(shown)] = event.at;
+  if (shown != kCameraView) readCoordinates(shown, event.at);
+  if (staysPut(shown, event) || !drags) return;
+  const Busy busy(busy_);
+  dragAlong([&] { return pointer_.move(context(shown), event); });
+  if (scrolls()) ticksWanted();
+}
+
+void ViewInput::drop(const PointerEvent& event) {
+  const Busy busy(busy_);
   const MouseContext dragged = context(pointer_.view());
   const std::string name = pointer_.drag()->undoName();
   if (!door_.drop(name, [&] { return pointer_.release(dragged, event); })) pointer_.cancel(dragged);
+  stopDragMotions();
+}
+
+bool ViewInput::isClick(const PointerEvent& event) const {
+  if (!press_ || press_->moved || press_->event.button != event.button) return false;
+  if (!clicksMatter(event.button) || !InOnePlace(press_->event.at, event.at)) return false;
+  return !pointer_.drag() || !pointer_.drag()->actsUnmoved(pointer_.state());
+}
+
+bool ViewInput::release(int view, const PointerEvent& event) {
+  if (busy_) return false;
+  const bool isClicked = isClick(event);
+  const PointerEvent pressed = press_ ? press_->event : event;
+  if (press_) view = press_->view;
+  press_.reset();
+  if (pointer_.drag() && !isClicked) drop(event);
+  if (!isClicked) return false;
+  cancel();
+  return click(view, pressed);
+}
+
+// CTRL is for what drags do with the selected brush.
+bool ViewInput::click(int view, const PointerEvent& event) {
+  const bool menu = event.button == MouseButton::Right;
+  if (!documents_.currentMap() || (event.ctrl && !menu)) return false;
+  const Busy busy(busy_);
+  door_.perform({.name = "Select"}, [&] {
+    return menu ? Clicks::selectForMenu(context(view), event) : clicks_.select(context(view), event);
+  });
+  return menu;
 }
 
 void ViewInput::wheel(int view, const PointerEvent& event, int notches) {
-  if (!documents_.currentMap() || pointer_.drag()) return;
+  if (busy_ || !documents_.currentMap() || pointer_.drag() || !services_.settings.wheel_zoom) return;
+  if (view == kCameraView) {
+    door_.perform({.name = ""}, [&] { return FlyBy(context(view), notches); });
+    return;
+  }
   const Outcome outcome = ZoomAt(context(view), event.at, notches);
   if (outcome.redraw != Redraw::None) door_.show(outcome);
 }
 
 void ViewInput::cancel() {
+  press_.reset();
   if (!pointer_.drag()) return;
-  pointer_.cancel(context(pointer_.view()));
+  const int view = pointer_.view();
+  pointer_.cancel(context(view));
+  views_.plans.planCenter = centreBefore_;
+  stopDragMotions();
   door_.cancelDrag();
+}
+
+void ViewInput::focusLost() {
+  if (busy_) return;
+  held_.clear();
+  flight_.stop();
+  press_.reset();
+  if (pointer_.drag()) drop(pointer_.lastEvent());
+}
+
+bool ViewInput::dragKey(DragKey key) {
+  if (busy_ || !pointer_.drag()) return false;
+  const Settings& settings = services_.settings;
+  if (key == DragKey::Escape) {
+    if (!settings.cancel_drags) return false;
+    cancel();
+    return true;
+  }
+  if (!settings.drag_arrows) return false;
+  if (pointer_.drag()->goesByPixels()) return true;
+  const Busy busy(busy_);
+  const int view = pointer_.view();
+  const double step = view == kCameraView ? kTextureStep : std::max(1, settings.gridsize);
+  ViewPoint by;
+  if (key == DragKey::Left || key == DragKey::Right) by.u = key == DragKey::Right ? step : -step;
+  if (key == DragKey::Up || key == DragKey::Down) by.v = key == DragKey::Up ? step : -step;
+  if (press_) press_->moved = true;
+  dragAlong([&] { return pointer_.nudge(context(view), by); });
+  return true;
 }
 
 }  // namespace velk

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "camera/flight.h"
 #include "camera/wire.h"
 
 namespace velk {
@@ -74,6 +75,14 @@ FacePick Views::pickInCamera(Pixel at) {
 brush* Views::pickInWire(Pixel at, int reach) {
   map* m = documents_.currentMap();
   return m ? PickWireBrush({cameraWidth, cameraHeight}, *m, settings_, lens, at, reach) : nullptr;
+}
+
+vec3 Views::beyondInCamera(Pixel at) const {
+  constexpr double kFar = 32767;
+  const RenderSize size = renderSize();
+  const double x = (at.x + 0.5) * size.width / std::max(1, cameraWidth);
+  const double y = (at.y + 0.5) * size.height / std::max(1, cameraHeight);
+  return PointBefore(documents_.currentMap()->activeCamera(), size.width, size.height, x, y, kFar);
 }
 
 bool Views::centre(Centre how) {

@@ -43,6 +43,8 @@ class Views {
   FacePick pickInCamera(Pixel at);
   // The same in the wire picture: the brush with an edge within so many pixels.
   brush* pickInWire(Pixel at, int reach);
+  // A point of the world far beyond what the flat or textured picture shows at a pixel; a map must be open.
+  vec3 beyondInCamera(Pixel at) const;
   // The wad whose palette the views are drawn in; none when nothing was loaded.
   const Wad* paletteWad() const;
 

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "commands/dispatch.h"
+#include "commands/views/view_menu.h"
 #include "planview/view_steps.h"
 
 namespace velk {
@@ -36,6 +37,9 @@ const StripMenuRow kStripMenus[] = {
 
 std::optional<Menu> ContextMenu(Editor& editor, const std::string& name) {
   if (Panel* panel = editor.panels().named(name)) return panel->contextMenu();
+  for (int view = 0; view <= kCameraView; ++view) {
+    if (EqualNoCase(name, kViewNames[view])) return ViewMenu(editor, view);
+  }
   for (int view = 0; view < kPlanViews; ++view) {
     for (const StripMenuRow& row : kStripMenus) {
       if (!EqualNoCase(name, StripMenuName(view, row.field))) continue;

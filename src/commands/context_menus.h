@@ -1,5 +1,5 @@
-// The context menus by name: those of the tool windows (as Panels names them) and of the plan views' header
-// strips ("XY.grid", "XZ.scale", "YZ.camera").
+// The context menus by name: those of the tool windows (as Panels names them), of the views' pictures ("XY",
+// "3D") and of the plan views' header strips ("XY.grid", "XZ.scale", "YZ.camera").
 #pragma once
 
 #include <optional>

@@ -26,6 +26,10 @@ struct CameraPicks {
   std::function<FacePick(Pixel)> pickFace;
   // The brush with an edge within so many pixels in the wire picture.
   std::function<brush*(Pixel, int reach)> pickWire;
+  // A point of the world far beyond what a flat or textured picture shows at the pixel.
+  std::function<vec3(Pixel)> beyond;
+  // The face under the press, which the tools are tried on; none in the wire picture.
+  FacePick under = {};
 };
 
 // What tools work on: a map and the view that the mouse is in.
@@ -79,6 +83,10 @@ class Drag {
   // Whether every new pixel is a step, as where the view itself moves, rather than every new point of the
   // map.
   virtual bool goesByPixels() const { return false; }
+  // Whether its way is read out in the view's header strip.
+  virtual bool readsOut() const { return false; }
+  // Whether a press and release in one place does something, so that it is no mere click.
+  virtual bool actsUnmoved(const DragState& /*state*/) const { return false; }
   // A step that moved nothing, after snapping, does not come here.
   virtual Outcome move(const MouseContext& context, const DragState& state) = 0;
   virtual Outcome finish(const MouseContext& /*context*/, const DragState& /*state*/) { return {}; }

@@ -5,12 +5,14 @@
 
 #include "base/text.h"
 #include "mouse/camera/camera_clicks.h"
+#include "mouse/camera/look_drag.h"
 #include "mouse/camera/texture_drag.h"
 #include "mouse/plan/brush_drag.h"
 #include "mouse/plan/camera_direction.h"
 #include "mouse/plan/camera_drag.h"
 #include "mouse/plan/clip_points.h"
 #include "mouse/plan/face_drag.h"
+#include "mouse/plan/marquee.h"
 #include "mouse/plan/move_camera.h"
 #include "mouse/plan/new_brush.h"
 #include "mouse/plan/plan_clicks.h"
@@ -21,41 +23,56 @@
 namespace velk {
 namespace {
 
+constexpr char kFlightKeys[] = "W A S D move, Q and E sink and rise, SHIFT is faster";
+
 constexpr MouseOperation kPlan[] = {
-    {"CAMERADIRECTION", kCameraDirectionCode, StartCameraDirection},
-    {"NEWBRUSH", kNewBrushCode, StartNewBrush},
-    {"ROTATE", kRotateCode, StartRotate},
+    {"CAMERADIRECTION", kCameraDirectionCode, StartCameraDirection, "Turning the camera"},
+    {"NEWBRUSH", kNewBrushCode, StartNewBrush, "Drawing a brush"},
+    {"ROTATE", kRotateCode, StartRotate, "Turning the selection"},
     {"SELECT", 4, SelectClick},
-    {"CAMERADRAG", kCameraDragCode, StartCameraDrag},
+    {"CAMERADRAG", kCameraDragCode, StartCameraDrag, "Moving a camera"},
     {"ADDCLIPPOINT", 6, AddClipPointClick},
     {"TEXTUREBRUSH", 7, TextureBrushClick},
     {"TEXTUREFACE", 8, TextureFaceClick},
-    {"FACEDRAG", kFaceDragCode, StartFaceDrag},
-    {"BRUSHDRAG", kBrushDragCode, StartBrushDrag},
-    {"CURFACEDRAG", kCurrentFaceDragCode, StartCurrentFaceDrag},
-    {"SHEAR", kShearCode, StartShear},
-    {"VERTEXDRAG", kVertexDragCode, StartVertexDrag},
+    {"FACEDRAG", kFaceDragCode, StartFaceDrag, "Dragging faces"},
+    {"BRUSHDRAG", kBrushDragCode, StartBrushDrag, "Moving the selection"},
+    {"CURFACEDRAG", kCurrentFaceDragCode, StartCurrentFaceDrag, "Dragging the current face"},
+    {"SHEAR", kShearCode, StartShear, "Shearing"},
+    {"VERTEXDRAG", kVertexDragCode, StartVertexDrag, "Dragging a corner"},
     {"ENTITYCONNECT", 14, EntityConnectClick},
-    {"CLIPPOINTDRAG", kClipPointDragCode, StartClipPointDrag},
-    {"CLIPPLANEDRAG", kClipPlaneDragCode, StartClipPlaneDrag},
+    {"CLIPPOINTDRAG", kClipPointDragCode, StartClipPointDrag, "Moving a clip point"},
+    {"CLIPPLANEDRAG", kClipPlaneDragCode, StartClipPlaneDrag, "Moving the clip plane"},
     {"MOVECAMERA", 17, MoveCameraClick},
+    {"MARQUEE", kMarqueeCode, StartMarquee, "Selecting by a rectangle",
+     "to the right what it encloses, to the left what it touches"},
 };
 
 constexpr MouseOperation kCamera[] = {
-    {"SHIFT_TEXTURE", kShiftTextureCode, StartShiftTexture},
-    {"STRETCH_TEXTURE", kStretchTextureCode, StartStretchTexture},
-    {"ROTATE_TEXTURE", kRotateTextureCode, StartRotateTexture},
-    {"SELECT", 4, CameraSelectClick},
-    {"APPLYCURTEXTOBRUSH", 7, ApplyToBrushClick},
-    {"APPLYCURTEXTOFACE", 8, ApplyToFaceClick},
-    {"LIFTTEX", 24, LiftTextureClick},
-    {"LIFT&APPLY", 25, LiftAndApplyClick},
+    {"SHIFT_TEXTURE", kShiftTextureCode, StartShiftTexture, "Shifting the texture"},
+    {"STRETCH_TEXTURE", kStretchTextureCode, StartStretchTexture, "Stretching the texture"},
+    {"ROTATE_TEXTURE", kRotateTextureCode, StartRotateTexture, "Turning the texture"},
+    {"SELECT", kCameraSelectCode, CameraSelectClick},
+    {"APPLYCURTEXTOBRUSH", kApplyToBrushCode, ApplyToBrushClick},
+    {"APPLYCURTEXTOFACE", kApplyToFaceCode, ApplyToFaceClick},
+    {"LIFTTEX", kLiftTextureCode, LiftTextureClick},
+    {"LIFT&APPLY", kLiftAndApplyCode, LiftAndApplyClick},
+    {"LOOK", kLookCode, StartLook, "Looking around", kFlightKeys},
+    {"PAN", kPanCode, StartPan, "Sliding", kFlightKeys},
+    {"FLY", kFlyCode, StartFly, "Flying", kFlightKeys},
 };
 
 const MouseOperation* Find(std::span<const MouseOperation> operations, std::string_view name) {
   const auto found =
       std::ranges::find_if(operations, [&](const MouseOperation& o) { return EqualNoCase(o.name, name); });
   return found == operations.end() ? nullptr : &*found;
+}
+
+// The face becomes its brush's current one.
+FacePick PickUnder(const MouseContext& context, const PointerEvent& event) {
+  if (context.settings.drawmode == 0 || !context.camera.pickFace) return {};
+  const FacePick pick = context.camera.pickFace(event.at);
+  if (pick.hit) pick.hit->setCurrentFace(pick.face);
+  return pick;
 }
 
 }  // namespace
@@ -68,16 +85,42 @@ int lookupOperation(std::span<const MouseOperation> operations, std::string_view
   return found ? found->code : 0;
 }
 
+const MouseOperation* OperationOf(std::span<const MouseOperation> operations, int code) {
+  const auto found = std::ranges::find(operations, code, &MouseOperation::code);
+  return found == operations.end() ? nullptr : &*found;
+}
+
+std::string HintOf(const MouseOperation& operation, const Settings& settings) {
+  if (!*operation.doing) return "";
+  const bool textures = operation.start == StartShiftTexture || operation.start == StartStretchTexture ||
+                        operation.start == StartRotateTexture;
+  std::vector<std::string> keys;
+  if (*operation.keys) keys.emplace_back(operation.keys);
+  if (settings.drag_clone && operation.start == StartBrushDrag) keys.emplace_back("CTRL leaves a copy");
+  if (settings.drag_arrows && operation.keys != kFlightKeys) {
+    keys.emplace_back(textures ? "arrow keys go by one step" : "arrow keys go by the grid");
+  }
+  if (settings.cancel_drags) keys.emplace_back("Esc cancels");
+  if (keys.empty()) return "";
+  std::string hint = std::string(operation.doing) + ": ";
+  for (size_t i = 0; i < keys.size(); ++i) hint += (i > 0 ? ", " : "") + keys[i];
+  return hint;
+}
+
 ToolStart StartBound(const MouseBindings& bindings, std::span<const MouseOperation> operations,
                      const MouseContext& context, const PointerEvent& event) {
   ToolStart start;
   const MouseBinding* binding = bindings.find(event.button, ModifiersOf(event));
   if (!binding) return start;
+  MouseContext tried = context;
+  const MouseOperation* first = Find(operations, binding->names.front());
+  if (context.inCamera() && !(first && first->code >= kOwnOperations))
+    tried.camera.under = PickUnder(context, event);
   for (const std::string& name : binding->names) {
     const MouseOperation* operation = Find(operations, name);
     if (!operation) break;
     std::string status = std::move(start.outcome.status);
-    start = operation->start(context, event);
+    start = operation->start(tried, event);
     if (start.outcome.status.empty()) start.outcome.status = std::move(status);
     if (start.claimed) break;
   }

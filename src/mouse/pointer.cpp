@@ -7,9 +7,11 @@ namespace {
 
 ViewPoint Minus(ViewPoint a, ViewPoint b) { return {a.u - b.u, a.v - b.v}; }
 
-ViewPoint PointAt(const MouseContext& context, const Drag& drag, Pixel at) {
+ViewPoint Plus(ViewPoint a, ViewPoint b) { return {a.u + b.u, a.v + b.v}; }
+
+ViewPoint PointAt(const MouseContext& context, const Drag& drag, Pixel at, ViewPoint nudged = {}) {
   if (context.inCamera()) return {};
-  const ViewPoint point = context.projection().screenToWorld(at);
+  const ViewPoint point = Plus(context.projection().screenToWorld(at), nudged);
   return drag.snaps() ? snapToGrid(point, context.settings) : point;
 }
 
@@ -22,11 +24,13 @@ Outcome Pointer::press(const MouseContext& context, const PointerEvent& event) {
     started = start(context, event);
     if (started.claimed) break;
   }
+  claimed_ = started.claimed;
   undoName_ = started.drag ? started.drag->undoName() : started.undoName;
   if (!started.drag) return started.outcome;
   drag_ = std::move(started.drag);
   view_ = context.view;
   state_ = {};
+  nudged_ = {};
   state_.press = state_.now = event;
   state_.start = state_.current = PointAt(context, *drag_, event.at);
   if (!context.inCamera()) {
@@ -42,9 +46,10 @@ bool Pointer::follow(const MouseContext& context, const PointerEvent& event) {
   const MouseButton button = state_.press.button;
   state_.now = event;
   state_.now.button = button;
-  const bool moved = !(before == event.at);
+  if (context.inCamera()) state_.now.at = {event.at.x + int(nudged_.u), event.at.y - int(nudged_.v)};
+  const bool moved = !(before == state_.now.at);
   if (context.inCamera()) return moved;
-  state_.current = PointAt(context, *drag_, event.at);
+  state_.current = PointAt(context, *drag_, event.at, nudged_);
   const ViewPoint total = Minus(state_.current, state_.start);
   if (drag_->goesByPixels() ? !moved : total.u == state_.total.u && total.v == state_.total.v) return false;
   state_.step = Minus(total, state_.total);
@@ -54,7 +59,25 @@ bool Pointer::follow(const MouseContext& context, const PointerEvent& event) {
 
 Outcome Pointer::move(const MouseContext& context, const PointerEvent& event) {
   if (!drag_ || !follow(context, event)) return {};
-  return drag_->move(context, state_);
+  Outcome outcome = drag_->move(context, state_);
+  if (!context.inCamera() && drag_->readsOut() && context.plans.dragReadout) {
+    context.plan().deltaText = DeltaText(state_.total);
+    outcome.redraw = outcome.redraw | Redraw::Strips;
+  }
+  return outcome;
+}
+
+PointerEvent Pointer::lastEvent() const {
+  PointerEvent event = state_.now;
+  if (view_ == kCameraView) event.at = {event.at.x - int(nudged_.u), event.at.y + int(nudged_.v)};
+  return event;
+}
+
+Outcome Pointer::nudge(const MouseContext& context, ViewPoint by) {
+  if (!drag_) return {};
+  const PointerEvent still = lastEvent();
+  nudged_ = Plus(nudged_, by);
+  return move(context, still);
 }
 
 void Pointer::end(const MouseContext& context) {
@@ -70,6 +93,7 @@ Outcome Pointer::release(const MouseContext& context, const PointerEvent& event)
   Outcome outcome = move(context, event);
   Outcome finished = drag_->finish(context, state_);
   finished.redraw = finished.redraw | outcome.redraw | Redraw::Strips;
+  finished.groups = finished.groups || drag_->readsOut();
   if (finished.status.empty()) finished.status = std::move(outcome.status);
   end(context);
   return finished;

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
+#include "camera/flight.h"
 #include "planview/view_steps.h"
 
 namespace velk {
 namespace {
 
-constexpr int kViewDragCode = 100;  // beyond the codes of the bound operations
+constexpr int kViewDragCode = 200;  // beyond the codes of the bound operations
 constexpr int kAllSteps = 11;       // from one end of the scale to the other
 
 // Moves planCenter so that `world` is shown at the pixel.
@@ -59,6 +60,13 @@ Outcome ZoomAt(const MouseContext& context, Pixel at, int notches) {
     outcome.status = notches > 0 ? ScaleUp(context.settings) : ScaleDown(context.settings);
     PinUnder(context, world, at);
   }
+  return outcome;
+}
+
+Outcome FlyBy(const MouseContext& context, int notches) {
+  MoveBy(context.model.activeCamera(), 0, 0, double(notches) * context.settings.stepsize);
+  Outcome outcome = Outcome::Drawn(Redraw::All);
+  outcome.centre = Centre::Follow;
   return outcome;
 }
 

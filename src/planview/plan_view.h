@@ -66,8 +66,9 @@ struct PlanView {
 struct PlanViewSet {
   std::array<PlanView, kPlanViews> views{PlanView(kOrientationXY), PlanView(kOrientationXZ),
                                          PlanView(kOrientationYZ)};
-  int current = 0;  // the view that commands address, 0..2
-  vec3 planCenter;  // the world point in the middle of every view
+  int current = 0;          // the view that commands address, 0..2
+  vec3 planCenter;          // the world point in the middle of every view
+  bool dragReadout = true;  // the way of a drag stands in its view's header strip
 
   PlanView& currentView() { return views[static_cast<size_t>(current)]; }
   const PlanView& currentView() const { return views[static_cast<size_t>(current)]; }

@@ -9,6 +9,7 @@
 #include "commands/context_menus.h"
 #include "commands/dispatch.h"
 #include "commands/key_stroke.h"
+#include "commands/views/view_keys.h"
 #include "documents/disk_check.h"
 #include "documents/opening.h"
 #include "script/script_print.h"
@@ -78,11 +79,12 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"answer", 1, 99, "answer TEXT", &ScriptRunner::answer},
       {"set", 2, 99, "set FIELD VALUE", &ScriptRunner::set},
       {"key", 1, 1, "key TEXT", &ScriptRunner::key},
+      {"hold", 1, 8, "hold MILLISECONDS [SHIFT] [KEY...]", &ScriptRunner::hold},
       {"map", 1, 1, "map N", &ScriptRunner::showMap},
       {"size", 3, 3, "size VIEW W H", &ScriptRunner::size},
       {"press", 4, 7, "press VIEW BUTTON X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::press},
-      {"move", 3, 3, "move VIEW X Y", &ScriptRunner::move},
-      {"release", 3, 3, "release VIEW X Y", &ScriptRunner::release},
+      {"move", 3, 6, "move VIEW X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::move},
+      {"release", 3, 6, "release VIEW X Y [SHIFT] [CTRL] [ALT]", &ScriptRunner::release},
       {"wheel", 4, 4, "wheel VIEW STEPS X Y", &ScriptRunner::wheel},
       {"print", 1, 3, "print WHAT", &ScriptRunner::print},
       {"menu", 2, 2, "menu WINDOW LABEL", &ScriptRunner::menu},
@@ -165,9 +167,33 @@ void ScriptRunner::set(const Words& words) {
 }
 
 void ScriptRunner::key(const Words& words) {
-  const Command* command = CommandForStroke(ParseKeyStroke(words[0].text));
+  const KeyStroke stroke = ParseKeyStroke(words[0].text);
+  if (GiveKeyToDrag(editor_, stroke)) return;
+  const Command* command = CommandForStroke(stroke);
   if (!command) throw ScriptFailure("no command on the key " + words[0].text);
   RunEnabled(editor_, *command, words[0].text, true);
+}
+
+// In steps as long as a window's.
+void ScriptRunner::hold(const Words& words) {
+  constexpr int kLongest = 60000;
+  constexpr int kTicksASecond = 60;
+  const int time = ScriptNumber(words[0]);
+  if (time < 0 || time > kLongest) throw ScriptFailure("held for 0 to 60000 milliseconds");
+  bool fast = false;
+  std::vector<KeyStroke> held;
+  for (size_t i = 1; i < words.size(); ++i) {
+    if (EqualNoCase(words[i].text, "SHIFT")) {
+      fast = true;
+      continue;
+    }
+    held.push_back(ParseKeyStroke(words[i].text));
+    if (!GiveKeyToViews(editor_, held.back())) throw ScriptFailure(words[i].text + " does nothing when held");
+  }
+  for (int i = time * kTicksASecond / 1000; i > 0 && editor_.input().wantsTicks(); --i) {
+    editor_.input().tick(1.0 / kTicksASecond, fast);
+  }
+  for (const KeyStroke& stroke : held) LetGoInViews(editor_, stroke);
 }
 
 void ScriptRunner::showMap(const Words& words) {
@@ -196,22 +222,27 @@ void ScriptRunner::press(const Words& words) {
   editor_.input().press(view, held_);
 }
 
+// Modifiers besides those of the press.
+void ScriptRunner::moveTo(const Words& words) {
+  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
+  for (size_t i = 3; i < words.size(); ++i) SetModifier(held_, words[i]);
+}
+
 void ScriptRunner::move(const Words& words) {
   const int view = ScriptViewNamed(words[0].text);
-  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
+  moveTo(words);
   editor_.input().move(view, held_);
 }
 
 void ScriptRunner::release(const Words& words) {
   const int view = ScriptViewNamed(words[0].text);
-  held_.at = {ScriptNumber(words[1]), ScriptNumber(words[2])};
+  moveTo(words);
   editor_.input().release(view, held_);
   held_ = {};
 }
 
 void ScriptRunner::wheel(const Words& words) {
   const int view = ScriptViewNamed(words[0].text);
-  if (view == kCameraView) throw ScriptFailure("the wheel works in plan views");
   PointerEvent event;
   event.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
   editor_.input().wheel(view, event, ScriptNumber(words[1]));

@@ -58,9 +58,11 @@ class ScriptRunner {
   void answer(const Words& words);
   void set(const Words& words);
   void key(const Words& words);
+  void hold(const Words& words);
   void showMap(const Words& words);
   void size(const Words& words);
   void press(const Words& words);
+  void moveTo(const Words& words);
   void move(const Words& words);
   void release(const Words& words);
   void wheel(const Words& words);

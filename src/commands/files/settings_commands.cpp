@@ -41,6 +41,19 @@ void FillIn(Editor& editor, Form form, StoreSettings store, const char* failure)
   });
 }
 
+// None of a damaged file.
+std::vector<std::string> SetupNames(const MouseBindings* bindings) {
+  std::vector<std::string> names;
+  if (!bindings) return names;
+  for (const MouseSetup& setup : bindings->setups) names.push_back(setup.name);
+  return names;
+}
+
+// A list without a choice keeps its setup.
+void Choose(MouseBindings* bindings, int setup) {
+  if (bindings && setup >= 0 && setup < static_cast<int>(bindings->setups.size())) bindings->current = setup;
+}
+
 }  // namespace
 
 Outcome AskPreferences(Editor& editor) {
@@ -59,10 +72,15 @@ Outcome AskDirectories(Editor& editor) {
   return Outcome::Drawn(Redraw::All, "Directories set...");
 }
 
-// No bindings are read yet: both lists are empty.
 Outcome AskMouseSettings(Editor& editor) {
-  Form form = MouseForm({}, 0, {}, 0);
-  editor.services().prompts.fill(form);
+  MouseBindings* plan = editor.input().bindings(0);
+  MouseBindings* camera = editor.input().bindings(kCameraView);
+  Form form =
+      MouseForm(SetupNames(plan), plan ? plan->current : 0, SetupNames(camera), camera ? camera->current : 0);
+  if (editor.services().prompts.fill(form) != FormAnswer::Cancel) {
+    Choose(plan, form.whole("XY"));
+    Choose(camera, form.whole("3D"));
+  }
   return Outcome::Said("Mouse settings changed...");
 }
 

@@ -44,6 +44,15 @@ Outcome ToggleOutline(Editor& editor) {
   return Toggle(editor, &Settings::outline, Redraw::Camera, "Outline toggled...");
 }
 
+// The flag belongs to the map window, not to the settings.
+Outcome ToggleReadout(Editor& editor) {
+  bool& readout = editor.views().plans.dragReadout;
+  readout = !readout;
+  return MapOpen(editor) ? Outcome::Drawn(Redraw::Strips, "Drag readout toggled...") : Outcome{};
+}
+
+bool ReadsOut(const Editor& editor) { return editor.views().plans.dragReadout; }
+
 Outcome SetView(Editor& editor, std::string (*step)(Settings&)) {
   return Outcome::Drawn(Redraw::Plans, step(editor.settings()));
 }
@@ -109,6 +118,8 @@ const Command kRows[] = {
     {.id = 156, .name = "CM_TOGGLE_COORDINATES", .menu = "&Display|&Show", .label = "C&oordinates",
      .keyText = "Ctrl-Alt-Shift-C", .keys = "Ctrl+Alt+Shift+C", .hint = "Show coordinates on grid",
      .enabled = MapOpen, .checked = Holds<IsOn, &Settings::show_coordinates>, .run = ToggleCoordinates},
+    {.id = 1300, .name = "CM_TOGGLE_READOUT", .menu = "&Display|&Show", .label = "&Drag Readout",
+     .hint = "Show how far a drag has gone", .enabled = MapOpen, .checked = ReadsOut, .run = ToggleReadout},
     {.id = 150, .name = "CM_GRID_MODE", .menu = "&Display|&Show", .label = "&Grid", .keyText = "Alt-G",
      .keys = "Alt+G", .hint = "Turn grid on or off", .enabled = MapOpen, .checked = Holds<IsOn, &Settings::show_grid>,
      .run = With<SetView, velk::ToggleGrid>},

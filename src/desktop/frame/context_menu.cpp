@@ -2,6 +2,7 @@
 
 #include <QMenu>
 
+#include "commands/context_menus.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -20,6 +21,11 @@ void ShowMenu(const Menu& menu, QWidget& owner, const QPoint& at) {
     if (item.run) QObject::connect(action, &QAction::triggered, &owner, item.run);
   }
   popup.exec(owner.mapToGlobal(at));
+}
+
+void ShowViewMenu(Editor& editor, int view, QWidget& owner, Pixel at) {
+  const auto menu = ContextMenu(editor, kViewNames[view]);
+  if (menu && !menu->empty()) ShowMenu(*menu, owner, QPoint(at.x, at.y));
 }
 
 }  // namespace velk

@@ -3,8 +3,6 @@
 #include <array>
 #include <utility>
 
-#include "commands/key_stroke.h"
-
 namespace velk {
 namespace {
 
@@ -44,14 +42,14 @@ void SetKey(KeyStroke& stroke, int key) {
 
 }  // namespace
 
-const Command* CommandForKey(const QKeyEvent& event) {
+KeyStroke StrokeOf(const QKeyEvent& event) {
   KeyStroke stroke;
   stroke.numPad = event.modifiers().testFlag(Qt::KeypadModifier);
   stroke.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   stroke.alt = event.modifiers().testFlag(Qt::AltModifier);
   stroke.shift = event.modifiers().testFlag(Qt::ShiftModifier);
   SetKey(stroke, event.key());
-  return CommandForStroke(stroke);
+  return stroke;
 }
 
 }  // namespace velk

@@ -3,11 +3,10 @@
 
 #include <QKeyEvent>
 
-#include "commands/command.h"
+#include "commands/key_stroke.h"
 
 namespace velk {
 
-// The command that the key gives, or none.
-const Command* CommandForKey(const QKeyEvent& event);
+KeyStroke StrokeOf(const QKeyEvent& event);
 
 }  // namespace velk

@@ -17,6 +17,7 @@
 
 #include "commands/dispatch.h"
 #include "commands/files/named_files.h"
+#include "commands/views/view_keys.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/frame_state.h"
 #include "desktop/frame/keys.h"
@@ -108,6 +109,7 @@ void TVelkWindow::buildWindows() {
   camera_ = new TCameraWindow(editor_);
   children_->add(ToolWindow::Camera, camera_);
   await(ToolWindow::Groups, "The groups of the map come here.");
+  clock_ = new InputClock(editor_.input(), *this);
   children_->setBars(bars_);
   editor_.windows().setWindows(*children_);
 }
@@ -132,6 +134,7 @@ void TVelkWindow::keepState() {
   keepsState_ = true;
   RestoreFrame(*this, editor_.place().stateFile());
   editor_.attend();
+  editor_.input().readBindings();
   watch_ = new FileWatch(editor_, *this);
   // The session may end the program without closing the frame.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
@@ -187,17 +190,29 @@ bool TVelkWindow::leftToMenus(const QKeyEvent& key, const Command& command) cons
   return idle || !CanRun(editor_, command);
 }
 
+// Keys that a drag takes, or that move the camera while they are held, are no commands.
+bool TVelkWindow::viewsTake(const QKeyEvent& key, bool pressed) {
+  const KeyStroke stroke = StrokeOf(key);
+  if (!ViewsWantKey(editor_, stroke)) return false;
+  return !pressed || GiveKeyToViews(editor_, stroke);
+}
+
 bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == this && event->type() == QEvent::WindowDeactivate) editor_.input().focusLost();
   const bool override = event->type() == QEvent::ShortcutOverride;
-  if (!override && event->type() != QEvent::KeyPress) return false;
+  const bool released = event->type() == QEvent::KeyRelease;
+  if (!override && !released && event->type() != QEvent::KeyPress) return false;
+  const auto& key = *static_cast<QKeyEvent*>(event);
+  // Wherever the focus is by now.
+  if (released && !key.isAutoRepeat()) LetGoInViews(editor_, StrokeOf(key));
   // Other windows keep their keys; one that was just shown may not have the focus yet.
   const auto* widget = qobject_cast<const QWidget*>(watched);
-  if (!widget || widget->window() != this || !takesKeys()) return false;
-  const auto& key = *static_cast<QKeyEvent*>(event);
-  const Command* command = CommandForKey(key);
-  if (!command || leftToMenus(key, *command)) return false;
+  if (released || !widget || widget->window() != this || !takesKeys()) return false;
+  const Command* command = CommandForStroke(StrokeOf(key));
+  const bool taken = viewsTake(key, !override);
+  if (!taken && (!command || leftToMenus(key, *command))) return false;
   event->accept();
-  if (!override) RunCommand(editor_, *command, true);
+  if (!override && !taken) RunCommand(editor_, *command, true);
   return true;
 }
 

@@ -16,6 +16,7 @@
 #include "desktop/windows/brush_window.h"
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/help_window.h"
+#include "desktop/windows/input_clock.h"
 #include "desktop/windows/plan_view_window.h"
 
 namespace velk {
@@ -59,6 +60,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void buildWindows();
   void rememberState() const;
   bool takesKeys() const;
+  bool viewsTake(const QKeyEvent& key, bool pressed);
   bool leftToMenus(const QKeyEvent& key, const Command& command) const;
 
   Editor editor_;
@@ -71,6 +73,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   TSelectedBrushWindow* brush_ = nullptr;
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
+  InputClock* clock_ = nullptr;
   ChildWindows* children_ = nullptr;
   std::vector<TVelkControlBar*> bars_;
   QTimer ticks_;

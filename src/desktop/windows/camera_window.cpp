@@ -5,6 +5,7 @@
 #include "camera/compass.h"
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/context_menu.h"
 #include "desktop/windows/pointer_events.h"
 #include "desktop/windows/qt_canvas.h"
 
@@ -110,7 +111,18 @@ void TCameraWindow::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TCameraWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.input().release(kCameraView, PointerEventOf(*event));
+  if (!IsEditorButton(event->button())) return;
+  const PointerEvent released = PointerEventOf(*event);
+  if (editor_.input().release(kCameraView, released)) ShowViewMenu(editor_, kCameraView, *this, released.at);
+}
+
+void TCameraWindow::wheelEvent(QWheelEvent* event) {
+  const int steps = wheel_.notches(*event);
+  if (steps != 0) {
+    editor_.input().wheel(kCameraView, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()),
+                          steps);
+  }
+  event->accept();
 }
 
 }  // namespace velk

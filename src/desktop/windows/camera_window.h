@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "app/editor.h"
+#include "desktop/windows/pointer_events.h"
 
 namespace velk {
 
@@ -26,11 +27,13 @@ class TCameraWindow : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   Editor& editor_;
   QImage picture_;
   bool stale_ = true;
+  WheelNotches wheel_;
 };
 
 // The picture of the camera view at the size it has in the editor.

@@ -13,8 +13,6 @@
 namespace velk {
 namespace {
 
-constexpr int kWheelStep = 120;  // eighths of a degree in one notch
-
 Colour ColourOf(const QColor& from) { return {from.red(), from.green(), from.blue()}; }
 
 StripColours StripColoursOf(const QPalette& palette) {
@@ -114,13 +112,13 @@ void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TXYViewWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.input().release(view_, PointerEventOf(*event));
+  if (!IsEditorButton(event->button())) return;
+  const PointerEvent released = PointerEventOf(*event);
+  if (editor_.input().release(view_, released)) ShowViewMenu(editor_, view_, *this, released.at);
 }
 
 void TXYViewWindow::wheelEvent(QWheelEvent* event) {
-  wheelRest_ += event->angleDelta().y();
-  const int steps = wheelRest_ / kWheelStep;
-  wheelRest_ -= steps * kWheelStep;
+  const int steps = wheel_.notches(*event);
   if (steps != 0) {
     editor_.input().wheel(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()), steps);
   }

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "app/editor.h"
+#include "desktop/windows/pointer_events.h"
 
 namespace velk {
 
@@ -39,7 +40,7 @@ class TXYViewWindow : public QWidget {
   QImage strip_;
   bool stale_ = true;
   bool stripStale_ = true;
-  int wheelRest_ = 0;  // eighths of a degree not yet turned into a step
+  WheelNotches wheel_;
 };
 
 // The picture of a plan view at the size it has in the editor.

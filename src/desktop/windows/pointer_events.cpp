@@ -17,6 +17,15 @@ PointerEvent PointerEventOf(const QMouseEvent& event) {
   return PointerEventOf(event.position(), event.button(), event.modifiers());
 }
 
+// With Alt held, Qt takes a wheel for one that turns sideways.
+int WheelNotches::notches(const QWheelEvent& event) {
+  constexpr int kNotch = 120;
+  rest_ += event.angleDelta().y() != 0 ? event.angleDelta().y() : event.angleDelta().x();
+  const int whole = rest_ / kNotch;
+  rest_ -= whole * kNotch;
+  return whole;
+}
+
 bool IsEditorButton(Qt::MouseButton button) {
   return button == Qt::LeftButton || button == Qt::MiddleButton || button == Qt::RightButton;
 }

@@ -2,10 +2,11 @@
 
 #include <cstdlib>
 #include <numbers>
+#include <optional>
+#include <utility>
 
 #include "base/text.h"
 #include "camera/compass.h"
-#include "mouse/camera/face_under.h"
 #include "mouse/view_ray.h"
 
 namespace velk {
@@ -15,11 +16,35 @@ constexpr int kCompassReach = 31;  // a press is nearer to its centre than this 
 constexpr int kCompassMiddle = 2;  // and not nearer than this on both
 constexpr int kWireReach = 8;      // of a press to an edge of the wire picture, pixels
 
-ToolStart Done(Redraw redraw, const char* status, const char* undoName = "") {
+// A click acts at the press and runs until the release, which says what it did.
+class HeldClick : public Drag {
+ public:
+  HeldClick(int code, const char* undoName, Outcome atRelease)
+      : code_(code), undoName_(undoName), atRelease_(std::move(atRelease)) {}
+
+  int code() const override { return code_; }
+  const char* undoName() const override { return undoName_; }
+  bool actsUnmoved(const DragState& /*state*/) const override { return true; }
+  Outcome move(const MouseContext& /*context*/, const DragState& /*state*/) override { return {}; }
+  Outcome finish(const MouseContext& /*context*/, const DragState& /*state*/) override { return atRelease_; }
+  void cancel(const MouseContext& context) override {
+    if (lifted_ && context.texture) context.texture->setCurrent(*lifted_);
+  }
+
+  void restoreOnCancel(const texturedef& before) { lifted_ = before; }
+
+ private:
+  int code_;
+  const char* undoName_;
+  Outcome atRelease_;
+  std::optional<texturedef> lifted_;  // the texture browser's choice before it took another
+};
+
+ToolStart Held(int code, Redraw redraw, const char* status, const char* undoName = "") {
   ToolStart start;
   start.claimed = true;
-  start.undoName = undoName;
-  start.outcome = Outcome::Drawn(redraw, status);
+  start.drag = std::make_unique<HeldClick>(code, undoName, Outcome::Drawn(redraw, status));
+  start.outcome = Outcome::Drawn(redraw);
   return start;
 }
 
@@ -47,17 +72,20 @@ bool Toggle(const MouseContext& context, const FacePick& pick) {
 }
 
 FacePick BrushUnder(const MouseContext& context, const PointerEvent& event) {
-  if (context.settings.drawmode != 0) return FaceUnder(context, event);
+  if (context.settings.drawmode != 0) return context.camera.under;
   brush* hit = context.camera.pickWire ? context.camera.pickWire(event.at, kWireReach) : nullptr;
   return {hit, hit ? hit->currentFace() : -1};
 }
 
-// False when there is no texture under the press.
-bool Lift(const MouseContext& context, const PointerEvent& event) {
-  const FacePick pick = FaceUnder(context, event);
-  if (!pick.hit || pick.face < 0 || !context.texture) return false;
+// Lifts the texture under the press, when there is one.
+ToolStart Lift(const MouseContext& context, int code, const char* status, const char* undoName = "") {
+  const FacePick& pick = context.camera.under;
+  if (!pick.hit || pick.face < 0 || !context.texture) return {};
+  ToolStart start = Held(code, Redraw::Camera, status, undoName);
+  static_cast<HeldClick&>(*start.drag).restoreOnCancel(context.texture->current());
   context.texture->liftTexture(TextureOf(pick), context.textures);
-  return true;
+  start.outcome.textures = true;
+  return start;
 }
 
 void ApplyToSelected(map& m, const texturedef& texture) {
@@ -74,46 +102,41 @@ void ApplyToSelected(map& m, const texturedef& texture) {
 
 ToolStart CameraSelectClick(const MouseContext& context, const PointerEvent& event) {
   const FacePick pick = BrushUnder(context, event);
-  ToolStart start = Done(Redraw::All, "Select / Deselect");
+  ToolStart start = Held(kCameraSelectCode, Redraw::All, "Select / Deselect");
   if (pick.hit) start.outcome.textures = Toggle(context, pick);
   return start;
 }
 
-ToolStart ApplyToBrushClick(const MouseContext& context, const PointerEvent& event) {
-  const FacePick pick = FaceUnder(context, event);
+ToolStart ApplyToBrushClick(const MouseContext& context, const PointerEvent& /*event*/) {
+  const FacePick& pick = context.camera.under;
   if (!pick.hit || !context.texture) return {};
   if (pick.hit->owner->isModel) {
     if (context.saveUndo) context.saveUndo("Texture Brush", UndoMode::Working, pick.hit);
     pick.hit->setAllTexturedefs(context.texture->current());
     context.model.modified = true;
   }
-  return Done(Redraw::Camera, "Current texture applied to brush...", "Texture Brush");
+  return Held(kApplyToBrushCode, Redraw::Camera, "Current texture applied to brush...", "Texture Brush");
 }
 
-ToolStart ApplyToFaceClick(const MouseContext& context, const PointerEvent& event) {
-  const FacePick pick = FaceUnder(context, event);
+ToolStart ApplyToFaceClick(const MouseContext& context, const PointerEvent& /*event*/) {
+  const FacePick& pick = context.camera.under;
   if (!pick.hit || !context.texture) return {};
   if (pick.hit->owner->isModel && pick.face >= 0) {
     if (context.saveUndo) context.saveUndo("Texture Face", UndoMode::Working, pick.hit);
     pick.hit->setTexturedef(context.texture->current(), pick.face);
     context.model.modified = true;
   }
-  return Done(Redraw::Camera, "Current texture applied to face...", "Texture Face");
+  return Held(kApplyToFaceCode, Redraw::Camera, "Current texture applied to face...", "Texture Face");
 }
 
-ToolStart LiftTextureClick(const MouseContext& context, const PointerEvent& event) {
-  if (!Lift(context, event)) return {};
-  ToolStart start = Done(Redraw::Camera, "Texture lifted...");
-  start.outcome.textures = true;
-  return start;
+ToolStart LiftTextureClick(const MouseContext& context, const PointerEvent& /*event*/) {
+  return Lift(context, kLiftTextureCode, "Texture lifted...");
 }
 
-ToolStart LiftAndApplyClick(const MouseContext& context, const PointerEvent& event) {
-  if (!Lift(context, event)) return {};
-  ApplyToSelected(context.model, context.texture->current());
+ToolStart LiftAndApplyClick(const MouseContext& context, const PointerEvent& /*event*/) {
   ToolStart start =
-      Done(Redraw::Camera, "Texture lifted and applied to selected brushes...", "Texture Brush");
-  start.outcome.textures = true;
+      Lift(context, kLiftAndApplyCode, "Texture lifted and applied to selected brushes...", "Texture Brush");
+  if (start.claimed) ApplyToSelected(context.model, context.texture->current());
   return start;
 }
 
@@ -128,7 +151,10 @@ ToolStart CompassClick(const MouseContext& context, const PointerEvent& event) {
   const double step = 360.0 / context.settings.steps_per_turn;
   const double turned = Truncate(degrees / step) * step;
   context.model.activeCamera().yaw = float(turned * (1.0 / 180) * std::numbers::pi);
-  return Done(Redraw::All, Format("Angle set to [%i]...", Truncate(turned)).c_str());
+  ToolStart start;
+  start.claimed = true;
+  start.outcome = Outcome::Drawn(Redraw::All, Format("Angle set to [%i]...", Truncate(turned)));
+  return start;
 }
 
 }  // namespace velk

@@ -5,6 +5,12 @@
 
 namespace velk {
 
+inline constexpr int kCameraSelectCode = 4;
+inline constexpr int kApplyToBrushCode = 7;
+inline constexpr int kApplyToFaceCode = 8;
+inline constexpr int kLiftTextureCode = 24;
+inline constexpr int kLiftAndApplyCode = 25;
+
 // Selects or deselects the brush under the press, in the wire picture by its edges.
 ToolStart CameraSelectClick(const MouseContext& context, const PointerEvent& event);
 ToolStart ApplyToBrushClick(const MouseContext& context, const PointerEvent& event);

@@ -2,7 +2,6 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "mouse/camera/face_under.h"
 #include "mouse/view_ray.h"
 
 namespace velk {
@@ -71,9 +70,9 @@ class TextureDrag : public Drag {
   Pixel total_{0, 0};
 };
 
-ToolStart Start(const MouseContext& context, const PointerEvent& event, int code, const char* undoName) {
+ToolStart Start(const MouseContext& context, int code, const char* undoName) {
   ToolStart start;
-  const FacePick pick = FaceUnder(context, event);
+  const FacePick& pick = context.camera.under;
   if (!pick.hit || pick.face < 0) return start;
   if (context.saveUndo) context.saveUndo(undoName, UndoMode::Working, pick.hit);
   start.claimed = true;
@@ -83,16 +82,16 @@ ToolStart Start(const MouseContext& context, const PointerEvent& event, int code
 
 }  // namespace
 
-ToolStart StartShiftTexture(const MouseContext& context, const PointerEvent& event) {
-  return Start(context, event, kShiftTextureCode, "Shift Texture");
+ToolStart StartShiftTexture(const MouseContext& context, const PointerEvent& /*event*/) {
+  return Start(context, kShiftTextureCode, "Shift Texture");
 }
 
-ToolStart StartStretchTexture(const MouseContext& context, const PointerEvent& event) {
-  return Start(context, event, kStretchTextureCode, "Stretch Texture");
+ToolStart StartStretchTexture(const MouseContext& context, const PointerEvent& /*event*/) {
+  return Start(context, kStretchTextureCode, "Stretch Texture");
 }
 
-ToolStart StartRotateTexture(const MouseContext& context, const PointerEvent& event) {
-  return Start(context, event, kRotateTextureCode, "Rotate Texture");
+ToolStart StartRotateTexture(const MouseContext& context, const PointerEvent& /*event*/) {
+  return Start(context, kRotateTextureCode, "Rotate Texture");
 }
 
 }  // namespace velk

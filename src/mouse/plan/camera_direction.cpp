@@ -2,6 +2,7 @@
 
 #include <numbers>
 
+#include "camera/flight.h"
 #include "mouse/view_ray.h"
 
 namespace velk {
@@ -12,9 +13,11 @@ class CameraDirection : public Drag {
   explicit CameraDirection(ViewPoint at) : at_(at) {}
 
   int code() const override { return kCameraDirectionCode; }
+  bool readsOut() const override { return true; }
   const char* undoName() const override { return "Turn Camera"; }
 
   Outcome move(const MouseContext& context, const DragState& state) override {
+    if (context.settings.careful_tools) return lookAlong(context, state.total);
     at_ = {at_.u + state.step.u, at_.v + state.step.v};
     const PlanView& view = context.plan();
     const vec3& centre = context.plans.planCenter;
@@ -28,6 +31,13 @@ class CameraDirection : public Drag {
   }
 
  private:
+  // From the press to the cursor, in the plane of any view.
+  static Outcome lookAlong(const MouseContext& context, ViewPoint way) {
+    if (way.u == 0 && way.v == 0) return {};
+    LookAlong(context.model.activeCamera(), InWorld(context.plan(), way, 0));
+    return Outcome::Drawn(Redraw::All);
+  }
+
   ViewPoint at_;
 };
 

@@ -1,4 +1,5 @@
-// Turning the active camera by the way the mouse goes, in a view from above.
+// Turning the active camera by the way the mouse goes, in a view from above; with careful tools to where the
+// mouse goes from the press, in every view.
 #pragma once
 
 #include "mouse/drag.h"

@@ -16,15 +16,21 @@ class CameraDrag : public Drag {
   CameraDrag(int index, bool numbered) : index_(index), numbered_(numbered) {}
 
   int code() const override { return kCameraDragCode; }
+  bool readsOut() const override { return true; }
+  bool actsUnmoved(const DragState& state) const override { return state.press.button != MouseButton::Right; }
   const char* undoName() const override { return "Move Camera"; }
   Outcome move(const MouseContext& /*context*/, const DragState& /*state*/) override {
+    moved_ = true;
     return Outcome::Drawn(Redraw::Plans);
   }
 
   Outcome finish(const MouseContext& context, const DragState& state) override {
     const PlanView& view = context.plan();
     camera& moved = context.model.cameras[static_cast<size_t>(index_)];
-    moved.origin = InWorld(view, PointUnder(context, state.now), moved.origin[view.axisDepth]);
+    // A click makes it the active one; by the letter it moves to where it was clicked.
+    if (moved_ || !context.settings.careful_tools) {
+      moved.origin = InWorld(view, state.current, moved.origin[view.axisDepth]);
+    }
     context.model.currentCamera = index_;
     return Outcome::Drawn(Redraw::All);
   }
@@ -38,6 +44,7 @@ class CameraDrag : public Drag {
  private:
   int index_;
   bool numbered_;
+  bool moved_ = false;
 };
 
 // The first camera whose marker holds the point; -1 for none.

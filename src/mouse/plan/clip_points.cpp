@@ -13,6 +13,10 @@ class ClipPointDrag : public Drag {
   ClipPointDrag(ClipDrag drag, int code) : drag_(std::move(drag)), code_(code) {}
 
   int code() const override { return code_; }
+  // The point became the current one.
+  bool actsUnmoved(const DragState& state) const override {
+    return code_ == kClipPointDragCode && state.press.button != MouseButton::Right;
+  }
   Outcome move(const MouseContext& context, const DragState& state) override {
     drag_.move(context.model.clip, state.total.u, state.total.v);
     return Outcome::Drawn(Redraw::All);

@@ -1,6 +1,7 @@
 #include "mouse/plan/face_drag.h"
 
 #include <cmath>
+#include <optional>
 
 #include "mouse/plan/point_drag.h"
 #include "mouse/view_ray.h"
@@ -12,6 +13,17 @@ constexpr PointDragKind kFacing{kFaceDragCode, "Drag XY Face", true};
 constexpr PointDragKind kCurrent{kCurrentFaceDragCode, "Drag Current Face", true};
 constexpr double kPointDepth = 2048;
 
+// Which faces look at the press is asked of a point far before the brush, with careful tools in the depth of
+// its middle: then a face that leans does not count where the brush itself is under the press. None there.
+std::optional<vec3> PointOf(const MouseContext& context, const brush& b, ViewPoint press) {
+  const PlanView& view = context.plan();
+  if (!context.settings.careful_tools) return InWorld(view, press, kPointDepth);
+  const PickRay ray = RayAt(view, press);
+  if (!b.invalid && b.hitByRay(ray.start, ray.end).t >= 0) return std::nullopt;
+  const int axis = view.axisDepth;
+  return InWorld(view, press, (double(b.mins[axis]) + b.maxs[axis]) / 2);
+}
+
 }  // namespace
 
 ToolStart StartFaceDrag(const MouseContext& context, const PointerEvent& event) {
@@ -19,13 +31,14 @@ ToolStart StartFaceDrag(const MouseContext& context, const PointerEvent& event) 
   if (!b) return {};
   BeginPointDrag(context, kFacing);
   const PlanView& view = context.plan();
-  const vec3 at = InWorld(view, PointUnder(context, event), kPointDepth);
+  const std::optional<vec3> at = PointOf(context, *b, PointUnder(context, event));
+  if (!at) return {};
   std::vector<PlanePoint> points;
   for (int i = 0; i < b->numfaces(); ++i) {
     const face& f = b->faces()[static_cast<size_t>(i)];
     if (!f.polygon) continue;
     if (std::fabs(f.facePlane.normal[view.axisDepth]) > context.settings.face_drag_percent) continue;
-    if (dot(f.facePlane.normal, at) - f.facePlane.dist <= 0) continue;
+    if (dot(f.facePlane.normal, *at) - f.facePlane.dist <= 0) continue;
     b->setCurrentFace(i);
     AddFacePoints(points, i);
   }

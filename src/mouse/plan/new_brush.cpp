@@ -19,6 +19,7 @@ class NewBrushDrag : public Drag {
       : made_(made), first_(first), second_(second) {}
 
   int code() const override { return kNewBrushCode; }
+  bool readsOut() const override { return true; }
   const char* undoName() const override { return "New Brush"; }
   bool snaps() const override { return true; }
 

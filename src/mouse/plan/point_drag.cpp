@@ -15,6 +15,7 @@ class PointDrag : public Drag {
       : dragged_(b), points_(std::move(points)), kind_(kind) {}
 
   int code() const override { return kind_.code; }
+  bool readsOut() const override { return true; }
   const char* undoName() const override { return kind_.undoName; }
   bool snaps() const override { return kind_.snaps; }
 

@@ -16,12 +16,14 @@ class RotateDrag : public Drag {
   RotateDrag(const vec3& centre, double startAngle) : centre_(centre), startAngle_(startAngle) {}
 
   int code() const override { return kRotateCode; }
+  bool readsOut() const override { return true; }
   const char* undoName() const override { return kRotateTitle; }
 
   Outcome move(const MouseContext& context, const DragState& state) override {
     const PlanView& view = context.plan();
     const double angle =
         DirectionAngle(state.current.u - centre_[view.axisU], state.current.v - centre_[view.axisV]);
+    readout_ = context.plans.dragReadout;
     degrees_ = Truncate((startAngle_ - angle) * 180 * (1 / 3.141592653589793));
     originals_.clear();
     VisitBrushes(context.model, BrushFilter::Every, [&](brush& b) {
@@ -38,6 +40,7 @@ class RotateDrag : public Drag {
   }
 
   void draw(const DragState& state, Overlay& overlay) const override {
+    if (!readout_) return;
     overlay.texts.push_back({{state.now.at.x - kTextLeft, state.now.at.y}, Format("%i deg.", degrees_)});
   }
 
@@ -57,6 +60,7 @@ class RotateDrag : public Drag {
   vec3 centre_;
   double startAngle_;  // radians
   int degrees_ = 0;
+  bool readout_ = false;
   std::vector<std::unique_ptr<brush>> copies_;
   std::vector<brush*> originals_;  // of the copies, in their order
 };
