@@ -25,7 +25,8 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .strip = strip,
           .groupName = {},
           .leakPoints = {},
-          .preview = dragPreview};
+          .preview = dragPreview,
+          .ghosts = ghosts};
 }
 
 RenderScene Views::cameraScene() {
@@ -35,6 +36,11 @@ RenderScene Views::cameraScene() {
           .assets = assets_,
           .lens = lens,
           .preview = {}};
+}
+
+RenderScene Views::sceneOf(map& m, const Settings& settings) {
+  refreshAssets();
+  return {.model = m, .settings = settings, .assets = assets_, .lens = {}, .preview = {}};
 }
 
 const Wad* Views::paletteWad() const {
