@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "makers/arch.h"
 #include "makers/box.h"
@@ -29,6 +30,8 @@ struct Remembered {
   std::array<double, 3> scale{1, 1, 1};
   std::array<double, 3> copyOffset{16, 16, 0};
   bool moveOnly = false;
+  // The last copy, move, turn or generator, with its values; empty before the first.
+  std::function<Outcome(map&)> lastChange;
 };
 
 }  // namespace velk

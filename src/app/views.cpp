@@ -26,7 +26,8 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .strip = strip,
           .groupName = {},
           .leakPoints = {},
-          .preview = dragPreview};
+          .preview = dragPreview,
+          .ghosts = ghosts};
 }
 
 RenderScene Views::cameraScene() {
@@ -36,6 +37,11 @@ RenderScene Views::cameraScene() {
           .assets = assets_,
           .lens = lens,
           .preview = {}};
+}
+
+RenderScene Views::sceneOf(map& m, const Settings& settings) {
+  refreshAssets();
+  return {.model = m, .settings = settings, .assets = assets_, .lens = {}, .preview = {}};
 }
 
 const Wad* Views::paletteWad() const {

@@ -22,6 +22,8 @@ class Views {
   WireLens lens;
   // The copy that a running drag shows in place of a brush, or none.
   std::function<const brush*(const brush&)> dragPreview;
+  // What an open dialog would make: drawn over the map, and no part of it.
+  std::vector<std::unique_ptr<brush>> ghosts;
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -35,6 +37,8 @@ class Views {
   PlanScene planScene(const StripColours& strip) const;
   // The same for the camera view's picture, until the next call; a map must be open.
   RenderScene cameraScene();
+  // The same of a map beside the open ones, with settings of its own.
+  RenderScene sceneOf(map& m, const Settings& settings);
   // The picture's size in the camera view as it is.
   RenderSize renderSize() const;
   // Draws the picture of the flat and textured modes. Without a map nothing happens.

@@ -2,6 +2,7 @@
 // queue.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,6 +38,8 @@ struct TextInput {
   std::string prompt;
   std::string text;  // preset
   int maxLength = 127;
+  // Called when the box opens and after every change of its text; may be empty.
+  std::function<void(const std::string&)> changed{};
 };
 
 struct ColourChooser {

@@ -40,6 +40,8 @@ struct Command {
   std::string (*labelNow)(const Editor&) = nullptr;  // in place of the label
   bool saysWhy = false;                              // runs even when disabled, to say why it refuses
   Handler run = {};                                  // none: not built yet
+  const char* undoName = nullptr;                    // of its undo level; none: the plain label
+  bool classicUndo = false;                          // the classic single level is kept of it
   const char* caption = nullptr;                     // of the box that says why it failed
   const char* failure = nullptr;                     // what that box says first
   const char* reason = "";                           // why there is no handler

@@ -31,7 +31,8 @@ std::string LabelOf(const Editor& editor, const Command& command) {
 
 bool RunCommand(Editor& editor, const Command& command, bool byKey) {
   if (!CanRun(editor, command)) return false;
-  Change change{.name = PlainLabel(command), .byKey = byKey};
+  Change change{.name = command.undoName ? command.undoName : PlainLabel(command), .byKey = byKey};
+  if (command.classicUndo) change.classic = UndoMode::Selection;
   if (command.caption) change.caption = command.caption;
   if (command.failure) change.failure = command.failure;
   return editor.door().perform(change, [&] {

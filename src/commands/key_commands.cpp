@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "commands/command_tables.h"
 #include "commands/editing/hit_commands.h"
+#include "commands/editing/repeat.h"
 #include "commands/editing/transform_commands.h"
 #include "commands/making/maker_commands.h"
 #include "commands/views/camera_handlers.h"
@@ -14,20 +15,22 @@ namespace {
 
 Outcome RedrawAll(Editor&, map&) { return Outcome::Drawn(Redraw::All, "Redrawing..."); }
 
-Outcome Move(map& m, const vec3& offset, std::string text) {
-  MoveSelection(m, offset);
-  return Outcome::Drawn(Redraw::All, std::move(text));
+Outcome Move(Editor& editor, map& m, const vec3& offset, std::string text) {
+  return RunRepeatably(editor, m, [offset, text = std::move(text)](map& now) {
+    MoveSelection(now, offset);
+    return Outcome::Drawn(Redraw::All, text);
+  });
 }
 
 Outcome NudgeSelection(Editor& editor, map& m, Nudge direction) {
   const PlanView& view = editor.views().plans.currentView();
-  return Move(m, NudgeOffset(view, direction, editor.settings()), NudgeText(direction));
+  return Move(editor, m, NudgeOffset(view, direction, editor.settings()), NudgeText(direction));
 }
 
 Outcome MoveSelectionByStep(Editor& editor, map& m, int axis, int sign) {
   vec3 offset;
   offset[axis] = static_cast<float>(sign * Truncate(editor.settings().stepsize));
-  return Move(m, offset, Format("%c%s", "XYZ"[axis], sign > 0 ? "Up" : "Down"));
+  return Move(editor, m, offset, Format("%c%s", "XYZ"[axis], sign > 0 ? "Up" : "Down"));
 }
 
 Outcome SelectCamera(Editor&, map& m, int number) { return velk::SelectCamera(m, number); }

@@ -54,9 +54,8 @@ Door::Open Door::begin(const Change& change) {
   open.document = documents_.current();
   if (!open.document) return open;
   MapDocument& document = *open.document;
-  if (change.classic) {
-    document.history.save(document.model, change.name, *change.classic,
-                          History::Limits::of(services_.settings), change.working);
+  if (change.classic && services_.settings.undo_levels <= 1) {
+    open.classic = History::copyOf(document.model, *change.classic);
   }
   open.before = TakeSnapshot(document.model);
   if (!document.saved) document.saved = open.before;
@@ -90,10 +89,12 @@ bool Door::keepLevel(Open& open) {
   History& history = open.document->history;
   if (history.undoCount() != open.undoCount || history.redoCount() != open.redoCount) return true;
   if (SameContents(*open.before, TakeSnapshot(open.document->model))) return false;
-  if (services_.settings.undo_levels <= 1) return true;
-  if (!joinsLast(open)) {
-    history.changed(std::move(*open.before), open.change.name, History::Limits::of(services_.settings));
+  const History::Limits limits = History::Limits::of(services_.settings);
+  if (limits.levels <= 1) {
+    if (open.classic) history.keep(std::move(*open.classic), open.change.name, limits);
+    return true;
   }
+  if (!joinsLast(open)) history.changed(std::move(*open.before), open.change.name, limits);
   lastDocument_ = open.document;
   lastTime_ = now();
   return true;

@@ -17,9 +17,8 @@ struct Change {
   const char* caption = "Velk Error...";  // of the box that says why it failed
   std::string failure = {};               // what that box says first
   bool byKey = false;                     // a key that is held: repeats within a second are one level
-  // The classic single level is saved only by the operations that say so.
+  // The classic single level is kept only of the changes that say so.
   std::optional<UndoMode> classic = {};
-  brush* working = nullptr;  // the brush of UndoMode::Working
 };
 
 class Door {
@@ -66,6 +65,7 @@ class Door {
     Change change;
     MapDocument* document = nullptr;  // none without a map
     std::optional<MapSnapshot> before;
+    std::optional<History::Copy> classic;
     entity* currentEntity = nullptr;
     int undoCount = 0;
     int redoCount = 0;

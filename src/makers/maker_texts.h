@@ -21,6 +21,8 @@ struct MakerField {
 // Beside the pictures of stairs and arches.
 inline constexpr const char* kPictureButtons[] = {"Reset View", "Left",    "Right",  "In",    "Out",
                                                   "Pitch +",    "Pitch -", "Roll +", "Roll -"};
+inline constexpr const char* kArchPictureButtons[] = {"Reset View", "Pitch +", "Pitch -", "Roll +", "Roll -",
+                                                      "Left",       "Right",   "In",      "Out"};
 inline constexpr const char* kPictureHint = "Left mouse = rotate preview  / Shift-Left mouse = move in/out";
 
 }  // namespace velk

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "base/error.h"
-#include "makers/solid.h"
+#include "ops/solids/solid.h"
 
 namespace velk {
 namespace {
@@ -13,6 +13,11 @@ namespace {
 constexpr int kMostTries = 16 * MAX_ENTITY_BRUSHES;
 // Points farther away belong to no brush that is valid, and planes through them may not be numbers.
 constexpr float kFarthestPoint = 2147483648.0f;
+
+// Cubic units; what has less is flat.
+constexpr double kLeastVolume = 0.1;
+
+bool IsBody(const brush& b) { return IsSolid(b) && Volume(b) >= kLeastVolume && IsClosed(b); }
 
 bool InReach(std::span<const FacePoints> faces) {
   for (const FacePoints& points : faces) {
@@ -68,7 +73,7 @@ void Pieces::addSolid(std::span<const FacePoints> faces) {
 }
 
 void Pieces::keep(std::unique_ptr<brush> b) {
-  const bool wanted = keeping_ == Keeping::All || (keeping_ == Keeping::Valid ? !b->invalid : IsSolid(*b));
+  const bool wanted = keeping_ == Keeping::All || (keeping_ == Keeping::Valid ? !b->invalid : IsBody(*b));
   if (wanted) {
     made_.brushes.push_back(std::move(b));
   } else {

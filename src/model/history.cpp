@@ -86,9 +86,9 @@ void History::limit(const Limits& limits) {
   }
 }
 
-void History::save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working) {
-  if (limits.levels > 1 && mode != UndoMode::All) return;
-  Record record{.name = name, .whole = nullptr, .one = nullptr, .groups = nullptr};
+History::Copy History::copyOf(map& m, UndoMode mode, brush* working) {
+  Copy copy;
+  Record& record = copy.record_;
   if (mode == UndoMode::Groups) {
     record.groups = std::make_unique<GroupList>(m.groups);
   } else if (brush* one = BrushFor(m, mode, working)) {
@@ -96,8 +96,17 @@ void History::save(map& m, const std::string& name, UndoMode mode, const Limits&
   } else {
     record.whole = std::make_unique<MapSnapshot>(TakeSnapshot(m));
   }
-  push(std::move(record), limits);
+  return copy;
+}
+
+void History::keep(Copy copy, const std::string& name, const Limits& limits) {
+  copy.record_.name = name;
+  push(std::move(copy.record_), limits);
   close();
+}
+
+void History::save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working) {
+  if (limits.levels <= 1 || mode == UndoMode::All) keep(copyOf(m, mode, working), name, limits);
 }
 
 void History::changed(MapSnapshot before, const std::string& name, const Limits& limits) {

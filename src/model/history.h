@@ -31,8 +31,14 @@ class History {
     static Limits of(const Settings& settings) { return {settings.undo_levels, settings.undo_megabytes}; }
   };
 
+  // A copy of what is about to change, to be kept when it did.
+  class Copy;
+  // `working` is the camera view's brush, if any.
+  static Copy copyOf(map& m, UndoMode mode, brush* working = nullptr);
+  void keep(Copy copy, const std::string& name, const Limits& limits);
+
   // Saves a copy before a change. With more than one level only explicit copies (All) are kept here, since
-  // every change takes its own. `working` is the camera view's brush, if any.
+  // every change takes its own.
   void save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working = nullptr);
   // Keeps what the map was before a change; what could be redone is gone. Beyond the limits the oldest go.
   void changed(MapSnapshot before, const std::string& name, const Limits& limits);
@@ -92,6 +98,11 @@ class History {
   std::deque<Record> records_;
   std::vector<Record> redo_;
   bool open_ = false;
+};
+
+class History::Copy {
+  friend class History;
+  Record record_;
 };
 
 }  // namespace velk

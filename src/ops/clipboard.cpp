@@ -30,11 +30,6 @@ std::unique_ptr<brush> CopyInto(entity& owner, const brush& b, const vec3& offse
   return copy;
 }
 
-bool AnySelected(const entity& e) {
-  const auto brushes = e.brushes();
-  return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected(); });
-}
-
 void DropDanglingTargets(map& clipboard) {
   std::unordered_map<std::string, int> named;  // entities, by targetname in upper case
   for (const entity& e : clipboard.entities()) ++named[UpperCase(e.valueOfKey("targetname"))];
@@ -52,6 +47,11 @@ void Renumber(entity& e, const char* key, std::int64_t base) {
 }
 
 }  // namespace
+
+bool AnySelected(const entity& e) {
+  const auto brushes = e.brushes();
+  return std::any_of(brushes.begin(), brushes.end(), [](const brush& b) { return b.selected(); });
+}
 
 vec3 PasteOffset(const Settings& settings) {
   const auto step = [&](int delta) { return float(delta != 0 ? delta : settings.gridsize); };

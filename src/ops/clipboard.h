@@ -8,6 +8,8 @@ namespace velk {
 // Where copies go: the clone offsets of the settings, the grid size in place of 0; z is 0.
 vec3 PasteOffset(const Settings& settings);
 
+bool AnySelected(const entity& e);
+
 // Fills an empty clipboard with the selected brushes of the world and every other entity whose first brush
 // is selected, all selected. Targets that are not copied with their entity are dropped from the copies.
 void CopySelection(map& from, map& clipboard);

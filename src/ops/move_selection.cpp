@@ -2,6 +2,7 @@
 
 #include "model/visit.h"
 #include "ops/clipboard.h"
+#include "ops/solids/split_by_face.h"
 #include "ops/transform.h"
 
 namespace velk {
@@ -19,6 +20,19 @@ Outcome CopyMoveSelection(map& m, const vec3& offset, bool moveOnly) {
   }
   CloneSelection(m, offset);
   return Outcome::Drawn(Redraw::All, kCopiedSelection);
+}
+
+std::vector<std::unique_ptr<brush>> MovedCopies(map& m, const vec3& offset, bool moveOnly) {
+  std::vector<std::unique_ptr<brush>> copies;
+  for (const entity& e : m.entities()) {
+    const bool whole = !moveOnly && !e.isWorld() && AnySelected(e);
+    for (const brush& b : e.brushes()) {
+      if (!whole && !(b.selected() && (!moveOnly || m.passesGroupFilter(b)))) continue;
+      copies.push_back(FreshCopy(b));
+      copies.back()->translate(offset);
+    }
+  }
+  return copies;
 }
 
 Outcome DeleteSelection(map& m) {

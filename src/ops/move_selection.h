@@ -1,6 +1,9 @@
 // Moving, copying and deleting the selection.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "base/outcome.h"
 #include "model/map.h"
 
@@ -21,6 +24,8 @@ void MoveSelection(map& m, const vec3& offset);
 // they were copied from. Without a selection says so. A map or entity that has no room for the clones is
 // fatal as CloneSelection is.
 Outcome CopyMoveSelection(map& m, const vec3& offset, bool moveOnly);
+// Copies of what that would put there, in no list.
+std::vector<std::unique_ptr<brush>> MovedCopies(map& m, const vec3& offset, bool moveOnly);
 
 // Destroys the selected brushes of visible groups, entities other than the world with their last brush.
 Outcome DeleteSelection(map& m);

@@ -49,17 +49,28 @@ void Replace(map& m, const Seed& seed, std::vector<std::unique_ptr<brush>> parts
   if (!seedFirst) DestroyBrush(*seed.at);
 }
 
-// `shape` turns the bounds into those of the new box.
+// `shape` turns the bounds of the brush into those of the box.
+template <typename Shape>
+std::unique_ptr<brush> BoxFor(const map& m, const Seed& seed, Shape&& shape) {
+  vec3 mins = seed.at->mins;
+  vec3 maxs = seed.at->maxs;
+  shape(mins, maxs);
+  std::unique_ptr<brush> box = SelectedPart(m, seed);
+  box->setBox(mins, maxs, seed.at->brushTexture());
+  return box;
+}
+
+auto HeightOf(int height) {
+  return [height](vec3& mins, vec3& maxs) { maxs.z = float(double(mins.z) + height); };
+}
+
+// Puts the box in the place of the brush.
 template <typename Shape>
 Outcome ReplaceByBox(map& m, bool careful, const char* status, Shape&& shape) {
   const Seed seed = TakeSeed(m, careful);
   if (!seed.at) return seed.refusal;
-  vec3 mins = seed.at->mins;
-  vec3 maxs = seed.at->maxs;
-  shape(mins, maxs);
   std::vector<std::unique_ptr<brush>> parts;
-  std::unique_ptr<brush> box = SelectedPart(m, seed);
-  box->setBox(mins, maxs, seed.at->brushTexture());
+  std::unique_ptr<brush> box = BoxFor(m, seed, shape);
   if (!box->invalid) parts.push_back(std::move(box));
   if (!parts.empty() || !careful) Replace(m, seed, std::move(parts));
   return Outcome::Drawn(Redraw::All, status);
@@ -135,12 +146,18 @@ Outcome MakeShort(map& m, bool careful) {
 
 Outcome SetHeight(map& m, int height, bool careful) {
   if (height < 1) return Outcome::Said(kBadHeight);
-  return ReplaceByBox(m, careful, kHeightSet,
-                      [height](vec3& mins, vec3& maxs) { maxs.z = float(double(mins.z) + height); });
+  return ReplaceByBox(m, careful, kHeightSet, HeightOf(height));
+}
+
+std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height) {
+  std::vector<std::unique_ptr<brush>> boxes;
+  const Seed seed = TakeSeed(m, false);
+  if (seed.at && height >= 1) boxes.push_back(BoxFor(m, seed, HeightOf(height)));
+  return boxes;
 }
 
 Outcome ExtrudeSelection(map& m, int thickness, bool careful) {
-  if (thickness < kThinnestWall || thickness > kThickestWall) return {};
+  if (!IsWallThickness(thickness)) return {};
   const Seed seed = TakeSeed(m, careful);
   if (!seed.at) return seed.refusal;
   Slabs slabs = MakeSlabs(m, seed, thickness, careful);
@@ -149,6 +166,12 @@ Outcome ExtrudeSelection(map& m, int thickness, bool careful) {
   if (careful && slabs.leftOut > 0) status += Format(kLeftOut, slabs.leftOut);
   Replace(m, seed, std::move(slabs.valid));
   return Outcome::Drawn(Redraw::All, status);
+}
+
+std::vector<std::unique_ptr<brush>> ExtrudedSlabs(map& m, int thickness, bool careful) {
+  const Seed seed = TakeSeed(m, careful);
+  return seed.at && IsWallThickness(thickness) ? MakeSlabs(m, seed, thickness, careful).valid
+                                               : std::vector<std::unique_ptr<brush>>{};
 }
 
 }  // namespace velk

@@ -1,6 +1,9 @@
 // Giving the one selected brush another shape: a tall, a short or an exact box, or a room around it.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "base/outcome.h"
 #include "model/map.h"
 
@@ -18,11 +21,13 @@ inline constexpr char kExtruding[] = "Extruding selected brush...";
 inline constexpr char kExtrudeNothing[] = "Nothing to extrude...";  // careful tools
 // Of careful tools, added to that: how many slabs came out invalid.
 inline constexpr char kLeftOut[] = " %i left out";
-// Of the wall thickness in world units.
+// Of walls of any kind, in world units: asked for with the query_wall_width setting, else the grid's size.
 inline constexpr char kWallTitle[] = "Set Wall Thickness";
 inline constexpr char kWallPrompt[] = "Enter wall thickness (1-1024)...";
 inline constexpr int kThinnestWall = 1;
 inline constexpr int kThickestWall = 1024;
+// Walls of other thicknesses are not made.
+inline bool IsWallThickness(int units) { return units >= kThinnestWall && units <= kThickestWall; }
 
 // What the input box of the height shows at first.
 int SuggestedHeight(const map& m);
@@ -34,10 +39,14 @@ int SuggestedHeight(const map& m);
 Outcome MakeTall(map& m, bool careful);
 Outcome MakeShort(map& m, bool careful);
 Outcome SetHeight(map& m, int height, bool careful);
+// The box that would come of it, in no list; none without one selected brush.
+std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height);
 
 // Puts a slab of that thickness on the outside of every face of the one selected brush, in place of the
 // brush, all selected. A thickness out of range does nothing. Careful: as above; slabs that come out invalid
 // are counted.
 Outcome ExtrudeSelection(map& m, int thickness, bool careful);
+// The slabs that it would put there, in no list.
+std::vector<std::unique_ptr<brush>> ExtrudedSlabs(map& m, int thickness, bool careful);
 
 }  // namespace velk

@@ -12,6 +12,7 @@ void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view) {
     if (settings.show_grid) DrawGrid(painter);
     DrawClipPoints(painter);
     DrawBrushes(painter);
+    DrawGhosts(painter);
     if (settings.connections) DrawConnections(painter);
     if (settings.show_hits) DrawHits(painter);
     if (settings.show_names) DrawNames(painter);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 
@@ -21,7 +22,11 @@ struct PlanScene {
   // The brush to draw in place of a selected one (a running drag's or the clipper's preview), valid until
   // the next call; none draws the brush itself. May be empty.
   std::function<const brush*(const brush&)> preview{};
+  std::span<const std::unique_ptr<brush>> ghosts{};  // drawn over the map
 };
+
+// Of brushes that are shown but not there.
+inline constexpr Colour kGhostColour{64, 208, 144};
 
 // Draws the whole view, header strip included, in its client size.
 void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view);

@@ -67,6 +67,7 @@ class ViewPainter {
 
 void DrawGrid(ViewPainter& painter);
 void DrawBrushes(ViewPainter& painter);
+void DrawGhosts(ViewPainter& painter);
 void DrawNames(ViewPainter& painter);
 void DrawHits(ViewPainter& painter);
 void DrawClipPoints(ViewPainter& painter);

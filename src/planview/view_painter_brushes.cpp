@@ -121,6 +121,15 @@ class BrushPainter {
 
 void DrawBrushes(ViewPainter& painter) { BrushPainter(painter).draw(); }
 
+void DrawGhosts(ViewPainter& painter) {
+  for (const std::unique_ptr<brush>& ghost : painter.scene.ghosts) {
+    if (!painter.sees(ghost->mins, ghost->maxs)) continue;
+    for (const face& f : ghost->faces()) {
+      if (f.polygon) painter.outline({kGhostColour, 1}, f.polygon->points(), f.polygon->count);
+    }
+  }
+}
+
 void DrawNames(ViewPainter& painter) {
   const int height = std::clamp(Truncate(12 * painter.projection.scale), 7, 18);
   for (const entity& e : painter.scene.shown->entities()) {

@@ -112,11 +112,14 @@ std::vector<std::string> ScriptPrompts::chooseFiles(const FileChooser& chooser) 
 }
 
 std::optional<std::string> ScriptPrompts::input(const TextInput& input) {
+  if (input.changed) input.changed(input.text);
   const Queued given = take("input", input.title, input.prompt);
   if (given.cancels()) return std::nullopt;
   std::string text;
   for (const std::string& word : given.words) text += (text.empty() ? "" : " ") + word;
-  return text.substr(0, static_cast<size_t>(std::max(0, input.maxLength)));
+  text = text.substr(0, static_cast<size_t>(std::max(0, input.maxLength)));
+  if (input.changed) input.changed(text);
+  return text;
 }
 
 std::optional<Colour> ScriptPrompts::chooseColour(const ColourChooser& chooser) {

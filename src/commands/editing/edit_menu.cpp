@@ -2,6 +2,9 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
+#include "commands/editing/leak_commands.h"
+#include "commands/editing/repeat.h"
+#include "commands/editing/solid_commands.h"
 #include "commands/editing/transform_commands.h"
 #include "ops/clipboard.h"
 #include "ops/move_selection.h"
@@ -64,8 +67,10 @@ Outcome Paste(Editor& editor, map& m) {
 }
 
 Outcome Clone(Editor& editor, map& m) {
-  CloneSelection(m, PasteOffset(editor.settings()));
-  return Outcome::Drawn(Redraw::All, "Selection cloned...");
+  return RunRepeatably(editor, m, [&editor](map& now) {
+    CloneSelection(now, PasteOffset(editor.settings()));
+    return Outcome::Drawn(Redraw::All, "Selection cloned...");
+  });
 }
 
 Outcome DeleteSelected(Editor&, map& m) { return DeleteSelection(m); }
@@ -94,6 +99,9 @@ const Command kRows[] = {
     {.id = 24324, .name = "CM_EDITPASTE", .menu = "&Edit", .label = "&Paste", .keyText = "Ctrl-V",
      .keys = "Ctrl+V", .hint = "Paste selection...", .enabled = MapOpen,
      .run = Paste, .caption = kCannotCopy, .failure = kNoRoom},
+    {.id = 1330, .name = "CM_REPEAT", .menu = "&Edit", .label = "Repea&t", .keyText = "Ctrl-Shift-R",
+     .keys = "Ctrl+Shift+R", .hint = "The last copy, move, turn or generator again", .enabled = RepeatKept,
+     .run = RepeatLast, .classicUndo = true, .caption = kCannotCopy, .failure = kNoRoom},
     {.id = 270, .name = "CM_DELETE", .menu = "&Edit", .label = "&Delete", .keyText = "-",
      .keys = "Ctrl+X Num-", .hint = "Delete selected brushes from world", .enabled = MapOpen,
      .run = DeleteSelected},
@@ -101,11 +109,40 @@ const Command kRows[] = {
      .label = "Subtract", .keyText = "F12",
      .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,
      .run = Subtract},
+    {.id = 1331, .name = "CM_HOLLOW", .menu = "&Edit", .label = "&Hollow",
+     .hint = "Make shells of the selected brushes, walls inwards", .enabled = MapOpen, .run = Hollow},
+    {.id = 1332, .name = "CM_MERGE_BRUSHES", .menu = "&Edit", .label = "Mer&ge",
+     .hint = "Make one brush of selected brushes that are convex together", .enabled = MapOpen, .run = Merge},
+    {.id = 1333, .name = "CM_INTERSECT", .menu = "&Edit", .label = "&Intersect",
+     .hint = "Keep what the selected brushes have in common", .enabled = MapOpen, .run = Intersect},
     {.id = 140, .name = "CM_SNAP_TO_GRID", .menu = "&Edit", .label = "Snap To Grid", .keyText = "Alt-S",
      .keys = "Alt+S", .hint = "Snap current brush(es) to grid...", .enabled = MapOpen,
      .run = SnapToGrid},
-    {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.",
-     .reason = "not built yet: the leak search"},
+    {.id = 1334, .name = "CM_FLATTEN", .menu = "&Edit", .label = "Flatten Faces to Grid",
+     .hint = "Round all plane points of the selection to whole numbers", .enabled = MapOpen, .run = Flatten},
+    {.id = 1340, .name = "CM_ALIGN_LEFT", .menu = "&Edit|&Align", .label = "&Left",
+     .hint = "Align the selected brushes at their lowest x", .enabled = MapOpen,
+     .run = With<Align, Alignment::Left>},
+    {.id = 1341, .name = "CM_ALIGN_RIGHT", .menu = "&Edit|&Align", .label = "&Right",
+     .hint = "Align the selected brushes at their highest x", .enabled = MapOpen,
+     .run = With<Align, Alignment::Right>},
+    {.id = 1342, .name = "CM_ALIGN_FRONT", .menu = "&Edit|&Align", .label = "&Front",
+     .hint = "Align the selected brushes at their lowest y", .enabled = MapOpen,
+     .run = With<Align, Alignment::Front>},
+    {.id = 1343, .name = "CM_ALIGN_BACK", .menu = "&Edit|&Align", .label = "Bac&k",
+     .hint = "Align the selected brushes at their highest y", .enabled = MapOpen,
+     .run = With<Align, Alignment::Back>},
+    {.id = 1344, .name = "CM_ALIGN_TOP", .menu = "&Edit|&Align", .label = "&Top",
+     .hint = "Align the selected brushes at their highest z", .enabled = MapOpen,
+     .run = With<Align, Alignment::Top>},
+    {.id = 1345, .name = "CM_ALIGN_BOTTOM", .menu = "&Edit|&Align", .label = "&Bottom",
+     .hint = "Align the selected brushes at their lowest z", .enabled = MapOpen,
+     .run = With<Align, Alignment::Bottom>},
+    {.id = 1346, .name = "CM_ALIGN_CENTRE", .menu = "&Edit|&Align", .label = "&Centre",
+     .hint = "Align the selected brushes in the middle of their bounds", .enabled = MapOpen,
+     .run = With<Align, Alignment::Centre>},
+    {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.", .enabled = MapOpen,
+     .run = SearchLeaks},
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #include "commands/editing/transform_commands.h"
 
 #include "base/text.h"
+#include "commands/editing/repeat.h"
 #include "commands/making/maker_commands.h"
 #include "ops/clip.h"
 #include "ops/move_selection.h"
@@ -16,17 +17,36 @@ bool Careful(const Editor& editor) { return editor.settings().careful_tools; }
 
 int DepthAxis(const Editor& editor) { return editor.views().plans.currentView().axisDepth; }
 
-// The classic single undo level is taken just before the change.
-void SaveClassic(Editor& editor, map& m, const char* name) {
-  editor.documents().current()->history.save(m, name, UndoMode::Selection,
-                                             History::Limits::of(editor.settings()));
+using Three = std::array<double, 3>;
+
+Three ThreeOf(const Form& form) {
+  Three values;
+  for (size_t i = 0; i < values.size(); ++i) values[i] = form.real(form.fields[i].name);
+  return values;
 }
 
+using MatrixOf = Matrix (*)(const Three& values);
+
+Matrix Rotation(const Three& angles) {
+  return RotationMatrix(Truncate(angles[0]), Truncate(angles[1]), Truncate(angles[2]));
+}
+
+Matrix Scaling(const Three& factors) { return ScaleMatrix(factors[0], factors[1], factors[2]); }
+
 // The numbers of a form with three of them; false on Cancel. They are remembered.
-bool AskThree(Editor& editor, Form form, std::array<double, 3>& values) {
-  if (editor.services().prompts.fill(form) == FormAnswer::Cancel) return false;
-  for (size_t i = 0; i < values.size(); ++i) values[i] = form.real(form.fields[i].name);
+bool AskThree(Editor& editor, map& m, Form form, Three& values, MatrixOf matrix) {
+  const vec3 pivot = SelectionPivot(m);
+  const auto ghosts = [&](const Form& now) {
+    return TransformedCopies(m, RoundedTransform(matrix(ThreeOf(now)), pivot, Careful(editor)));
+  };
+  if (!FillWithPreview(editor, form, ghosts)) return false;
+  values = ThreeOf(form);
   return true;
+}
+
+vec3 OffsetOf(const Form& form) {
+  const Three at = ThreeOf(form);
+  return {float(Truncate(at[0])), float(Truncate(at[1])), float(Truncate(at[2]))};
 }
 
 Form TitledForm(const char* title) {
@@ -37,28 +57,33 @@ Form TitledForm(const char* title) {
 
 }  // namespace
 
-Outcome MirrorOn(Editor& editor, map& m, int axis) { return MirrorSelection(m, axis, Careful(editor)); }
+Outcome MirrorOn(Editor& editor, map& m, int axis) {
+  return RunRepeatably(editor, m,
+                       [&editor, axis](map& now) { return MirrorSelection(now, axis, Careful(editor)); });
+}
 
 Outcome QuarterTurnOn(Editor& editor, map& m, int axis) {
-  return QuarterTurnSelection(m, axis, Careful(editor));
+  return RunRepeatably(
+      editor, m, [&editor, axis](map& now) { return QuarterTurnSelection(now, axis, Careful(editor)); });
 }
 
 Outcome AskRotate(Editor& editor, map& m) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  std::array<double, 3>& angles = editor.remembered().rotation;
+  Three& angles = editor.remembered().rotation;
   Form form = TitledForm(kRotateTitle);
   constexpr const char* kNames[] = {"roll", "pitch", "yaw"};
   for (size_t i = 0; i < 3; ++i) {
     form.fields.push_back(WholeField(kNames[i], kRotateFields[i], Truncate(angles[i])));
   }
-  if (!AskThree(editor, std::move(form), angles)) return {};
-  SaveClassic(editor, m, kRotateTitle);
-  return RotateSelection(m, Truncate(angles[0]), Truncate(angles[1]), Truncate(angles[2]), Careful(editor));
+  if (!AskThree(editor, m, std::move(form), angles, Rotation)) return {};
+  return RunRepeatably(editor, m, [&editor, by = angles](map& now) {
+    return RotateSelection(now, Truncate(by[0]), Truncate(by[1]), Truncate(by[2]), Careful(editor));
+  });
 }
 
 Outcome AskScale(Editor& editor, map& m) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  std::array<double, 3>& factors = editor.remembered().scale;
+  Three& factors = editor.remembered().scale;
   Form form = TitledForm(kScaleTitle);
   constexpr const char* kNames[] = {"x", "y", "z"};
   constexpr const char* kLabels[] = {"X Scale", "Y Scale", "Z Scale"};
@@ -66,8 +91,10 @@ Outcome AskScale(Editor& editor, map& m) {
   for (size_t i = 0; i < 3; ++i) {
     form.fields.push_back(RealField(kNames[i], kLabels[i], factors[i], range));
   }
-  if (!AskThree(editor, std::move(form), factors)) return Outcome::Said(kScaleCancelled);
-  return ScaleSelection(m, factors[0], factors[1], factors[2], Careful(editor));
+  if (!AskThree(editor, m, std::move(form), factors, Scaling)) return Outcome::Said(kScaleCancelled);
+  return RunRepeatably(editor, m, [&editor, by = factors](map& now) {
+    return ScaleSelection(now, by[0], by[1], by[2], Careful(editor));
+  });
 }
 
 Outcome AskCopyMove(Editor& editor, map& m) {
@@ -80,26 +107,27 @@ Outcome AskCopyMove(Editor& editor, map& m) {
     form.fields.push_back(WholeField(kNames[i], kLabels[i], Truncate(kept.copyOffset[i])));
   }
   form.fields.push_back(FlagField("move_only", "Move Only", kept.moveOnly));
-  if (editor.services().prompts.fill(form) == FormAnswer::Cancel) return Outcome::Said(kCopyMoveCancelled);
-  for (size_t i = 0; i < 3; ++i) kept.copyOffset[i] = form.whole(kNames[i]);
+  const auto ghosts = [&m](const Form& now) { return MovedCopies(m, OffsetOf(now), now.flag("move_only")); };
+  if (!FillWithPreview(editor, form, ghosts)) return Outcome::Said(kCopyMoveCancelled);
+  kept.copyOffset = ThreeOf(form);
   kept.moveOnly = form.flag("move_only");
-  const vec3 offset{float(kept.copyOffset[0]), float(kept.copyOffset[1]), float(kept.copyOffset[2])};
-  return CopyMoveSelection(m, offset, kept.moveOnly);
+  return RunRepeatably(editor, m, [by = OffsetOf(form), moves = kept.moveOnly](map& now) {
+    return CopyMoveSelection(now, by, moves);
+  });
 }
 
 Outcome AskHeight(Editor& editor, map& m) {
   if (m.totalSelected() != 1) return Outcome::Said(kMustHaveOneSelected);
-  const auto answer = editor.services().prompts.input(
-      {.title = kHeightTitle, .prompt = kHeightPrompt, .text = Format("%i", SuggestedHeight(m))});
-  if (!answer) return {};
-  const int height = TextToInt(*answer);
-  if (height >= 1) SaveClassic(editor, m, kHeightTitle);
-  return SetHeight(m, height, Careful(editor));
+  const auto answer = AskWithPreview(
+      editor, {.title = kHeightTitle, .prompt = kHeightPrompt, .text = Format("%i", SuggestedHeight(m))},
+      [&m](const std::string& text) { return BoxOfHeight(m, TextToInt(text)); });
+  return answer ? SetHeight(m, TextToInt(*answer), Careful(editor)) : Outcome{};
 }
 
 Outcome ExtrudeBrush(Editor& editor, map& m) {
   if (m.totalSelected() != 1) return Outcome::Said(kMustHaveOneSelected);
-  const auto thickness = WallThickness(editor);
+  const auto thickness =
+      WallThickness(editor, [&](int wanted) { return ExtrudedSlabs(m, wanted, Careful(editor)); });
   return thickness ? ExtrudeSelection(m, *thickness, Careful(editor)) : Outcome{};
 }
 

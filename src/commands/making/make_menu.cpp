@@ -2,6 +2,8 @@
 #include "commands/command_tables.h"
 #include "commands/editing/transform_commands.h"
 #include "commands/making/maker_commands.h"
+#include "ops/reshape.h"
+#include "ops/transform.h"
 
 namespace velk {
 namespace {
@@ -41,7 +43,7 @@ const Command kRows[] = {
      .hint = "Make current brush very small", .enabled = MapOpen, .run = ShortBrush},
     {.id = 203, .name = "CM_HEIGHT_BRUSH", .menu = "&Edit|&Make", .label = "Height...",
      .hint = "Make brush of specified height", .enabled = MapOpen,
-     .run = AskHeight},
+     .run = AskHeight, .undoName = kHeightTitle, .classicUndo = true},
     {.id = 168, .name = "CM_MAKE_ENTITY", .menu = "&Edit|&Make", .startsGroup = true, .label = "Entity...",
      .hint = "Make current brush into entity", .enabled = MapOpen,
      .reason = "not built yet: entity editing"},
@@ -53,7 +55,7 @@ const Command kRows[] = {
      .reason = "not built yet: entity editing"},
     {.id = 176, .name = "CM_ROTATE_BRUSH", .menu = "&Edit", .label = "R&otate Brush", .keyText = "Ctrl-R",
      .keys = "Ctrl+R", .hint = "Rotate current brush", .enabled = MapOpen,
-     .run = AskRotate},
+     .run = AskRotate, .undoName = kRotateTitle, .classicUndo = true},
     {.id = 205, .name = "CM_EDIT_SCALE", .menu = "&Edit", .label = "Scale", .keyText = "Ctrl-Shift-S",
      .keys = "Ctrl+Shift+S", .hint = "Scale selected brushes on centroid...", .enabled = MapOpen,
      .run = AskScale},

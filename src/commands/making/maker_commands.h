@@ -5,11 +5,13 @@
 #include <optional>
 
 #include "app/editor.h"
+#include "commands/making/result_preview.h"
 
 namespace velk {
 
-// The thickness of walls: the grid size, or what the user says (query_wall_width). None on Cancel.
-std::optional<int> WallThickness(Editor& editor);
+// The thickness of walls: the grid size, or what the user says (query_wall_width), who is shown meanwhile
+// what `make` builds. None on Cancel.
+std::optional<int> WallThickness(Editor& editor, const std::function<Brushes(int thickness)>& make);
 
 Outcome MakeStairsInPlace(Editor& editor, map& m);
 Outcome MakeRoomInPlace(Editor& editor, map& m);

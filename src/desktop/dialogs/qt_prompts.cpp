@@ -148,6 +148,11 @@ std::optional<std::string> QtPrompts::input(const TextInput& input) {
   dialog.setTextValue(ShownText(input.text));
   if (auto* line = dialog.findChild<QLineEdit*>()) line->setMaxLength(input.maxLength);
   dialog.resize(dialog.sizeHint().expandedTo(QSize(TitleWidth(dialog), 0)));
+  if (input.changed) {
+    QObject::connect(&dialog, &QInputDialog::textValueChanged, &dialog,
+                     [&input](const QString& text) { input.changed(GivenText(text)); });
+    input.changed(input.text);
+  }
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return GivenText(dialog.textValue());
 }

@@ -69,6 +69,11 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   if (editor.settings().drawmode == kWireMode) {
     DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
   }
+  const Views& views = editor.views();
+  if (!views.ghosts.empty()) {
+    DrawWireGhosts(canvas, {width, height}, views.renderSize(), editor.views().cameraScene(), views.ghosts,
+                   kGhostColour);
+  }
   DrawOverlays(editor, *shown, canvas, width);
   return image;
 }

@@ -1,5 +1,7 @@
 #include "ops/solids/hollow.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -40,25 +42,41 @@ std::vector<std::unique_ptr<brush>> Walls(const brush& b, int thickness) {
   return walls;
 }
 
-}  // namespace
+struct Shells {
+  std::vector<Replacement> made;
+  int tooThin = 0;  // brushes that leave no room inside
+};
 
-Outcome HollowSelection(map& m, int thickness) {
-  if (thickness < kThinnestWall || thickness > kThickestWall) return {};
-  if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  std::vector<Replacement> shells;
-  int tooThin = 0;
+Shells ShellsOf(map& m, int thickness) {
+  Shells shells;
   VisitBrushes(m, BrushFilter::Selected, [&](brush& b) {
     if (!b.owner->isModel) return;
     if (std::vector<std::unique_ptr<brush>> walls = Walls(b, thickness); !walls.empty()) {
-      shells.push_back({&b, std::move(walls)});
+      shells.made.push_back({&b, std::move(walls)});
     } else {
-      ++tooThin;
+      ++shells.tooThin;
     }
   });
-  std::string status = Format(kHollowed, int(shells.size()));
-  if (tooThin > 0) status += Format(kTooThinToHollow, tooThin);
-  ReplaceBrushes(m, std::move(shells));
+  return shells;
+}
+
+}  // namespace
+
+Outcome HollowSelection(map& m, int thickness) {
+  if (!IsWallThickness(thickness)) return {};
+  if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
+  Shells shells = ShellsOf(m, thickness);
+  std::string status = Format(kHollowed, int(shells.made.size()));
+  if (shells.tooThin > 0) status += Format(kTooThinToHollow, shells.tooThin);
+  ReplaceBrushes(m, std::move(shells.made));
   return Outcome::Drawn(Redraw::All, status);
+}
+
+std::vector<std::unique_ptr<brush>> HollowWalls(map& m, int thickness) {
+  std::vector<std::unique_ptr<brush>> walls;
+  for (Replacement& shell : ShellsOf(m, thickness).made)
+    std::ranges::move(shell.by, std::back_inserter(walls));
+  return walls;
 }
 
 }  // namespace velk

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "geometry/winding.h"
 
@@ -33,6 +34,31 @@ bool SamePlane(const plane& a, const plane& b) {
          std::fabs(double(a.dist) - b.dist) < SIDE_EPSILON;
 }
 
+// World units between corners that are one; cutting moves them by a few tenths of a unit at most.
+constexpr double kSameCorner = 0.3;
+
+bool SameCorner(const WindingPoint& a, const WindingPoint& b) {
+  const vec3 apart = subtract(a.position(), b.position());
+  return dot(apart, apart) <= kSameCorner * kSameCorner;
+}
+
+struct Edge {
+  const WindingPoint* from;
+  const WindingPoint* to;
+  // Along the same edge, the other way round.
+  bool meets(const Edge& other) const { return SameCorner(*from, *other.to) && SameCorner(*to, *other.from); }
+};
+
+std::vector<Edge> EdgesOf(const brush& b) {
+  std::vector<Edge> edges;
+  for (const face& f : b.faces()) {
+    if (!f.polygon) continue;
+    const winding& w = *f.polygon;
+    for (int i = 0; i < w.count; ++i) edges.push_back({&w[i], &w[(i + 1) % w.count]});
+  }
+  return edges;
+}
+
 }  // namespace
 
 int PolygonCount(const brush& b) {
@@ -50,6 +76,13 @@ double Volume(const brush& b) {
     if (f.polygon) sum += SixfoldVolume(*f.polygon, b.mins);
   }
   return sum < 0 ? -sum / 6 : sum / 6;
+}
+
+bool IsClosed(const brush& b) {
+  const std::vector<Edge> edges = EdgesOf(b);
+  return std::ranges::all_of(edges, [&](const Edge& edge) {
+    return std::ranges::any_of(edges, [&](const Edge& other) { return edge.meets(other); });
+  });
 }
 
 double Thickness(const brush& b) {

@@ -14,6 +14,9 @@ int PolygonCount(const brush& b);
 // Of a solid brush, in cubic units.
 double Volume(const brush& b);
 
+// Whether the polygons leave no gap: each edge of one is an edge of another, too.
+bool IsClosed(const brush& b);
+
 // The volume over the area of the largest polygon: how thick a sliver is.
 double Thickness(const brush& b);
 
