@@ -19,6 +19,9 @@ class ViewInput {
   ViewInput(const Services& services, Documents& documents, Door& door, Views& views, TextureChoice& texture,
             const std::filesystem::path& home);
 
+  // The group that new brushes join.
+  std::function<int()> currentGroup = [] { return 0; };
+
   // Views by number: 0..2 the plan views, kCameraView.
   void press(int view, const PointerEvent& event);
   // Every move, with or without a button.

@@ -22,6 +22,8 @@ class Views {
   WireLens lens;
   // The copy that a running drag shows in place of a brush, or none.
   std::function<const brush*(const brush&)> dragPreview;
+  // Of the group that new brushes join; shown in the plan views' strips.
+  std::function<std::string()> groupName = [] { return std::string(); };
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -35,6 +37,11 @@ class Views {
   PlanScene planScene(const StripColours& strip) const;
   // The same for the camera view's picture, until the next call; a map must be open.
   RenderScene cameraScene();
+  // What pictures of the current map's faces need, until the next call.
+  const RenderAssets& currentAssets() {
+    refreshAssets();
+    return assets_;
+  }
   // The picture's size in the camera view as it is.
   RenderSize renderSize() const;
   // Draws the picture of the flat and textured modes. Without a map nothing happens.

@@ -180,7 +180,7 @@ Outcome CreateBrush(Editor& editor, map& m) {
   BoxParams& params = editor.remembered().box;
   if (!Ask(editor, FormOf(params), params)) return Cancelled(kBoxTexts.notMade);
   const MakerRules rules = RulesOf(editor);
-  Made made = MakeBox(params, editor.texture().current(), 0, rules);
+  Made made = MakeBox(params, editor.texture().current(), editor.panels().groups.current(), rules);
   if (rules.careful && made.brushes.empty()) return Outcome::Said(kNoBoxMade);
   PlaceBrushes(m, *m.currentEntity(), std::move(made));
   return Outcome::Drawn(Redraw::All, kBoxTexts.made);
