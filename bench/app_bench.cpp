@@ -130,6 +130,41 @@ void Undo(benchmark::State& state, Changed changed) {
 BENCHMARK_CAPTURE(Undo, one_brush_moved, kOneBrush)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Undo, all_brushes_moved, kAllBrushes)->Arg(1)->Arg(100)->Unit(benchmark::kMillisecond);
 
+// What the entity window asks when another entity becomes current, of a map with 200 lights.
+void ShowEntity(benchmark::State& state) {
+  Desk desk(1);
+  for (int i = 0; i < 200; ++i) {
+    auto light = std::make_unique<entity>(desk.m());
+    light->setKey("targetname", "t" + std::to_string(i));
+    light->setClass("light");
+    desk.m().addobject(std::move(light));
+  }
+  EntityPanel& panel = desk.editor.panels().entities;
+  size_t lines = 0;
+  int shown = 0;
+  for (auto _ : state) {
+    desk.m().setCurrentEntity(desk.m().at(1 + shown++ % 200));
+    lines = panel.printed().size();
+    benchmark::DoNotOptimize(panel.comment());
+  }
+  if (lines < 2 + 12 + 2) state.SkipWithError("the window is empty");
+}
+BENCHMARK(ShowEntity)->Unit(benchmark::kMicrosecond);
+
+// What the selected-brush and group windows ask when everything is selected.
+void ShowSelection(benchmark::State& state) {
+  Desk desk(1, static_cast<int>(state.range(0)));
+  desk.m().MAPerform(Method::Select);
+  BrushPanel& panel = desk.editor.panels().brush;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(panel.printed());
+    benchmark::DoNotOptimize(panel.details());
+    benchmark::DoNotOptimize(desk.editor.panels().groups.lines());
+  }
+  Count(state, desk);
+}
+BENCHMARK(ShowSelection)->Arg(4000)->Unit(benchmark::kMicrosecond);
+
 double HeapBytes() {
   const struct mallinfo2 heap = mallinfo2();
   return static_cast<double>(heap.uordblks + heap.hblkhd);

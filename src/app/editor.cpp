@@ -23,7 +23,9 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
     const Drag* drag = input_.pointer().drag();
     return drag ? drag->preview(b) : nullptr;
   };
-  // input_.newBrushGroup is to ask panels_.groups for its current group; until then drawn brushes get none.
+  views_.groupName = [this] { return panels_.groups.currentName(); };
+  input_.currentGroup = [this] { return panels_.groups.current(); };
+  panels_.groups.hide = [this] { windows_.windows().minimise(ToolWindow::Groups); };
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
 }
 

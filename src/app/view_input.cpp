@@ -48,7 +48,7 @@ MouseContext ViewInput::context(int view) const {
           .view = view,
           .texture = &texture_,
           .textures = &document.textures,
-          .group = newBrushGroup(),
+          .group = currentGroup(),
           .camera = {.width = views_.cameraWidth,
                      .pickFace = [this](Pixel at) { return views_.pickInCamera(at); },
                      .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); },

@@ -31,6 +31,8 @@ class ViewInput {
   // Those of a kind of view, read when they were not; none when the file is damaged, of which the user is
   // told once.
   MouseBindings* bindings(int view);
+  // The group that new brushes join.
+  std::function<int()> currentGroup = [] { return 0; };
 
   // Views by number: 0..2 the plan views, kCameraView.
   void press(int view, const PointerEvent& event);
@@ -66,9 +68,6 @@ class ViewInput {
   // The brushes under the cursor where it was last in a view; see BrushesUnder. None without a map.
   std::vector<brush*> brushesUnder(int view) const;
   const Pointer& pointer() const { return pointer_; }
-
-  // The group that drawn brushes are put in.
-  std::function<int()> newBrushGroup = [] { return 0; };
 
  private:
   // The bindings of a kind of view, read at their first use; empty when the file is damaged.

@@ -24,7 +24,7 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .settings = settings_,
           .shown = documents_.currentMap(),
           .strip = strip,
-          .groupName = {},
+          .groupName = groupName(),
           .leakPoints = {},
           .preview = dragPreview,
           .ghosts = ghosts};

@@ -24,6 +24,8 @@ class Views {
   std::function<const brush*(const brush&)> dragPreview;
   // What an open dialog would make: drawn over the map, and no part of it.
   std::vector<std::unique_ptr<brush>> ghosts;
+  // Of the group that new brushes join; shown in the plan views' strips.
+  std::function<std::string()> groupName = [] { return std::string(); };
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -39,6 +41,11 @@ class Views {
   RenderScene cameraScene();
   // The same of a map beside the open ones, with settings of its own.
   RenderScene sceneOf(map& m, const Settings& settings);
+  // What pictures of the current map's faces need, until the next call.
+  const RenderAssets& currentAssets() {
+    refreshAssets();
+    return assets_;
+  }
   // The picture's size in the camera view as it is.
   RenderSize renderSize() const;
   // Draws the picture of the flat and textured modes. Without a map nothing happens.

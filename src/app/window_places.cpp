@@ -20,6 +20,11 @@ void WindowPlaces::load() {
   if (auto parsed = Arrangements::Parse(read.contents)) arrangements_ = *parsed;
 }
 
+// Slots that were never saved hold no places, only zeros.
+bool WindowPlaces::isSaved(int slot) const {
+  return arrangements_.loaded && arrangements_.slots[static_cast<size_t>(slot)] != Arrangement{};
+}
+
 Outcome WindowPlaces::apply() {
   if (!arrangements_.loaded) return {};
   const Arrangement& slot = arrangements_.slots[static_cast<size_t>(arrangements_.current)];

@@ -17,6 +17,8 @@ class WindowPlaces {
   const Arrangements& arrangements() const { return arrangements_; }
   // Reads velk.pos when there is one. Until then, and without one, no slot was saved.
   void load();
+  // Whether a slot (0..3) holds places.
+  bool isSaved(int slot) const;
   // Gives the windows the places of the current slot; without a saved one nothing happens.
   Outcome apply();
   // Makes a slot (0..3) current and gives the windows its places.

@@ -91,7 +91,9 @@ std::optional<Arrangements> Arrangements::Parse(std::string_view bytes) {
   return read;
 }
 
-PlainWindows::PlainWindows() : placements_(FirstLayout(1280, 740)) {}
+PlainWindows::PlainWindows() { layOut(); }
+
+void PlainWindows::layOut() { placements_ = FirstLayout(1280, 740); }
 
 WindowPlacement PlainWindows::placement(ToolWindow window) const { return placements_[indexOf(window)]; }
 
@@ -110,23 +112,24 @@ void PlainWindows::minimise(ToolWindow window) {
   if (focus_ == window) focus_.reset();
 }
 
-// Plan views and camera in quarters; the tools in a column at the right.
+// Plan views and camera in quarters, of which the lower right one shares its row with the selected brush; the
+// other tools in a column at the right, wide enough for four flags of an entity beside each other.
 Arrangement FirstLayout(int width, int height) {
-  const int column = std::max(0, width - std::max(230, width / 5));
+  const int column = std::max(width * 2 / 3, width - std::max(344, width / 5));
   const int middle = column / 2;
   const int half = height / 2;
-  const auto tool = [&](int from, int to) {
-    return PlacedAt(column, height * from / 100, width, height * to / 100);
-  };
+  const int third = column / 3;
+  const int entities = height - std::clamp(height * 11 / 20, std::min(380, height * 3 / 5), 560);
+  const int groups = entities - std::max(height / 6, 110);
   Arrangement layout;
   layout[indexOf(ToolWindow::Plan1)] = PlacedAt(0, 0, middle, half);
   layout[indexOf(ToolWindow::Camera)] = PlacedAt(middle, 0, column, half);
-  layout[indexOf(ToolWindow::Plan2)] = PlacedAt(0, half, middle, height);
-  layout[indexOf(ToolWindow::Plan3)] = PlacedAt(middle, half, column, height);
-  layout[indexOf(ToolWindow::Textures)] = tool(0, 36);
-  layout[indexOf(ToolWindow::Entities)] = tool(36, 62);
-  layout[indexOf(ToolWindow::Groups)] = tool(62, 80);
-  layout[indexOf(ToolWindow::SelectedBrush)] = tool(80, 100);
+  layout[indexOf(ToolWindow::Plan2)] = PlacedAt(0, half, third, height);
+  layout[indexOf(ToolWindow::Plan3)] = PlacedAt(third, half, 2 * third, height);
+  layout[indexOf(ToolWindow::SelectedBrush)] = PlacedAt(2 * third, half, column, height);
+  layout[indexOf(ToolWindow::Textures)] = PlacedAt(column, 0, width, groups);
+  layout[indexOf(ToolWindow::Groups)] = PlacedAt(column, groups, width, entities);
+  layout[indexOf(ToolWindow::Entities)] = PlacedAt(column, entities, width, height);
   return layout;
 }
 

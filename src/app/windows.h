@@ -53,6 +53,8 @@ class WindowHost {
   virtual void cascade() = 0;
   virtual void tile() = 0;
   virtual void arrangeIcons() = 0;
+  // Puts all windows where they are at a first start.
+  virtual void layOut() = 0;
   // Button bars, 0 and 1.
   virtual int barCount() const { return 0; }
   virtual bool barVisible(int /*bar*/) const { return false; }
@@ -71,6 +73,7 @@ class PlainWindows : public WindowHost {
   void cascade() override {}
   void tile() override {}
   void arrangeIcons() override {}
+  void layOut() override;
 
  private:
   Arrangement placements_;

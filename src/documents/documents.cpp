@@ -63,6 +63,7 @@ MapReadOptions Documents::readOptions() {
   options.paths = services_.paths;
   options.progress = [this](const std::string& text) { post(text); };
   options.currentTexture = choice_.current();
+  if (services_.settings.long_group_names) options.groupNameLength = GroupList::kMaxName;
   return options;
 }
 
@@ -80,6 +81,7 @@ std::unique_ptr<MapDocument> Documents::read(const std::string& path) {
 
 void Documents::add(std::unique_ptr<MapDocument> added) {
   documents_.push_back(std::move(added));
+  ++turn_;
   current_ = count() - 1;
 }
 
@@ -87,6 +89,7 @@ void Documents::close(int index) {
   if (!at(index)) return;
   std::swap(documents_[static_cast<size_t>(index)], documents_.back());
   documents_.pop_back();
+  ++turn_;
   current_ = 0;
 }
 

@@ -42,8 +42,12 @@ class Documents {
   void add(std::unique_ptr<MapDocument> added);
   // Makes another map current; an index outside the range is ignored.
   void show(int index) {
-    if (at(index)) current_ = index;
+    if (!at(index)) return;
+    turn_ += index != current_;
+    current_ = index;
   }
+  // Changes whenever another map becomes current.
+  int turn() const { return turn_; }
   // The last one moves into its place, the first becomes current.
   void close(int index);
 
@@ -74,6 +78,7 @@ class Documents {
   std::unique_ptr<map> clipboard_;
   std::vector<std::unique_ptr<MapDocument>> documents_;
   int current_ = 0;
+  int turn_ = 0;
   RecentMaps recent_;
   std::string status_;
 };

@@ -101,6 +101,8 @@ class map {
   void clearEntities() { takeEntities(); }
   std::vector<std::unique_ptr<entity>> takeEntities();
 
+  // Every selected brush joins the group; marks the map modified when one did. An index outside the list does
+  // nothing.
   void assignGroupOfSelected(int index);
 
  private:

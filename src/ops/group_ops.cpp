@@ -28,6 +28,7 @@ void DeleteGroup(map& m, int index) {
   MoveBrushes(m, index, 0);
   MoveBrushes(m, last, index);
   m.groups.remove(index);
+  m.modified = true;
 }
 
 void ReassignGroup(map& m, int from, int to) {
@@ -41,6 +42,17 @@ void SelectAllInGroup(map& m, int index) {
   });
 }
 
+void ShowOnlyGroup(map& m, int index) {
+  if (!Has(m, index)) return;
+  for (int i = 0; i < m.groups.count(); ++i) m.groups.setVisible(i, i == index);
+  m.modified = true;
+}
+
+void ShowAllGroups(map& m) {
+  for (int i = 0; i < m.groups.count(); ++i) m.groups.setVisible(i, true);
+  m.modified = true;
+}
+
 void CountGroupBrushes(map& m) {
   std::vector<int> counts(size_t(m.groups.count()));
   VisitBrushes(m, BrushFilter::Every, [&](const brush& b) {
@@ -52,7 +64,9 @@ void CountGroupBrushes(map& m) {
 void map::assignGroupOfSelected(int index) {
   if (!Has(*this, index)) return;
   VisitBrushes(*this, BrushFilter::Every, [&](brush& b) {
-    if (b.selected()) b.setGroup(index);
+    if (!b.selected() || b.group() == index) return;
+    b.setGroup(index);
+    modified = true;
   });
 }
 

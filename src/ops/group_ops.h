@@ -1,5 +1,5 @@
-// Operations on groups that reach the brushes of a map. Each marks nothing modified; indices outside the list
-// do nothing.
+// Operations on the groups of a map and the brushes in them. Those that change what would be saved mark the
+// map modified; indices outside the list do nothing.
 #pragma once
 
 #include "model/map.h"
@@ -14,6 +14,9 @@ void DeleteGroup(map& m, int index);
 void ReassignGroup(map& m, int from, int to);
 // Selects every brush of the group.
 void SelectAllInGroup(map& m, int index);
+// Makes the group visible and all others not, or every group.
+void ShowOnlyGroup(map& m, int index);
+void ShowAllGroups(map& m);
 // Fills in the brush count of every group.
 void CountGroupBrushes(map& m);
 

@@ -5,13 +5,24 @@ namespace {
 
 constexpr float kSeedSize = 8;
 
-void AddSeed(map& m, const vec3& at) {
+brush& AddSeed(map& m, const vec3& at) {
   texturedef texture;
   texture.name = "entity";
   auto seed = std::make_unique<brush>(m.counters());
   seed->initBox(*m.world(), at, add(at, {kSeedSize, kSeedSize, kSeedSize}), texture);
   seed->select(true);
-  m.world()->addobject(std::move(seed));
+  return m.world()->addobject(std::move(seed));
+}
+
+// Something selected that a class built of brushes could take: in group mode all of the selection may be out
+// of reach.
+bool AnyWithinReach(const map& m) {
+  for (const entity& e : m.entities()) {
+    for (const brush& b : e.brushes()) {
+      if (b.selected() && m.passesGroupFilter(b)) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -21,19 +32,20 @@ MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> se
   const EntityClass& found = m.classes().findByName(classname);
   const bool fixedSize = m.classes().isKnown(found) && found.fixedSize;
   const bool seeded = m.selectedCount() > 0;
-  if (!seeded && !fixedSize) return {EntityMaking::NeedsSeed, nullptr};
+  if (!fixedSize && (!seeded || !AnyWithinReach(m))) return {EntityMaking::NeedsSeed, nullptr};
   m.requireRoom();
-  if (!seeded) AddSeed(m, seedAt.value_or(m.activeCamera().origin));
+  brush* seed = seeded ? nullptr : &AddSeed(m, seedAt.value_or(m.activeCamera().origin));
 
   auto made = std::make_unique<entity>(m);
   made->setClass(classname);
   m.modified = true;
   if (fixedSize) {
+    // A hidden group keeps the dispatcher from the seed.
+    if (seed && !m.passesGroupFilter(*seed)) DestroyBrush(*seed);
     m.MSPerform(Method::Delete);
     made->at(0)->select(true);
   } else {
     m.MSPerform(BrushMethod::moveTo(*made));
-    // In group mode all of the selection may be out of reach.
     if (made->numbrushes() == 0) return {EntityMaking::NeedsSeed, nullptr};
   }
   entity& added = m.addobject(std::move(made));

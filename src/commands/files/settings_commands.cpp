@@ -93,6 +93,7 @@ Outcome ReloadClasses(Editor& editor, map&) {
   read.setSorted(settings.sort_entities);
   read.loadAll(settings, editor.services().paths, editor.services().prompts);
   editor.classes() = std::move(read);
+  editor.panels().entities.classesReloaded();
   Outcome outcome = Outcome::Drawn(Redraw::All, "Entity list reloaded...");
   outcome.maps = true;
   return outcome;

@@ -4,6 +4,7 @@
 #include "commands/making/maker_commands.h"
 #include "ops/reshape.h"
 #include "ops/transform.h"
+#include "commands/objects/entity_commands.h"
 
 namespace velk {
 namespace {
@@ -46,13 +47,13 @@ const Command kRows[] = {
      .run = AskHeight, .undoName = kHeightTitle, .classicUndo = true},
     {.id = 168, .name = "CM_MAKE_ENTITY", .menu = "&Edit|&Make", .startsGroup = true, .label = "Entity...",
      .hint = "Make current brush into entity", .enabled = MapOpen,
-     .reason = "not built yet: entity editing"},
+     .run = MakeEntityOfChosenClass},
     {.id = 175, .name = "CM_MAKE_LIGHTS", .menu = "&Edit|&Make", .label = "Lights...",
      .hint = "Make lights from selected brush", .enabled = MapOpen,
      .run = MakeLightsInPlace},
     {.id = 287, .name = "CM_REVERT", .menu = "&Edit|&Make", .label = "Revert to World",
      .hint = "Delete current entity and return brushes to world.", .enabled = MapOpen,
-     .reason = "not built yet: entity editing"},
+     .run = AskRevert},
     {.id = 176, .name = "CM_ROTATE_BRUSH", .menu = "&Edit", .label = "R&otate Brush", .keyText = "Ctrl-R",
      .keys = "Ctrl+R", .hint = "Rotate current brush", .enabled = MapOpen,
      .run = AskRotate, .undoName = kRotateTitle, .classicUndo = true},

@@ -161,7 +161,7 @@ Outcome BuildRevolved(Editor& editor, map& m, brush& seed, const std::optional<P
 
 Outcome BuildBox(Editor& editor, map& m, const BoxParams& params) {
   const MakerRules rules = RulesOf(editor);
-  Made made = MakeBox(params, editor.texture().current(), 0, rules);
+  Made made = MakeBox(params, editor.texture().current(), editor.panels().groups.current(), rules);
   if (rules.careful && made.brushes.empty()) return Outcome::Said(kNoBoxMade);
   PlaceBrushes(m, *m.currentEntity(), std::move(made));
   return Outcome::Drawn(Redraw::All, kBoxTexts.made);
@@ -269,7 +269,7 @@ Outcome RevolveInPlace(Editor& editor, map& m) {
 Outcome CreateBrush(Editor& editor, map& m) {
   BoxParams& params = editor.remembered().box;
   const auto made = [&](const BoxParams& wanted) {
-    return MakeBox(wanted, editor.texture().current(), 0, RulesOf(editor));
+    return MakeBox(wanted, editor.texture().current(), editor.panels().groups.current(), RulesOf(editor));
   };
   if (!Ask(editor, FormOf(params), params, made)) return Cancelled(kBoxTexts.notMade);
   return RunRepeatably(editor, m,

@@ -23,10 +23,7 @@ Outcome OmitWorld(Editor& editor) { return Omit(editor, &ViewFilter::omitWorld, 
 Outcome OmitWater(Editor& editor) { return Omit(editor, &ViewFilter::omitWater, "Show water toggled"); }
 Outcome OmitClip(Editor& editor) { return Omit(editor, &ViewFilter::omitClip, "Show clip brushes toggled"); }
 
-Outcome ToggleGroupMode(Editor& editor) {
-  const char* text = editor.settings().groupmode ? "Group mode off..." : "Group mode on...";
-  return Toggle(editor, &Settings::groupmode, Redraw::All, text);
-}
+Outcome ToggleGroupMode(Editor& editor) { return editor.panels().groups.toggleGroupMode(); }
 
 // clang-format off
 const Command kRows[] = {

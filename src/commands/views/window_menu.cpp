@@ -47,13 +47,22 @@ Outcome RestorePlanView(Editor& editor, ToolWindow window) {
   return {};
 }
 
-Outcome RestorePositions(Editor& editor) { return editor.windows().apply(); }
+// What an arrangement that was never saved has to say.
+Outcome OrUnsaved(const Editor& editor, Outcome used) {
+  const int slot = editor.windows().arrangements().current;
+  if (!editor.windows().isSaved(slot)) {
+    used.status = Format("Window arrangement %i was never saved...", slot + 1);
+  }
+  return used;
+}
 
-Outcome UseArrangement(Editor& editor, int slot) { return editor.windows().use(slot); }
+Outcome RestorePositions(Editor& editor) { return OrUnsaved(editor, editor.windows().apply()); }
+
+Outcome UseArrangement(Editor& editor, int slot) { return OrUnsaved(editor, editor.windows().use(slot)); }
 
 Outcome StepArrangement(Editor& editor, int step) {
   const int slots = Arrangements::kSlots;
-  return editor.windows().use((editor.windows().arrangements().current + step + slots) % slots);
+  return UseArrangement(editor, (editor.windows().arrangements().current + step + slots) % slots);
 }
 
 bool ArrangementIs(const Editor& editor, int slot) { return editor.windows().arrangements().current == slot; }
@@ -100,6 +109,8 @@ const Command kRows[] = {
     {.id = 142, .name = "CM_WINDOW_POSITION", .menu = "&Window|&Configure", .label = "&Restore Positions",
      .hint = "Reposition current window settings based upon last save...", .enabled = MapOpen,
      .run = RestorePositions},
+    {.id = 1170, .name = "CM_DEFAULT_LAYOUT", .menu = "&Window|&Configure", .label = "&Default Layout",
+     .hint = "Put all windows where they are at a first start", .run = With<Arrange, &WindowHost::layOut>},
     {.id = 275, .name = "CM_WUP", .menu = "&Window|&Configure", .startsGroup = true,
      .label = "&Next Positioning",
      .keyText = "Ctrl-Keypad +", .keys = "Ctrl+Num+", .hint = "Next window setting",

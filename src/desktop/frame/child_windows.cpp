@@ -7,6 +7,10 @@
 #include <QResizeEvent>
 #include <QStyleOption>
 #include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "app/shared_borders.h"
 
 namespace velk {
 namespace {
@@ -41,7 +45,10 @@ class TitleStyle : public QProxyStyle {
 
 class ChildWindow : public QMdiSubWindow {
  public:
-  explicit ChildWindow(QWidget* content) {
+  // Told what the window was before the user gave it another size by its border.
+  using Resized = std::function<void(QMdiSubWindow& window, const QRect& before)>;
+
+  ChildWindow(QWidget* content, Resized resized) : resized_(std::move(resized)) {
     setWidget(content);
     setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowMinMaxButtonsHint);
@@ -58,16 +65,38 @@ class ChildWindow : public QMdiSubWindow {
     noteNormalRect();
   }
 
+  void mousePressEvent(QMouseEvent* event) override {
+    held_ = geometry();
+    QMdiSubWindow::mousePressEvent(event);
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QMdiSubWindow::mouseReleaseEvent(event);
+    held_.reset();
+  }
+
   void resizeEvent(QResizeEvent* event) override {
     QMdiSubWindow::resizeEvent(event);
     noteNormalRect();
+    if (!held_ || isMinimized() || isMaximized()) return;
+    const QRect before = std::exchange(*held_, geometry());
+    resized_(*this, before);
   }
 
  private:
   void noteNormalRect() {
     if (!isMinimized() && !isMaximized()) setProperty(kNormalRect, geometry());
   }
+
+  Resized resized_;
+  std::optional<QRect> held_;  // while a button is held on its frame: its place at the last size
 };
+
+BorderedWindow BorderedWindowOf(const QMdiSubWindow& window, const QRect& place) {
+  const QSize least = window.minimumSizeHint().expandedTo(window.minimumSize());
+  return {{place.x(), place.y(), place.x() + place.width(), place.y() + place.height()},
+          {least.width(), least.height()}};
+}
 
 QRect RectOf(const WindowPlacement& placement) {
   const auto& [left, top, right, bottom] = placement.normal;
@@ -95,9 +124,29 @@ void ChildWindows::raiseIcons() {
 
 void ChildWindows::add(ToolWindow window, QWidget* content) {
   QMdiSubWindow*& child = children_[static_cast<size_t>(window)];
-  child = area_.addSubWindow(new ChildWindow(content));
+  child = area_.addSubWindow(new ChildWindow(
+      content, [this](QMdiSubWindow& resized, const QRect& before) { follow(resized, before); }));
   child->setStyle(titles_);
   child->show();
+}
+
+// The windows across the border that the user moves.
+void ChildWindows::follow(QMdiSubWindow& resized, const QRect& before) {
+  if (!sharesBorders_()) return;
+  std::vector<QMdiSubWindow*> windows;
+  std::vector<BorderedWindow> places;
+  size_t self = 0;
+  for (QMdiSubWindow* window : children_) {
+    if (!window || window->isMinimized() || window->isMaximized()) continue;
+    if (window == &resized) self = windows.size();
+    windows.push_back(window);
+    places.push_back(BorderedWindowOf(*window, window == &resized ? before : window->geometry()));
+  }
+  ResizeWithNeighbours(places, self, BorderedWindowOf(resized, resized.geometry()).edges);
+  for (size_t i = 0; i < windows.size(); ++i) {
+    const auto& [left, top, right, bottom] = places[i].edges;
+    if (i != self) windows[i]->setGeometry(left, top, right - left, bottom - top);
+  }
 }
 
 void ChildWindows::layOut() {

@@ -4,6 +4,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <array>
+#include <functional>
 
 #include "app/windows.h"
 #include "desktop/frame/bars.h"
@@ -21,8 +22,9 @@ class ChildWindows : public QObject, public WindowHost {
   void add(ToolWindow window, QWidget* content);
   // The bars that commands show and hide; owned by the frame.
   void setBars(std::vector<TVelkControlBar*> bars) { bars_ = std::move(bars); }
-  // Puts all windows into their first layout.
-  void layOut();
+
+  // Whether windows across a border follow when the user moves it.
+  void setSharedBorders(std::function<bool()> shares) { sharesBorders_ = std::move(shares); }
 
   WindowPlacement placement(ToolWindow window) const override;
   void place(ToolWindow window, const WindowPlacement& placement) override;
@@ -32,6 +34,7 @@ class ChildWindows : public QObject, public WindowHost {
   void cascade() override;
   void tile() override;
   void arrangeIcons() override;
+  void layOut() override;
   int barCount() const override { return static_cast<int>(bars_.size()); }
   bool barVisible(int bar) const override;
   void showBar(int bar, bool visible) override;
@@ -42,6 +45,7 @@ class ChildWindows : public QObject, public WindowHost {
  private:
   QMdiSubWindow& child(ToolWindow window) const { return *children_[static_cast<size_t>(window)]; }
   void raiseIcons();
+  void follow(QMdiSubWindow& resized, const QRect& before);
   int iconHeight() const;
   void keepShares(const QSize& from, const QSize& to);
 
@@ -49,6 +53,7 @@ class ChildWindows : public QObject, public WindowHost {
   QStyle* titles_;
   std::array<QMdiSubWindow*, kToolWindows> children_{};
   std::vector<TVelkControlBar*> bars_;
+  std::function<bool()> sharesBorders_ = [] { return false; };
 };
 
 }  // namespace velk

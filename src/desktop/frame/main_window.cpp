@@ -1,5 +1,6 @@
 #include "desktop/frame/main_window.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
@@ -42,6 +43,11 @@ QLabel* Placeholder(const std::string& title, const char* line) {
   label->setEnabled(false);
   label->setMinimumSize(80, 40);
   return label;
+}
+
+// A list that can be edited in place keeps the key for it.
+bool KeepsKey(const QAbstractItemView& list, const QKeyEvent& key) {
+  return list.editTriggers().testFlag(QAbstractItemView::EditKeyPressed) && key.key() == Qt::Key_F2;
 }
 
 }  // namespace
@@ -105,11 +111,13 @@ void TVelkWindow::buildWindows() {
     planViews_[static_cast<size_t>(view)] = window;
     children_->add(static_cast<ToolWindow>(static_cast<int>(ToolWindow::Plan1) + view), window);
   }
-  await(ToolWindow::Entities, "Keys and values of entities come here.");
+  entities_ = new EntityView(editor_);
+  children_->add(ToolWindow::Entities, entities_);
   camera_ = new TCameraWindow(editor_);
   children_->add(ToolWindow::Camera, camera_);
-  await(ToolWindow::Groups, "The groups of the map come here.");
-  clock_ = new InputClock(editor_.input(), *this);
+  groups_ = new TGroupWindow(editor_);
+  children_->add(ToolWindow::Groups, groups_);
+  children_->setSharedBorders([this] { return editor_.settings().shared_borders; });
   children_->setBars(bars_);
   editor_.windows().setWindows(*children_);
 }
@@ -175,10 +183,13 @@ void TVelkWindow::dropEvent(QDropEvent* event) {
 }
 
 // Keys go to the key table unless a dialog or a menu is open or a text is being typed.
-bool TVelkWindow::takesKeys() const {
+bool TVelkWindow::takesKeys(const QKeyEvent& key) const {
   if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return false;
   const QWidget* focus = QApplication::focusWidget();
   if (focus && focus->window() != this) return false;
+  if (const auto* list = qobject_cast<const QAbstractItemView*>(focus)) {
+    if (KeepsKey(*list, key)) return false;
+  }
   return !qobject_cast<const QLineEdit*>(focus) && !qobject_cast<const QTextEdit*>(focus) &&
          !qobject_cast<const QComboBox*>(focus) && !qobject_cast<const QAbstractSpinBox*>(focus);
 }
@@ -207,7 +218,7 @@ bool TVelkWindow::eventFilter(QObject* watched, QEvent* event) {
   if (released && !key.isAutoRepeat()) LetGoInViews(editor_, StrokeOf(key));
   // Other windows keep their keys; one that was just shown may not have the focus yet.
   const auto* widget = qobject_cast<const QWidget*>(watched);
-  if (released || !widget || widget->window() != this || !takesKeys()) return false;
+  if (released || !widget || widget->window() != this || !takesKeys(key)) return false;
   const Command* command = CommandForStroke(StrokeOf(key));
   const bool taken = viewsTake(key, !override);
   if (!taken && (!command || leftToMenus(key, *command))) return false;
@@ -226,10 +237,23 @@ void TVelkWindow::changed(const Changes& what) {
     if (view && what.strips) view->markStripStale();
   }
   if (what.camera && camera_) camera_->markStale();
-  if (what.selectedBrush && brush_) brush_->refresh();
+  toolWindowsChanged(what);
   for (TVelkControlBar* bar : bars_) {
     if (what.textures) bar->texturesChanged();
     if (what.commands || what.maps) bar->commandsChanged();
+  }
+}
+
+// The entities that are edited together are those selected.
+void TVelkWindow::toolWindowsChanged(const Changes& what) {
+  if (brush_ && (what.selectedBrush || what.maps)) brush_->refresh();
+  if (entities_ && what.maps) entities_->reloadClasses();
+  if (entities_ && (what.entity || what.selectedBrush)) entities_->refresh();
+  if (!groups_) return;
+  if (what.groups || what.entity || what.maps) {
+    groups_->refresh();
+  } else if (what.selectedBrush) {
+    groups_->showSelection();
   }
 }
 

@@ -15,6 +15,8 @@
 #include "desktop/system/file_watch.h"
 #include "desktop/windows/brush_window.h"
 #include "desktop/windows/camera_window.h"
+#include "desktop/windows/entity_window.h"
+#include "desktop/windows/group_window.h"
 #include "desktop/windows/help_window.h"
 #include "desktop/windows/input_clock.h"
 #include "desktop/windows/plan_view_window.h"
@@ -55,12 +57,13 @@ class TVelkWindow : public QMainWindow, private Observer {
   void exitRequested() override;
 
   void mapsChanged();
+  void toolWindowsChanged(const Changes& what);
   void placeWindows();
   void buildCentre();
   void buildWindows();
   void rememberState() const;
-  bool takesKeys() const;
   bool viewsTake(const QKeyEvent& key, bool pressed);
+  bool takesKeys(const QKeyEvent& key) const;
   bool leftToMenus(const QKeyEvent& key, const Command& command) const;
 
   Editor editor_;
@@ -71,6 +74,8 @@ class TVelkWindow : public QMainWindow, private Observer {
   MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
   TSelectedBrushWindow* brush_ = nullptr;
+  EntityView* entities_ = nullptr;
+  TGroupWindow* groups_ = nullptr;
   TCameraWindow* camera_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   InputClock* clock_ = nullptr;

@@ -1,15 +1,17 @@
 #pragma once
 
-#include <QLabel>
 #include <QTreeWidget>
 
 #include "app/editor.h"
+#include "desktop/windows/brush_preview_view.h"
+#include "desktop/windows/face_fields.h"
+#include "desktop/windows/selection_handle.h"
 #include "panels/brush/brush_panel.h"
 
 namespace velk {
 
-// The selected-brush window: what is selected, and the faces of the current brush. Choosing a face makes it
-// current.
+// The selected-brush window: what is selected, a picture of the current brush, and its faces. Choosing a face
+// makes it current.
 class TSelectedBrushWindow : public QWidget {
   Q_OBJECT
  public:
@@ -20,13 +22,19 @@ class TSelectedBrushWindow : public QWidget {
   void refresh();
 
  private:
+  void buildFaces();
   void listFaces(const FaceLines& shown);
+  void markCurrent(int current);
   void choose(int index);
   void useColours();
 
   Editor& editor_;
-  QLabel* readout_;
+  SelectionHandle* readout_;
+  QLabel* details_;
+  BrushPreviewView* preview_;
+  FaceFields* fields_;
   QTreeWidget* faces_;
+  FaceLines listed_;
   bool refreshing_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
+#include "desktop/windows/palette_image.h"
 #include "desktop/windows/pointer_events.h"
 #include "desktop/windows/qt_canvas.h"
 
@@ -16,22 +17,10 @@ constexpr int kWireMode = 0;
 
 QString FontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
 
-QList<QRgb> ColourTable(const Wad* wad) {
-  QList<QRgb> table(256, qRgb(0, 0, 0));
-  for (int i = 0; i < 256 && wad; ++i) {
-    const unsigned char* entry = wad->palette.data() + i * 3;
-    table[i] = qRgb(entry[0], entry[1], entry[2]);
-  }
-  return table;
-}
-
 // The renderer's picture stretched over the whole image.
 void DrawRendered(Editor& editor, QImage& image) {
   editor.views().renderCamera();
-  const Renderer& renderer = editor.views().renderer;
-  QImage rendered(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
-                  QImage::Format_Indexed8);
-  rendered.setColorTable(ColourTable(editor.views().paletteWad()));
+  const QImage rendered = PaletteImage(editor.views().renderer, editor.views().paletteWad());
   QPainter painter(&image);
   painter.drawImage(
       QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);

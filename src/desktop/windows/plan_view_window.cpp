@@ -23,8 +23,8 @@ QImage PictureOfStrip(Editor& editor, int view, double devicePixelRatio, const Q
   const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, kStripHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  DrawHeaderStrip(canvas, record, editor.settings(), editor.documents().currentMap(), "",
-                  StripColoursOf(palette));
+  DrawHeaderStrip(canvas, record, editor.settings(), editor.documents().currentMap(),
+                  editor.views().groupName(), StripColoursOf(palette));
   return image;
 }
 
