@@ -48,6 +48,7 @@ class Editor {
   const TextureManager& textures() const { return textures_; }
   TextureChoice& texture() { return texture_; }
   Remembered& remembered() { return remembered_; }
+  const Remembered& remembered() const { return remembered_; }
   Panels& panels() { return panels_; }
   Views& views() { return views_; }
   const Views& views() const { return views_; }

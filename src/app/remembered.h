@@ -15,6 +15,12 @@
 
 namespace velk {
 
+// How often a fitted texture repeats on a face.
+struct TextureRepeats {
+  int across = 1;
+  int down = 1;
+};
+
 struct Remembered {
   StairParams stairs;
   ArchParams arch;
@@ -29,6 +35,8 @@ struct Remembered {
   std::array<double, 3> scale{1, 1, 1};
   std::array<double, 3> copyOffset{16, 16, 0};
   bool moveOnly = false;
+  TextureRepeats textureRepeats;
+  bool textureAllFaces = false;
 };
 
 }  // namespace velk

@@ -97,7 +97,8 @@ void TVelkWindow::buildWindows() {
   const auto await = [this](ToolWindow window, const char* line) {
     children_->add(window, Placeholder(WindowTitle(editor_, window), line));
   };
-  await(ToolWindow::Textures, "Thumbnails of the textures come here.");
+  textures_ = new TTextureWindow(editor_);
+  children_->add(ToolWindow::Textures, textures_);
   children_->add(ToolWindow::SelectedBrush, brush_);
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
@@ -212,6 +213,8 @@ void TVelkWindow::changed(const Changes& what) {
   }
   if (what.camera && camera_) camera_->markStale();
   if (what.selectedBrush && brush_) brush_->refresh();
+  if (what.textures && textures_) textures_->refresh();
+  if (what.entity && textures_) textures_->contentsChanged();
   for (TVelkControlBar* bar : bars_) {
     if (what.textures) bar->texturesChanged();
     if (what.commands || what.maps) bar->commandsChanged();

@@ -17,6 +17,7 @@
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/help_window.h"
 #include "desktop/windows/plan_view_window.h"
+#include "desktop/windows/texture_window.h"
 
 namespace velk {
 
@@ -70,6 +71,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
   TSelectedBrushWindow* brush_ = nullptr;
   TCameraWindow* camera_ = nullptr;
+  TTextureWindow* textures_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;
   std::vector<TVelkControlBar*> bars_;
