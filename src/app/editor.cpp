@@ -12,6 +12,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
       paths_(place_.data),
       services_{settings_, paths_, prompts, observer},
       textures_(WadServices{settings_, paths_, prompts}),
+      texture_(&settings_),
       documents_(services_, classes_, textures_, texture_),
       door_(services_, documents_),
       rescue_(services_, documents_, door_),
@@ -26,6 +27,9 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
   views_.groupName = [this] { return panels_.groups.currentName(); };
   input_.currentGroup = [this] { return panels_.groups.current(); };
   panels_.groups.hide = [this] { windows_.windows().minimise(ToolWindow::Groups); };
+  panels_.textures.minimised = [this] {
+    return windows_.windows().placement(ToolWindow::Textures).state == ShowState::Minimised;
+  };
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
 }
 
@@ -76,6 +80,7 @@ void Editor::startTextures() {
 
 void Editor::attend() {
   services_.attended = true;
+  textures_.setForgiving(true);
   documents_.recent().keepIn(place_.stateFile());
 }
 
@@ -94,7 +99,8 @@ std::string FrameTitle(const Editor& editor) {
 std::string WindowTitle(const Editor& editor, ToolWindow window) {
   switch (window) {
     case ToolWindow::Textures:
-      return "Textures";
+      return editor.textures().current() ? Format("[Texture - %s]", editor.textures().current()->path.c_str())
+                                         : "Textures";
     case ToolWindow::SelectedBrush:
       return "Selected Brush";
     case ToolWindow::Entities:

@@ -16,6 +16,12 @@
 
 namespace velk {
 
+// How often a fitted texture repeats on a face.
+struct TextureRepeats {
+  int across = 1;
+  int down = 1;
+};
+
 struct Remembered {
   StairParams stairs;
   ArchParams arch;
@@ -32,6 +38,8 @@ struct Remembered {
   bool moveOnly = false;
   // The last copy, move, turn or generator, with its values; empty before the first.
   std::function<Outcome(map&)> lastChange;
+  TextureRepeats textureRepeats;
+  bool textureAllFaces = false;
 };
 
 }  // namespace velk

@@ -33,7 +33,7 @@ void FindMagic(int size, std::uint32_t& magic, int& shift) {
 }
 
 void SetTexture(const TextureRef& texture, Paint& paint) {
-  paint.pixels = texture.pixels;
+  paint.pixels = texture.shownPixels();
   paint.width = texture.width;
   paint.height = texture.height;
   if (IsPowerOfTwo(texture.width) && IsPowerOfTwo(texture.height)) {

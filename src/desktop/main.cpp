@@ -123,6 +123,8 @@ int RunWindow(const Request& request) {
   TVelkWindow window(FindEditorPlace(), prompts);
   prompts.setOwner(&window);
   prompts.setPaths(&window.editor().services().paths);
+  // Also the default wads are read with a user there.
+  window.editor().textures().setForgiving(true);
   window.start();
   const CrashGuard guard([&window] { window.editor().rescue().writeCopies(); });
   if (request.timeStart) ReportFirstPaint(window);

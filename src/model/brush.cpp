@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/error.h"
+#include "geometry/texture_fit.h"
 #include "model/map.h"
 
 namespace velk {
@@ -135,8 +136,17 @@ void brush::reverseFaces() {
   buildWindings();
 }
 
+bool brush::locksTextures() const {
+  return owner && owner->isModel && owner->parent().settings().texture_lock;
+}
+
 void brush::translate(const vec3& offset) {
+  const bool lock = locksTextures();
   for (face& f : editFaces()) {
+    plane facePlane;
+    if (lock && PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], facePlane)) {
+      f.texture = MovedTexture(f.texture, TextureAxisFromPlane(facePlane.normal, alignment()), offset);
+    }
     for (vec3& p : f.planepts) p = add(p, offset);
   }
   buildWindings();

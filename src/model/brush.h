@@ -82,6 +82,9 @@ struct brush {
   bool addFace(const face& added);
 
   void reverseFaces();
+  // Whether textures are to move along with this brush: the setting texture_lock, but not for boxes of point
+  // entities.
+  bool locksTextures() const;
   void translate(const vec3& offset);
   // p becomes m (p - centre) + centre, m row by row.
   void transform(const float m[3][3], const vec3& centre);

@@ -62,7 +62,7 @@ bool ChooseCurrentFace(map& m, int index) {
 }
 
 ReplacedTextures ReplaceTexture(map& m, std::string_view from, std::string_view to) {
-  const std::string name = UpperCase(to);
+  const std::string name = m.settings().careful_tools ? LowerCase(to) : UpperCase(to);
   ReplacedTextures done;
   VisitBrushes(m, BrushFilter::Visible, [&](brush& b) {
     const int renamed = RenameFaces(b, from, name);

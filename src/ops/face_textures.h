@@ -27,7 +27,7 @@ struct ReplacedTextures {
   int faces = 0;
 };
 // Renames textures throughout the map, except on brushes the group filter leaves out. `from` matches in
-// any case; `to` is written in upper case.
+// any case; `to` is written in upper case, with careful_tools in lower case as all names of a map.
 ReplacedTextures ReplaceTexture(map& m, std::string_view from, std::string_view to);
 
 // Selects every brush with a face of that texture, in any case, that is not selected and that the group

@@ -1,10 +1,13 @@
 #include "ops/transform.h"
 
+#include <array>
 #include <cmath>
 #include <numbers>
+#include <optional>
 #include <utility>
 
 #include "base/text.h"
+#include "geometry/texture_fit.h"
 #include "model/visit.h"
 #include "ops/solids/split_by_face.h"
 
@@ -54,33 +57,50 @@ Place Moved(const vec3& p, const Transform& t) {
   return place;
 }
 
-void TransformOrMove(brush& b, const Transform& transform) {
-  if (b.owner->isModel) {
-    TransformBrush(b, transform);
-  } else {
-    MoveBox(b, transform);
-  }
+int TransformOrMove(brush& b, const Transform& transform) {
+  if (b.owner->isModel) return TransformBrush(b, transform);
+  MoveBox(b, transform);
+  return 0;
+}
+
+using Pins = std::array<PinnedPoint, 3>;
+
+// The plane points of a face with what its texture shows there; none of a degenerate face.
+std::optional<Pins> PinsOf(const face& f, int alignment) {
+  plane facePlane;
+  if (!PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], facePlane)) return std::nullopt;
+  const TextureAxes axes = TextureAxisFromPlane(facePlane.normal, alignment);
+  Pins pins;
+  for (size_t i = 0; i < pins.size(); ++i) pins[i].texel = TexCoordsAt(f.texture, axes, f.planepts[i]);
+  return pins;
+}
+
+// After the points were moved. False when five numbers cannot carry the texture along.
+bool CarryTexture(face& f, Pins pins, int alignment) {
+  plane facePlane;
+  if (!PlaneFromPoints(f.planepts[0], f.planepts[1], f.planepts[2], facePlane)) return true;
+  for (size_t i = 0; i < pins.size(); ++i) pins[i].at = f.planepts[i];
+  const FittedTexture fitted = FitTexture(f.texture, TextureAxisFromPlane(facePlane.normal, alignment), pins);
+  f.texture = fitted.definition;
+  return fitted.exact;
 }
 
 // The exact transforms, of which careful tools spare the boxes of point entities.
 Outcome Apply(map& m, const Matrix& matrix, bool reverse, bool careful, const char* status) {
   const entity* current = m.currentEntity();
+  int left = 0;
   if (current && (careful || current->isModel)) {
     const Transform transform{matrix, SelectionPivot(m), false, reverse};
     m.modified = true;
     VisitBrushes(m, BrushFilter::Selected, [&](brush& b) {
-      if (careful) {
-        TransformOrMove(b, transform);
-      } else {
-        TransformBrush(b, transform);
-      }
+      left += careful ? TransformOrMove(b, transform) : TransformBrush(b, transform);
     });
   }
-  return Outcome::Drawn(Redraw::All, status);
+  return Outcome::Drawn(Redraw::All, WithTexturesLeft(status, left));
 }
 
-void ApplyRounded(map& m, const Matrix& matrix, bool careful) {
-  ApplyToSelection(m, RoundedTransform(matrix, SelectionPivot(m), careful));
+int ApplyRounded(map& m, const Matrix& matrix, bool careful) {
+  return ApplyToSelection(m, RoundedTransform(matrix, SelectionPivot(m), careful));
 }
 
 }  // namespace
@@ -128,12 +148,24 @@ Transform RoundedTransform(const Matrix& matrix, const vec3& centre, bool carefu
   return {matrix, centre, true, careful && Determinant(matrix) < 0};
 }
 
-void TransformBrush(brush& b, const Transform& t) {
+std::string WithTexturesLeft(std::string status, int faces) {
+  if (faces == 0) return status;
+  const std::string left = Format("%i faces could not carry their texture along...", faces);
+  return status.empty() ? left : status + " " + left;
+}
+
+int TransformBrush(brush& b, const Transform& t) {
+  const bool lock = b.locksTextures();
+  const int alignment = lock ? b.owner->parent().settings().texture_alignment : 0;
+  int left = 0;
   for (face& f : b.editFaces()) {
+    const std::optional<Pins> pins = lock ? PinsOf(f, alignment) : std::nullopt;
     for (vec3& p : f.planepts) p = t.whole ? Moved(p, t).rounded() : Moved(p, t).stored();
+    if (pins && !CarryTexture(f, *pins, alignment)) ++left;
     if (t.reverse) std::swap(f.planepts[0], f.planepts[2]);
   }
   b.buildWindings();
+  return left;
 }
 
 void MoveBox(brush& b, const Transform& t) {
@@ -164,13 +196,15 @@ Outcome QuarterTurnSelection(map& m, int axis, bool careful) {
   return Apply(m, QuarterTurnMatrix(axis), false, careful, kQuarterTurned[axis]);
 }
 
-void ApplyToSelection(map& m, const Transform& transform) {
+int ApplyToSelection(map& m, const Transform& transform) {
   m.modified = true;
+  int left = 0;
   VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (!b.selected()) return;
-    TransformOrMove(b, transform);
+    left += TransformOrMove(b, transform);
     if (b.invalid) DestroyBrush(b);
   });
+  return left;
 }
 
 std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform) {
@@ -185,14 +219,14 @@ std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& t
 
 Outcome RotateSelection(map& m, int roll, int pitch, int yaw, bool careful) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  ApplyRounded(m, RotationMatrix(roll, pitch, yaw), careful);
-  return Outcome::Drawn(Redraw::All);
+  const int left = ApplyRounded(m, RotationMatrix(roll, pitch, yaw), careful);
+  return Outcome::Drawn(Redraw::All, WithTexturesLeft("", left));
 }
 
 Outcome ScaleSelection(map& m, double x, double y, double z, bool careful) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  ApplyRounded(m, ScaleMatrix(x, y, z), careful);
-  return Outcome::Drawn(Redraw::All, kScaled);
+  const int left = ApplyRounded(m, ScaleMatrix(x, y, z), careful);
+  return Outcome::Drawn(Redraw::All, WithTexturesLeft(kScaled, left));
 }
 
 }  // namespace velk

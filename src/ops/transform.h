@@ -1,4 +1,5 @@
-// Turning, mirroring and scaling the selection: plane points move, texture definitions stay.
+// Turning, mirroring and scaling the selection: plane points move; texture definitions stay, or with
+// texture_lock change so that textures move along.
 #pragma once
 
 #include <memory>
@@ -45,8 +46,9 @@ struct Transform {
 // Fits the matrix into a whole-numbered transform; careful: a matrix that mirrors reverses faces.
 Transform RoundedTransform(const Matrix& matrix, const vec3& centre, bool careful);
 
-// Moves the points of a brush and rebuilds it. Good for copies that a view draws.
-void TransformBrush(brush& b, const Transform& transform);
+// Moves the points of a brush and rebuilds it. Good for copies that a view draws. Returns how many faces
+// could not carry their texture along.
+int TransformBrush(brush& b, const Transform& transform);
 // The same for the box of a point entity: only its middle follows, by whole numbers.
 void MoveBox(brush& b, const Transform& transform);
 
@@ -58,9 +60,13 @@ vec3 SelectionPivot(map& m);
 Outcome MirrorSelection(map& m, int axis, bool careful);
 Outcome QuarterTurnSelection(map& m, int axis, bool careful);
 
+// The status text after faces that could not carry their texture along; without any the text as it is.
+std::string WithTexturesLeft(std::string status, int faces);
+
 // Applies a whole-numbered transform to every selected brush, those of hidden groups too. Boxes of point
-// entities are moved; brushes that come out invalid are destroyed.
-void ApplyToSelection(map& m, const Transform& transform);
+// entities are moved; brushes that come out invalid are destroyed. Returns how many faces could not carry
+// their texture along.
+int ApplyToSelection(map& m, const Transform& transform);
 // Copies of the selected brushes as that would leave them, for ghosts in the views; they are in no list.
 std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform);
 

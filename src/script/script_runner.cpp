@@ -3,6 +3,7 @@
 #include <fstream>
 #include <utility>
 
+#include "app/texture_drop.h"
 #include "base/error.h"
 #include "base/text.h"
 #include "base/tokenizer.h"
@@ -12,6 +13,7 @@
 #include "commands/views/view_keys.h"
 #include "documents/disk_check.h"
 #include "documents/opening.h"
+#include "documents/wad_reload.h"
 #include "script/script_print.h"
 
 namespace velk {
@@ -51,6 +53,9 @@ void SetModifier(PointerEvent& event, const ScriptWord& word) {
     throw ScriptFailure("no such modifier: " + word.text);
   }
 }
+
+// The texture browser takes part in what views do.
+bool IsTextures(const ScriptWord& view) { return EqualNoCase(view.text, "TEXTURES"); }
 
 ScriptFailure NoLine(const std::vector<ScriptWord>& words) {
   return ScriptFailure(words[0].text + " has no line " + words[1].text);
@@ -93,6 +98,7 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"pick", 2, 2, "pick WINDOW N", &ScriptRunner::pick},
       {"double", 2, 2, "double WINDOW N", &ScriptRunner::doubleClick},
       {"control", 2, 3, "control WINDOW NAME [VALUE]", &ScriptRunner::control},
+      {"timer", 2, 2, "timer TEXTURES N", &ScriptRunner::timer},
       {"offer", 0, 0, "offer", &ScriptRunner::offer},
       {"tick", 0, 0, "tick", &ScriptRunner::tick},
       {"rescue", 0, 0, "rescue", &ScriptRunner::rescue},
@@ -204,22 +210,22 @@ void ScriptRunner::showMap(const Words& words) {
 
 void ScriptRunner::size(const Words& words) {
   constexpr int kLargest = 16384;
-  const int view = ScriptViewNamed(words[0].text);
   const int width = ScriptNumber(words[1]);
   const int height = ScriptNumber(words[2]);
   if (width < 1 || height < 1 || width > kLargest || height > kLargest) {
     throw ScriptFailure("a view is 1 to 16384 pixels wide and high");
   }
-  editor_.views().resize(view, width, height);
+  if (IsTextures(words[0])) return editor_.panels().textures.resize(width, height);
+  editor_.views().resize(ScriptViewNamed(words[0].text), width, height);
 }
 
 void ScriptRunner::press(const Words& words) {
-  const int view = ScriptViewNamed(words[0].text);
   held_ = {};
   held_.button = Button(words[1]);
   held_.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
   for (size_t i = 4; i < words.size(); ++i) SetModifier(held_, words[i]);
-  editor_.input().press(view, held_);
+  if (!IsTextures(words[0])) return editor_.input().press(ScriptViewNamed(words[0].text), held_);
+  if (held_.button == MouseButton::Left) editor_.panels().textures.press(held_.at, held_.shift, held_.ctrl);
 }
 
 // Modifiers besides those of the press.
@@ -229,19 +235,34 @@ void ScriptRunner::moveTo(const Words& words) {
 }
 
 void ScriptRunner::move(const Words& words) {
-  const int view = ScriptViewNamed(words[0].text);
   moveTo(words);
-  editor_.input().move(view, held_);
+  if (IsTextures(words[0])) return editor_.panels().textures.move(held_.at);
+  editor_.input().move(ScriptViewNamed(words[0].text), held_);
 }
 
 void ScriptRunner::release(const Words& words) {
-  const int view = ScriptViewNamed(words[0].text);
   moveTo(words);
-  editor_.input().release(view, held_);
+  if (IsTextures(words[0])) {
+    editor_.panels().textures.release(held_.at);
+  } else {
+    releaseInView(ScriptViewNamed(words[0].text));
+  }
   held_ = {};
 }
 
+// A texture that is dragged out of the browser is dropped.
+void ScriptRunner::releaseInView(int view) {
+  if (editor_.panels().textures.drag() == TexturePanel::Drag::None) {
+    editor_.input().release(view, held_);
+  } else if (view == kCameraView) {
+    DropTexture(editor_, held_.at, held_.ctrl);
+  } else {
+    editor_.panels().textures.cancel();
+  }
+}
+
 void ScriptRunner::wheel(const Words& words) {
+  if (IsTextures(words[0])) return editor_.panels().textures.wheel(ScriptNumber(words[1]));
   const int view = ScriptViewNamed(words[0].text);
   PointerEvent event;
   event.at = {ScriptNumber(words[2]), ScriptNumber(words[3])};
@@ -255,12 +276,15 @@ void ScriptRunner::print(const Words& words) {
 
 void ScriptRunner::checkDisk(const Words&) {
   CheckDisk(editor_.services(), editor_.documents(), editor_.door());
+  ReloadWads(editor_.documents(), editor_.door(), editor_.textures(), editor_.textures().changedWads());
 }
 
 void ScriptRunner::image(const Words& words) {
-  const int view = ScriptViewNamed(words[0].text);
   if (!pictures_) throw ScriptFailure("nothing here can draw pictures");
-  if (!pictures_->savePicture(view, words[1].text)) {
+  const bool saved = IsTextures(words[0])
+                         ? pictures_->saveTextures(words[1].text)
+                         : pictures_->savePicture(ScriptViewNamed(words[0].text), words[1].text);
+  if (!saved) {
     throw ScriptFailure("couldn't write the picture " + words[1].text);
   }
 }
@@ -287,6 +311,11 @@ void ScriptRunner::control(const Words& words) {
   const std::string value = words.size() > 2 ? words[2].text : "";
   if (ScriptPanelNamed(editor_, words[0].text).control(words[1].text, value)) return;
   throw ScriptFailure(words[0].text + " has no control " + words[1].text + " that takes this");
+}
+
+void ScriptRunner::timer(const Words& words) {
+  if (!IsTextures(words[0])) throw ScriptFailure("no such timer: " + words[0].text);
+  for (int n = ScriptNumber(words[1]); n > 0; --n) editor_.panels().textures.tick();
 }
 
 void ScriptRunner::offer(const Words&) { editor_.rescue().offer(); }

@@ -19,6 +19,8 @@ class ScriptPictures {
   virtual ~ScriptPictures() = default;
   // `view` as the editor counts them. False when the file could not be written.
   virtual bool savePicture(int view, const std::string& file) = 0;
+  // The texture browser's contents.
+  virtual bool saveTextures(const std::string& /*file*/) { return false; }
 };
 
 struct ScriptResult {
@@ -65,6 +67,7 @@ class ScriptRunner {
   void moveTo(const Words& words);
   void move(const Words& words);
   void release(const Words& words);
+  void releaseInView(int view);
   void wheel(const Words& words);
   void print(const Words& words);
   void checkDisk(const Words& words);
@@ -73,6 +76,7 @@ class ScriptRunner {
   void pick(const Words& words);
   void doubleClick(const Words& words);
   void control(const Words& words);
+  void timer(const Words& words);
   void offer(const Words& words);
   void tick(const Words& words);
   void rescue(const Words& words);

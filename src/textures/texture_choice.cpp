@@ -3,6 +3,11 @@
 #include "base/text.h"
 
 namespace velk {
+
+std::string TextureChoice::chosenName(const std::string& name) const {
+  return settings_ && settings_->careful_tools ? LowerCase(name) : name;
+}
+
 void TextureChoice::reset() {
   current_.shift[0] = current_.shift[1] = 0;
   current_.rotate = 0;
@@ -15,13 +20,14 @@ void TextureChoice::wadLoaded() {
 }
 
 void TextureChoice::takeFirstTexture(const TextureSet& set) {
-  if (set.count() > 0) current_.name = set.at(0).texture->name;
+  if (set.count() > 0) current_.name = chosenName(set.at(0).texture->name);
 }
 
 bool TextureChoice::selectTexture(TextureSet& set, int index) {
   if (index < 0 || index >= set.count()) return false;
   currentIndex_ = index;
-  current_.name = set.currentName = set.at(index).texture->name;
+  set.currentName = set.at(index).texture->name;
+  current_.name = chosenName(set.currentName);
   return true;
 }
 

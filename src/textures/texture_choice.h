@@ -4,13 +4,16 @@
 #include <string>
 
 #include "geometry/texturedef.h"
+#include "settings/settings.h"
 #include "textures/texture_set.h"
 
 namespace velk {
 
 class TextureChoice {
  public:
-  TextureChoice() { reset(); }
+  // With settings that outlive it, names are chosen in lower case, as maps have them, when careful_tools is
+  // on.
+  explicit TextureChoice(const Settings* settings = nullptr) : settings_(settings) { reset(); }
 
   // What Set Face Texture and new brushes take.
   const texturedef& current() const { return current_; }
@@ -34,6 +37,9 @@ class TextureChoice {
   bool liftTexture(const texturedef& definition, TextureSet* set);
 
  private:
+  std::string chosenName(const std::string& name) const;
+
+  const Settings* settings_;
   texturedef current_;
   int currentIndex_ = 0;
 };

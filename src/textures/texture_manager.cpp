@@ -50,7 +50,25 @@ Wad& TextureManager::openWad(const std::string& name, const WadProgressSink& pro
   if (!wad) Error("Couldn't allocate Wad in NewMap");
   LoadWad(*wad, name, services_, random_, progress);
   wads_.push_front(std::move(wad));
+  ++generation_;
   return *wads_.front();
+}
+
+std::vector<Wad*> TextureManager::changedWads() const {
+  std::vector<Wad*> changed;
+  for (const auto& wad : wads_) {
+    const FileStamp now = StampOf(services_.paths.native(wad->path));
+    if (now.exists && now != wad->onDisk) changed.push_back(wad.get());
+  }
+  return changed;
+}
+
+void TextureManager::reload(Wad& wad, const WadProgressSink& progress) {
+  // A file that cannot be read is not tried again until it changes once more.
+  wad.onDisk = StampOf(services_.paths.native(wad.path));
+  const std::string path = wad.path;
+  LoadWad(wad, path, services_, random_, progress);
+  ++generation_;
 }
 
 int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& progress) {

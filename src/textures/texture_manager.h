@@ -35,6 +35,16 @@ class TextureManager {
   // the map's textures. Returns how many wads were loaded.
   int openMapWads(map& m, TextureSet& set, const WadProgressSink& progress);
 
+  // The wads whose files are others than when they were read. Those that are gone stay as they are.
+  std::vector<Wad*> changedWads() const;
+  // Reads a wad's file again, in its place; sets built of it must be built anew at once, and references of
+  // faces dropped. Fatal as LoadWad is; the wad is unchanged then.
+  void reload(Wad& wad, const WadProgressSink& progress);
+  // Changes when textures were read: pictures made of them are out of date.
+  int generation() const { return generation_; }
+  // With a user there, damaged textures are blank instead of fatal.
+  void setForgiving(bool forgiving) { services_.forgiving = forgiving; }
+
   // Newest first.
   const std::deque<std::unique_ptr<Wad>>& wads() const { return wads_; }
   // The one last loaded; none at first.
@@ -58,6 +68,7 @@ class TextureManager {
   std::unique_ptr<ColormapTable> colormap_;
   std::vector<unsigned char> badPixels_;
   TextureRef badtex_;
+  int generation_ = 0;
 };
 
 }  // namespace velk

@@ -10,6 +10,8 @@
 namespace velk {
 namespace {
 
+constexpr size_t kLongestName = 15;  // that a wad holds
+
 bool IsAnimationName(std::string_view name) { return name.starts_with('+') || name.starts_with('@'); }
 
 std::string_view WithoutFrameMark(std::string_view name) {
@@ -34,6 +36,13 @@ size_t NextWad(const std::vector<Wad*>& wads, const std::vector<size_t>& cursors
 
 }  // namespace
 
+void SetTexture::advance() {
+  currentFrame = (currentFrame + 1) % static_cast<int>(frames.size());
+  const Texture& frame = shown();
+  const bool fits = frame.width == texture->width && frame.height == texture->height;
+  shownPixels = (fits ? frame : *texture).pixels.data();
+}
+
 void TextureSet::build(std::vector<Wad*> wads) {
   wads_ = std::move(wads);
   textures_.clear();
@@ -50,7 +59,9 @@ void TextureSet::merge() {
   for (size_t w = NextWad(wads_, cursors); w < wads_.size(); w = NextWad(wads_, cursors)) {
     Texture* texture = wads_[w]->textures[cursors[w]++].get();
     if (textures_.empty() || compareTextureNames(textures_.back().texture->name, texture->name) != 0) {
-      textures_.push_back({texture, {}, 0, 0});
+      SetTexture& added = textures_.emplace_back();
+      added.texture = texture;
+      added.shownPixels = texture->pixels.data();
     }
   }
 }
@@ -77,13 +88,20 @@ void TextureSet::indexNames() {
 }
 
 int TextureSet::find(std::string_view name) const {
-  const auto found = places_.find(UpperCase(name));
+  std::string wanted = UpperCase(name);
+  auto found = places_.find(wanted);
+  if (found == places_.end() && wanted.size() > kLongestName) {
+    wanted.resize(kLongestName);
+    found = places_.find(wanted);
+  }
   return found == places_.end() ? -1 : found->second;
 }
 
 int TextureSet::indexOf(std::string_view name) const {
   const int place = find(name);
-  return place >= 0 && EqualNoCase(at(place).texture->name, name) ? place : -1;
+  if (place < 0) return -1;
+  const std::string& own = at(place).texture->name;
+  return EqualNoCase(own, name) || EqualNoCase(own, name.substr(0, kLongestName)) ? place : -1;
 }
 
 Texture* TextureSet::findTexture(std::string_view name) const {
@@ -93,13 +111,17 @@ Texture* TextureSet::findTexture(std::string_view name) const {
 
 std::unique_ptr<TextureRef> TextureSet::makeTextureRef(std::string_view name) const {
   if (!built_) return nullptr;
-  const Texture* texture = findTexture(name);
-  if (!texture) return std::make_unique<TextureRef>(*badtex_);
+  const int place = find(name);
+  if (place < 0) return std::make_unique<TextureRef>(*badtex_);
+  const SetTexture& found = at(place);
+  const Texture* texture = found.texture;
+  found.referenced = true;
   auto ref = std::make_unique<TextureRef>();
   ref->name = texture->name;
   ref->width = texture->width;
   ref->height = texture->height;
   ref->pixels = texture->pixels.data();
+  if (found.animated()) ref->frame = &found.shownPixels;
   const Colour& colour = texture->averageColour;
   ref->colour = {static_cast<unsigned char>(colour.red), static_cast<unsigned char>(colour.green),
                  static_cast<unsigned char>(colour.blue), 0};
@@ -117,8 +139,9 @@ void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
   const int slots = std::max(0, m.settings().numfav);
   std::vector<std::string> favourites;
   for (const std::string& name : m.favourites) {
+    if (name.empty() || std::ssize(favourites) >= slots) continue;
     const Texture* texture = set.findTexture(name);
-    if (texture && std::ssize(favourites) < slots) favourites.push_back(texture->name);
+    favourites.push_back(texture ? texture->name : name);
   }
   if (m.favourites.empty()) {
     for (int i = 0; i < std::min(slots, set.count()); ++i) favourites.push_back(set.at(i).texture->name);

@@ -21,8 +21,15 @@ struct SetTexture {
   std::vector<Texture*> frames;  // the head and those that follow; empty without animation
   int currentFrame = 0;          // 0..frames.size()-1
   int useCount = 0;              // faces of the map, as last counted
+  // The pixels of the current frame, for references to follow; a frame of another size shows the head's.
+  const unsigned char* shownPixels = nullptr;
+  mutable bool referenced = false;  // a face has a reference to it
 
   bool animated() const { return !frames.empty(); }
+  bool isSky() const { return texture->sky != nullptr; }
+  const Texture& shown() const { return animated() ? *frames[static_cast<size_t>(currentFrame)] : *texture; }
+  // On to the next frame; after the last comes the first.
+  void advance();
 };
 
 class TextureSet {
@@ -40,8 +47,9 @@ class TextureSet {
   const SetTexture& at(int index) const { return textures_[static_cast<size_t>(index)]; }
   SetTexture& at(int index) { return textures_[static_cast<size_t>(index)]; }
 
-  // The place of the texture of that name, in any case; frames of an animation lead to its head. -1
-  // when there is none.
+  // The place of the texture of that name, in any case; frames of an animation lead to its head. Wads hold
+  // 15 characters: a longer name that is not found leads to the texture of its first 15. -1 when there is
+  // none.
   int find(std::string_view name) const;
   // The same for names of the set's own textures only.
   int indexOf(std::string_view name) const;
@@ -67,9 +75,10 @@ class TextureSet {
   bool built_ = false;
 };
 
-// Builds the map's set and settles its favourites: the ones it names that are in the set, or, when it
-// has no slots yet, the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are
-// dropped. No memory is fatal "Couldn't allocate favorites...".
+// Builds the map's set and settles its favourites: the ones it names, of which those that no wad has now keep
+// their places for the day when it does; or, when it has no slots yet, the first textures. Afterwards it has
+// numfav slots, the free ones empty. Face caches are dropped. No memory is fatal "Couldn't allocate
+// favorites...".
 void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
 
 // Favourites are kept in the map, by name. The place in the set of the one in a slot, -1 for a free slot.

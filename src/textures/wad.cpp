@@ -86,12 +86,13 @@ void LoadWad(Wad& wad, const std::string& name, const WadServices& services, Ran
   loaded.path = FindWad(name, services);
   if (!IsFile(services.paths, loaded.path)) Error("Texture:  Couldn't open wad file...");
   const ErrorPlace place([&] { return "reading [" + name + "]"; });
+  loaded.onDisk = StampOf(services.paths.native(loaded.path));
   const std::string contents = LoadFileOr(services.paths, loaded.path, "Texture:  Couldn't open wad file...");
   loaded.palette = loadPalette(contents, loaded.path, services);
   BrightenPalette(loaded.palette, services.settings.gammashift);
   loaded.colours = MakeColourTable(loaded.palette);
   loaded.outlines = FindOutlines(loaded.palette, services.settings);
-  LoadTextures(contents, loaded, services.settings.t_skyspeed, random, progress);
+  LoadTextures(contents, loaded, services.settings.t_skyspeed, random, progress, services.forgiving);
   wad = std::move(loaded);
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/files.h"
 #include "base/paths.h"
 #include "base/prompts.h"
 #include "settings/settings.h"
@@ -25,6 +26,7 @@ struct OutlineIndices {
 
 struct Wad {
   std::string path;                                // as given or chosen
+  FileStamp onDisk;                                // of the file when it was read
   std::vector<std::unique_ptr<Texture>> textures;  // in compareTextureNames order
   Palette palette{};                               // after the brightness shift
   ColourTable colours{};
@@ -48,6 +50,8 @@ struct WadServices {
   const Settings& settings;
   const Paths& paths;
   Prompts& prompts;
+  // A lump that the file does not hold whole becomes a blank texture instead of an error.
+  bool forgiving = false;
 };
 
 OutlineIndices FindOutlines(const Palette& palette, const Settings& settings);
@@ -70,8 +74,9 @@ void LoadWad(Wad& wad, const std::string& name, const WadServices& services, Ran
 Palette loadPalette(std::string_view contents, const std::string& path, const WadServices& services);
 
 // The textures of the wad file with these contents, into a wad whose path and palette are set. A lump
-// that cannot be a picture (size on disk out of range, no pixels) becomes a blank one of 32 by 32.
+// that cannot be a picture (size on disk out of range, no pixels) becomes a blank one of 32 by 32; forgiving:
+// so does one whose pixels are not all there.
 void LoadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
-                  const WadProgressSink& progress);
+                  const WadProgressSink& progress, bool forgiving = false);
 
 }  // namespace velk

@@ -23,8 +23,7 @@ WadLump ReadEntry(const FileBytes& file, std::int64_t at) {
 }  // namespace
 
 std::string_view FileBytes::at(std::int64_t offset, std::int64_t size) const {
-  if (offset < 0 || size < 0 || offset > this->size() || size > this->size() - offset)
-    Error("Error:  couldn't read bits...");
+  if (!holds(offset, size)) Error("Error:  couldn't read bits...");
   return contents_.substr(static_cast<size_t>(offset), static_cast<size_t>(size));
 }
 

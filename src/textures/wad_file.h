@@ -15,6 +15,9 @@ class FileBytes {
 
   std::int64_t size() const { return static_cast<std::int64_t>(contents_.size()); }
 
+  bool holds(std::int64_t offset, std::int64_t size) const {
+    return offset >= 0 && size >= 0 && offset <= this->size() && size <= this->size() - offset;
+  }
   // The bytes of that place; fatal "Error:  couldn't read bits..." when the file has them not all.
   std::string_view at(std::int64_t offset, std::int64_t size) const;
   std::uint32_t uint32At(std::int64_t offset) const;

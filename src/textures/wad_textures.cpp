@@ -23,11 +23,12 @@ constexpr std::int64_t kMaxPixelsPerByte = 16;
 
 class TextureReader {
  public:
-  TextureReader(const FileBytes& file, const Palette& palette, int skySpeed, Random& random)
+  TextureReader(const FileBytes& file, const Palette& palette, int skySpeed, Random& random, bool forgiving)
       : file_(file),
         palette_(palette),
         skySpeed_(skySpeed),
         random_(random),
+        forgiving_(forgiving),
         pixelsLeft_(file.size() * kMaxPixelsPerByte) {}
 
   std::unique_ptr<Texture> read(const WadLump& lump, int index) {
@@ -42,6 +43,7 @@ class TextureReader {
  private:
   // False when the lump's size leaves no picture.
   bool readPicture(const WadLump& lump, Texture& texture) {
+    if (forgiving_ && !isWhole(lump)) return false;
     file_.at(lump.offset, kHeaderSize);
     const std::uint32_t width = file_.uint32At(lump.offset + kWidthAt);
     const std::uint32_t height = file_.uint32At(lump.offset + kHeightAt);
@@ -53,6 +55,16 @@ class TextureReader {
     fill(texture, pixels);
     if (sky) makeSky(texture);
     return true;
+  }
+
+  // Whether header and pixels lie in the file.
+  bool isWhole(const WadLump& lump) const {
+    if (!file_.holds(lump.offset, kHeaderSize)) return false;
+    const std::uint64_t count =
+        std::uint64_t{file_.uint32At(lump.offset + kWidthAt)} * file_.uint32At(lump.offset + kHeightAt);
+    return count <= static_cast<std::uint64_t>(pixelsLeft_) &&
+           file_.holds(std::int64_t{lump.offset} + file_.uint32At(lump.offset + kFirstMipAt),
+                       static_cast<std::int64_t>(count));
   }
 
   std::string_view pixelsOf(const WadLump& lump, std::uint64_t count) {
@@ -94,6 +106,7 @@ class TextureReader {
   const Palette& palette_;
   int skySpeed_;
   Random& random_;
+  bool forgiving_;
   std::int64_t pixelsLeft_;
 };
 
@@ -110,14 +123,14 @@ void ReportLump(const WadProgressSink& progress, const std::string& path, int lu
 }  // namespace
 
 void LoadTextures(std::string_view contents, Wad& wad, int skySpeed, Random& random,
-                  const WadProgressSink& progress) {
+                  const WadProgressSink& progress, bool forgiving) {
   if (!HasWadMark(contents)) Error("Error: %s isn't a WAD type wadfile", wad.path.c_str());
   const FileBytes file(contents);
   const std::vector<WadLump> directory = ReadWadDirectory(file);
   const int lumps = static_cast<int>(directory.size());
   Report(progress, WadProgress::Step::Start, "", 0, lumps);
   std::vector<std::unique_ptr<Texture>> textures;
-  TextureReader reader(file, wad.palette, skySpeed, random);
+  TextureReader reader(file, wad.palette, skySpeed, random, forgiving);
   for (int i = 0; i < lumps; ++i) {
     if (i % kReportEvery == 0) ReportLump(progress, wad.path, i, lumps);
     const WadLump& lump = directory[static_cast<size_t>(i)];

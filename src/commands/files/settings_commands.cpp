@@ -54,17 +54,24 @@ void Choose(MouseBindings* bindings, int setup) {
   if (bindings && setup >= 0 && setup < static_cast<int>(bindings->setups.size())) bindings->current = setup;
 }
 
+// The texture browser goes by the settings, too.
+Outcome Shown(const char* status) {
+  Outcome outcome = Outcome::Drawn(Redraw::All, status);
+  outcome.textures = true;
+  return outcome;
+}
+
 }  // namespace
 
 Outcome AskPreferences(Editor& editor) {
   FillIn(editor, PreferencesForm(editor.settings()), StorePreferences, "Couldn't open velk.ini");
-  return Outcome::Drawn(Redraw::All, "Preferences set...");
+  return Shown("Preferences set...");
 }
 
 Outcome AskColours(Editor& editor) {
   FillIn(editor, ColoursForm(editor.settings()), StoreColours, "Couldn't open [VelkColors] of velk.ini");
   editor.textures().remapOutlineColours();
-  return Outcome::Drawn(Redraw::All, "Colors set...");
+  return Shown("Colors set...");
 }
 
 Outcome AskDirectories(Editor& editor) {

@@ -104,7 +104,8 @@ void TVelkWindow::buildWindows() {
   const auto await = [this](ToolWindow window, const char* line) {
     children_->add(window, Placeholder(WindowTitle(editor_, window), line));
   };
-  await(ToolWindow::Textures, "Thumbnails of the textures come here.");
+  textures_ = new TTextureWindow(editor_);
+  children_->add(ToolWindow::Textures, textures_);
   children_->add(ToolWindow::SelectedBrush, brush_);
   for (int view = 0; view < kPlanViews; ++view) {
     auto* window = new TXYViewWindow(editor_, view);
@@ -247,6 +248,8 @@ void TVelkWindow::changed(const Changes& what) {
 // The entities that are edited together are those selected.
 void TVelkWindow::toolWindowsChanged(const Changes& what) {
   if (brush_ && (what.selectedBrush || what.maps)) brush_->refresh();
+  if (textures_ && what.textures) textures_->refresh();
+  if (textures_ && what.entity) textures_->contentsChanged();
   if (entities_ && what.maps) entities_->reloadClasses();
   if (entities_ && (what.entity || what.selectedBrush)) entities_->refresh();
   if (!groups_) return;

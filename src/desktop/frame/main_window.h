@@ -20,6 +20,7 @@
 #include "desktop/windows/help_window.h"
 #include "desktop/windows/input_clock.h"
 #include "desktop/windows/plan_view_window.h"
+#include "desktop/windows/texture_window.h"
 
 namespace velk {
 
@@ -77,6 +78,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   EntityView* entities_ = nullptr;
   TGroupWindow* groups_ = nullptr;
   TCameraWindow* camera_ = nullptr;
+  TTextureWindow* textures_ = nullptr;
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   InputClock* clock_ = nullptr;
   ChildWindows* children_ = nullptr;

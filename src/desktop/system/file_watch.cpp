@@ -7,6 +7,7 @@
 
 #include "desktop/system/path_text.h"
 #include "documents/disk_check.h"
+#include "documents/wad_reload.h"
 
 namespace velk {
 namespace {
@@ -35,12 +36,14 @@ FileWatch::FileWatch(Editor& editor, QWidget& frame) : QObject(&frame), editor_(
 // A file that is replaced drops out of the watch, one that is gone cannot be watched: its folder tells.
 void FileWatch::follow() {
   QStringList wanted;
-  for (int i = 0; i < editor_.documents().count(); ++i) {
-    const std::filesystem::path file = editor_.services().paths.native(editor_.documents().at(i)->model.name);
+  const auto want = [&](const std::string& path) {
     std::error_code failed;
+    const std::filesystem::path file = editor_.services().paths.native(path);
     const std::filesystem::path actual = std::filesystem::weakly_canonical(file, failed);
     wanted << PathText(actual.string()) << PathText(actual.parent_path().string());
-  }
+  };
+  for (int i = 0; i < editor_.documents().count(); ++i) want(editor_.documents().at(i)->model.name);
+  for (const auto& wad : editor_.textures().wads()) want(wad->path);
   const QStringList before = watcher_.files() + watcher_.directories();
   for (const QString& path : before) {
     if (!wanted.contains(path)) watcher_.removePath(path);
@@ -60,6 +63,7 @@ void FileWatch::check() {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
     CheckDisk(editor_.services(), editor_.documents(), editor_.door());
+    ReloadWads(editor_.documents(), editor_.door(), editor_.textures(), editor_.textures().changedWads());
     follow();
   }
 }

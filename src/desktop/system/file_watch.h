@@ -1,4 +1,4 @@
-// Notices that files of open maps were changed by others.
+// Notices that files of open maps, or wads, were changed by others.
 #pragma once
 
 #include <QFileSystemWatcher>
@@ -9,9 +9,9 @@
 
 namespace velk {
 
-// Lets the editor check the disk a moment after a file or its folder changed, so that whoever writes it can
-// finish, and when the user comes back to the frame. While the user is elsewhere, in a dialog or dragging,
-// the check waits.
+// Lets the editor check the disk, and read wads that changed again, a moment after a file or its folder
+// changed, so that whoever writes it can finish, and when the user comes back to the frame. While the user is
+// elsewhere, in a dialog or dragging, the check waits.
 class FileWatch : public QObject {
   Q_OBJECT
  public:

@@ -10,6 +10,7 @@
 #include "desktop/system/picture_file.h"
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/plan_view_window.h"
+#include "desktop/windows/texture_view.h"
 #include "script/script_runner.h"
 
 namespace velk {
@@ -26,6 +27,10 @@ class Pictures : public ScriptPictures {
                                ? PictureOfCamera(editor_, 1)
                                : PictureOfPlanView(editor_, view, 1, QGuiApplication::palette());
     return SavePng(picture, file);
+  }
+
+  bool saveTextures(const std::string& file) override {
+    return SavePng(PictureOfTextures(editor_, 1, true), file);
   }
 
  private:

@@ -35,8 +35,8 @@ class RotateDrag : public Drag {
 
   Outcome finish(const MouseContext& context, const DragState& /*state*/) override {
     copies_.clear();
-    if (degrees_ != 0) ApplyToSelection(context.model, turn(context));
-    return Outcome::Drawn(Redraw::All);
+    const int left = degrees_ != 0 ? ApplyToSelection(context.model, turn(context)) : 0;
+    return Outcome::Drawn(Redraw::All, WithTexturesLeft("", left));
   }
 
   void draw(const DragState& state, Overlay& overlay) const override {

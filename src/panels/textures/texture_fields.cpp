@@ -10,8 +10,8 @@ namespace {
 constexpr double kScaleStep = 0.1;
 constexpr double kFullTurn = 360;
 
-float SteppedRotation(float degrees, int direction) {
-  double turned = std::fmod(degrees + 5.0 * direction, kFullTurn);
+float WithinTurn(double degrees) {
+  double turned = std::fmod(degrees, kFullTurn);
   if (turned < 0) turned += kFullTurn;
   const auto stored = static_cast<float>(turned);
   return stored < kFullTurn ? stored : 0;
@@ -25,6 +25,13 @@ float SteppedScale(float scale, int direction) {
 
 }  // namespace
 
+std::optional<TextureField> TextureFieldNamed(std::string_view label) {
+  for (int i = 0; i < kTextureFields; ++i) {
+    if (EqualNoCase(label, kTextureFieldLabels[i])) return static_cast<TextureField>(i);
+  }
+  return std::nullopt;
+}
+
 void StepTextureField(TextureChoice& choice, TextureField field, int direction) {
   texturedef stepped = choice.current();
   switch (field) {
@@ -35,7 +42,7 @@ void StepTextureField(TextureChoice& choice, TextureField field, int direction) 
       stepped.shift[1] += static_cast<float>(direction);
       break;
     case TextureField::Rotate:
-      stepped.rotate = SteppedRotation(stepped.rotate, direction);
+      stepped.rotate = WithinTurn(stepped.rotate + 5.0 * direction);
       break;
     case TextureField::ScaleS:
       stepped.scale[0] = SteppedScale(stepped.scale[0], direction);
@@ -45,6 +52,46 @@ void StepTextureField(TextureChoice& choice, TextureField field, int direction) 
       break;
   }
   choice.setCurrent(stepped);
+}
+
+void SetTextureField(TextureChoice& choice, TextureField field, double value) {
+  texturedef typed = choice.current();
+  const auto number = static_cast<float>(value);
+  switch (field) {
+    case TextureField::ShiftS:
+      typed.shift[0] = number;
+      break;
+    case TextureField::ShiftT:
+      typed.shift[1] = number;
+      break;
+    case TextureField::Rotate:
+      typed.rotate = WithinTurn(value);
+      break;
+    case TextureField::ScaleS:
+      typed.scale[0] = number == 0 ? 1 : number;
+      break;
+    case TextureField::ScaleT:
+      typed.scale[1] = number == 0 ? 1 : number;
+      break;
+  }
+  choice.setCurrent(typed);
+}
+
+double TextureFieldValue(const TextureChoice& choice, TextureField field) {
+  const texturedef& t = choice.current();
+  const float values[] = {t.shift[0], t.shift[1], t.rotate, t.scale[0], t.scale[1]};
+  return static_cast<double>(values[static_cast<size_t>(field)]);
+}
+
+void HeldTextureButton::press(TextureField field, int direction) {
+  field_ = field;
+  direction_ = direction;
+  elapsed_ = 0;
+}
+
+bool HeldTextureButton::tick() {
+  elapsed_ += kHeldButtonTick;
+  return runs() && elapsed_ >= kHeldButtonDelay;
 }
 
 std::string TextureFieldText(const TextureChoice& choice, TextureField field) {

@@ -1,0 +1,1 @@
+velk_bench(panels SOURCES panels_bench.cpp USES textures)
