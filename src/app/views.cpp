@@ -24,7 +24,7 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .shown = documents_.currentMap(),
           .strip = strip,
           .groupName = {},
-          .leakPoints = {},
+          .leakPoints = leaks.points(),
           .preview = dragPreview};
 }
 

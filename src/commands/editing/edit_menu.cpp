@@ -1,6 +1,7 @@
 // Commands of the Edit menu: undo, the clipboard, and what changes the selected brushes.
 #include "app/editor.h"
 #include "base/text.h"
+#include "commands/building/build_commands.h"
 #include "commands/command_tables.h"
 #include "commands/editing/transform_commands.h"
 #include "ops/clipboard.h"
@@ -106,6 +107,9 @@ const Command kRows[] = {
      .run = SnapToGrid},
     {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.",
      .reason = "not built yet: the leak search"},
+    {.id = 1415, .name = "CM_CHECK_MAP", .menu = "&Edit", .label = "Check Map...", .keyText = "Shift-F7",
+     .keys = "Shift+F7", .hint = "Look for what a compiler or the game would trip over", .enabled = MapOpen,
+     .run = CheckMapNow},
 };
 // clang-format on
 

@@ -13,7 +13,9 @@
 #include "desktop/frame/map_tabs.h"
 #include "desktop/frame/status_bar.h"
 #include "desktop/system/file_watch.h"
+#include "desktop/system/qt_programs.h"
 #include "desktop/windows/brush_window.h"
+#include "desktop/windows/build_window.h"
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/help_window.h"
 #include "desktop/windows/plan_view_window.h"
@@ -51,6 +53,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void changed(const Changes& what) override;
   void loadProgress(const std::string& text, int done, int total) override;
   void helpRequested() override;
+  void buildRequested() override;
   void exitRequested() override;
 
   void mapsChanged();
@@ -65,6 +68,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   QMdiArea* area_;
   TVelkStatusBar* status_;
   HelpWindow* help_ = nullptr;              // made when first asked for
+  TBuildWindow* build_ = nullptr;           // the same
   FileWatch* watch_ = nullptr;              // none without a user
   MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
@@ -73,6 +77,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   std::array<TXYViewWindow*, kPlanViews> planViews_{};
   ChildWindows* children_ = nullptr;
   std::vector<TVelkControlBar*> bars_;
+  QtPrograms programs_;
   QTimer ticks_;
   bool arranged_ = false;
   bool keepsState_ = false;

@@ -6,7 +6,6 @@
 #include <chrono>
 
 #include "desktop/system/path_text.h"
-#include "documents/disk_check.h"
 
 namespace velk {
 namespace {
@@ -59,7 +58,7 @@ void FileWatch::check() {
   if (IsBusy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
-    CheckDisk(editor_.services(), editor_.documents(), editor_.door());
+    editor_.checkDisk();
     follow();
   }
 }

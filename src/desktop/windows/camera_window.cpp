@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "camera/compass.h"
+#include "camera/leak_line.h"
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/windows/pointer_events.h"
@@ -68,6 +69,8 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   if (editor.settings().drawmode == kWireMode) {
     DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
   }
+  DrawLeakLine(canvas, {width, height}, editor.views().renderSize(), *shown, editor.settings(),
+               editor.views().lens, editor.views().leaks.points());
   DrawOverlays(editor, *shown, canvas, width);
   return image;
 }
