@@ -87,9 +87,7 @@ class BrushCheck {
     return width;
   }
 
-  // Boxes of point entities may stand in one another.
   void lookForTwin() {
-    if (!owner_->isModel) return;
     const auto key = std::hash<double>()(double(brush_->mins.x) * 73 + double(brush_->mins.y) * 7919 +
                                          double(brush_->mins.z) * 104729 + double(brush_->maxs.x) * 13 +
                                          double(brush_->maxs.y) * 17 + double(brush_->maxs.z) * 19);
@@ -116,7 +114,6 @@ class BrushCheck {
 
   // One finding a brush and texture.
   void lookAtTexture(const face& f, int number) {
-    if (!owner_->isModel) return;
     const auto& faces = brush_->faces();
     const auto first = std::ranges::find(faces, f.texture.name, [](const face& g) { return g.texture.name; });
     if (first - faces.begin() != number) return;
@@ -140,7 +137,10 @@ class BrushCheck {
 
 void CheckBrushes(map& m, const TextureSet& textures, std::vector<CheckFinding>& findings) {
   BrushCheck check(textures, findings);
-  for (int i = 0; i < m.numentities(); ++i) check.look(*m.at(i), i);
+  for (int i = 0; i < m.numentities(); ++i) {
+    // Boxes of point entities are not in the file.
+    if (m.at(i)->isModel) check.look(*m.at(i), i);
+  }
 }
 
 }  // namespace velk

@@ -79,6 +79,7 @@ QWidget* TBuildWindow::buildContents() {
   column->addWidget(row);
 
   pages_ = new QTabBar(contents);
+  pages_->setExpanding(false);
   pages_->addTab("Output");
   pages_->addTab("Check");
   pages_->setFocusPolicy(Qt::NoFocus);
