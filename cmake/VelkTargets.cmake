@@ -25,7 +25,7 @@ endif()
 # The ladder: a library may link only to libraries above it in this list, so that an include in
 # the wrong direction does not build. Each folder's headers are reachable only as "folder/name.h"
 # through the include directory of its own target.
-set(VELK_LADDER base settings entities geometry model mapfile textures ops makers planview camera mouse
+set(VELK_LADDER base settings entities geometry model mapfile textures ops makers planview camera mouse build
     documents panels app commands script desktop)
 
 # What a room may hold; a larger one is two rooms. Folders within a folder count singly.

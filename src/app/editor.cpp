@@ -3,7 +3,9 @@
 #include "base/error.h"
 #include "base/ini_file.h"
 #include "base/text.h"
+#include "documents/disk_check.h"
 #include "documents/saving.h"
+#include "documents/wad_reload.h"
 
 namespace velk {
 
@@ -16,7 +18,8 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
       documents_(services_, classes_, textures_, texture_),
       door_(services_, documents_),
       rescue_(services_, documents_, door_),
-      panels_({services_, documents_, door_, classes_, textures_, texture_}),
+      build_(paths_, settings_),
+      panels_({services_, documents_, door_, classes_, textures_, texture_}, build_),
       views_(settings_, documents_, textures_),
       input_(services_, documents_, door_, views_, texture_, place_.home),
       windows_(services_) {
@@ -31,6 +34,10 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
     return windows_.windows().placement(ToolWindow::Textures).state == ShowState::Minimised;
   };
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
+  panels_.build.centreOn = [this](const vec3& at) { views_.plans.planCenter = at; };
+  panels_.build.showLeaks = [this](std::vector<vec3> points, const std::string& file) {
+    views_.leaks.show(std::move(points), file);
+  };
 }
 
 void Editor::start() {
@@ -82,6 +89,22 @@ void Editor::attend() {
   services_.attended = true;
   textures_.setForgiving(true);
   documents_.recent().keepIn(place_.stateFile());
+}
+
+void Editor::checkDisk() {
+  CheckDisk(services_, documents_, door_);
+  ReloadWads(documents_, door_, textures_, textures_.changedWads());
+  if (settings_.watch_leaks) watchLeaks();
+}
+
+void Editor::watchLeaks() {
+  MapDocument* document = documents_.current();
+  const auto file = document ? document->leakFiles.changed(paths_, document->model.name) : std::nullopt;
+  if (!file) return;
+  std::vector<vec3> points = ReadLeakFile(paths_, *file);
+  if (points.empty()) return;
+  views_.leaks.show(std::move(points), *file);
+  door_.show(Outcome::Drawn(Redraw::All, Format("Leak file [%s] processed...", file->c_str())));
 }
 
 void Editor::requestExit() {

@@ -10,6 +10,7 @@
 #include "app/view_input.h"
 #include "app/views.h"
 #include "app/window_places.h"
+#include "build/build_tools.h"
 #include "documents/documents.h"
 #include "documents/door.h"
 #include "documents/rescue_keeper.h"
@@ -31,6 +32,9 @@ class Editor {
   void start();
   // From now on a user sits before the editor; see Services.
   void attend();
+  // Looks for what others changed on disk: the files of open maps, and leak files beside the current one. To
+  // be called when something hints at it, while no dialog is open.
+  void checkDisk();
   // The user asked to exit and gave no Cancel.
   void requestExit();
   bool exiting() const { return exiting_; }
@@ -54,6 +58,8 @@ class Editor {
   const Views& views() const { return views_; }
   ViewInput& input() { return input_; }
   const ViewInput& input() const { return input_; }
+  BuildTools& build() { return build_; }
+  const BuildTools& build() const { return build_; }
   WindowPlaces& windows() { return windows_; }
   const WindowPlaces& windows() const { return windows_; }
 
@@ -61,6 +67,7 @@ class Editor {
   void loadSettings();
   void checkBadtex();
   void startTextures();
+  void watchLeaks();
 
   EditorPlace place_;
   Paths paths_;
@@ -73,6 +80,7 @@ class Editor {
   Documents documents_;
   Door door_;
   RescueKeeper rescue_;
+  BuildTools build_;
   Panels panels_;
   Views views_;
   ViewInput input_;

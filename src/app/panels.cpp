@@ -9,6 +9,7 @@ Panel* Panels::named(std::string_view name) {
   if (EqualNoCase(name, "ENTITY")) return &entities;
   if (EqualNoCase(name, "GROUPS")) return &groups;
   if (EqualNoCase(name, "BRUSH")) return &brush;
+  if (EqualNoCase(name, "BUILD")) return &build;
   return nullptr;
 }
 

@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 
 constexpr std::array kPaths{&Settings::entity_qc_directory, &Settings::wad_directory,
                             &Settings::map_directory,       &Settings::bat_directory,
-                            &Settings::bspbuild_directory,  &Settings::badtex};
+                            &Settings::bspbuild_directory,  &Settings::badtex,
+                            &Settings::compiler_directory};
 
 std::string Environment(const char* name) {
   const char* value = std::getenv(name);

@@ -25,7 +25,7 @@ PlanScene Views::planScene(const StripColours& strip) const {
           .shown = documents_.currentMap(),
           .strip = strip,
           .groupName = groupName(),
-          .leakPoints = {},
+          .leakPoints = leaks.points(),
           .preview = dragPreview,
           .ghosts = ghosts};
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "build/leak_trail.h"
 #include "camera/movement.h"
 #include "camera/renderer.h"
 #include "documents/documents.h"
@@ -20,6 +21,7 @@ class Views {
 
   PlanViewSet plans;
   WireLens lens;
+  LeakTrail leaks;
   // The copy that a running drag shows in place of a brush, or none.
   std::function<const brush*(const brush&)> dragPreview;
   // What an open dialog would make: drawn over the map, and no part of it.

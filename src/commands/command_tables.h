@@ -35,6 +35,7 @@ std::span<const Command> EditCommands();
 std::span<const Command> SelectCommands();
 std::span<const Command> MakeCommands();
 std::span<const Command> TextureCommands();
+std::span<const Command> ExportCommands();
 std::span<const Command> MapCommands();
 std::span<const Command> DisplayCommands();
 std::span<const Command> WindowCommands();

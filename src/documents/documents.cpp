@@ -73,10 +73,17 @@ std::unique_ptr<MapDocument> Documents::read(const std::string& path) {
   made->onDisk = made->seenOnDisk = StampOf(services_.paths.native(path));
   const MapReadResult read = ReadMapFile(made->model, path, readOptions());
   made->model.name = path;
+  made->leakFiles.changed(services_.paths, path);
   made->model.favourites = read.favourites;
   textures_.openMapWads(made->model, made->textures, wadProgress());
   offerFirstTexture(*made);
   return made;
+}
+
+void Documents::merge(map& m, const std::string& path) {
+  MapReadOptions options = readOptions();
+  options.whole = services_.settings.careful_tools;
+  MergeMapFile(m, path, options);
 }
 
 void Documents::add(std::unique_ptr<MapDocument> added) {

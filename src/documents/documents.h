@@ -38,6 +38,8 @@ class Documents {
   // a map is.
   std::unique_ptr<MapDocument> makeNew();
   std::unique_ptr<MapDocument> read(const std::string& path);
+  // Adds the entities of a file to an open map; all or nothing. Fatal as a merge is.
+  void merge(map& m, const std::string& path);
   // Adds a map to the list, which must have room, and makes it current.
   void add(std::unique_ptr<MapDocument> added);
   // Makes another map current; an index outside the range is ignored.

@@ -32,6 +32,8 @@ class Observer {
   virtual void loadProgress(const std::string& /*text*/, int /*done*/, int /*total*/) {}
   // The user asked for the manual.
   virtual void helpRequested() {}
+  // The user asked for the build window, or started a build that it is to show.
+  virtual void buildRequested() {}
   // The user asked to exit and gave no Cancel.
   virtual void exitRequested() {}
 };

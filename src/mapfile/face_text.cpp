@@ -13,41 +13,15 @@
 #endif
 
 #include "base/error.h"
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace velk {
 namespace {
 
-constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 1e9,
-                                   1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
-
-// A plain decimal number: digits with an optional minus sign and fraction. Up to 15 digits and powers of
-// ten up to 22 are exact as doubles, so one division gives the nearest double.
-bool ParsePlainNumber(std::string_view text, double& value) {
-  const bool negative = text.starts_with('-');
-  text.remove_prefix(negative);
-  if (text.empty() || text.size() > 16) return false;
-  std::int64_t digits = 0;
-  size_t point = text.size();
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '.' && point == text.size()) {
-      point = i;
-    } else if (text[i] >= '0' && text[i] <= '9') {
-      digits = digits * 10 + (text[i] - '0');
-    } else {
-      return false;
-    }
-  }
-  const size_t fraction = point == text.size() ? 0 : text.size() - point - 1;
-  if (fraction == 0 && text.size() > 15) return false;
-  value = static_cast<double>(digits) / kPowersOfTen[fraction];
-  if (negative) value = -value;
-  return point > 0;
-}
-
 double NumberOf(std::string_view text) {
   double value = 0;
-  return ParsePlainNumber(text, value) ? value : TextToDouble(text);
+  return PlainNumber(text, value) ? value : TextToDouble(text);
 }
 
 float StoredNumber(double value) { return static_cast<float>(std::clamp<double>(value, -FLT_MAX, FLT_MAX)); }
@@ -58,8 +32,8 @@ float Coordinate(double value, bool& cut) {
   return static_cast<float>(Truncate(value));
 }
 
-void Require(const Tokenizer& tokens, std::string_view expected) {
-  if (tokens.token() != expected) Error("parsing map file");
+void Require(const Tokenizer& tokens, std::string_view expected, const char* message) {
+  if (tokens.token() != expected) Error("%s", message);
 }
 
 std::string_view SameLineToken(Tokenizer& tokens) {
@@ -67,11 +41,11 @@ std::string_view SameLineToken(Tokenizer& tokens) {
   return tokens.token();
 }
 
-bool ReadPoint(Tokenizer& tokens, vec3& point) {
+bool ReadPoint(Tokenizer& tokens, vec3& point, const FaceMessages& messages) {
   bool cut = false;
   for (int axis = 0; axis < 3; ++axis) point[axis] = Coordinate(NumberOf(SameLineToken(tokens)), cut);
   SameLineToken(tokens);
-  Require(tokens, ")");
+  Require(tokens, ")", messages.noClose);
   return cut;
 }
 
@@ -146,7 +120,7 @@ struct LineToken {
       return true;
     }
     double number = 0;
-    if (!ParsePlainNumber(view(), number)) return false;
+    if (!PlainNumber(view(), number)) return false;
     value = Coordinate(number, cut);
     return true;
   }
@@ -158,7 +132,7 @@ struct LineToken {
       value = static_cast<float>(negative() ? -magnitude : magnitude);
     } else if (smallInteger(integer)) {
       value = static_cast<float>(negative() ? -static_cast<double>(integer) : integer);
-    } else if (ParsePlainNumber(view(), magnitude)) {
+    } else if (PlainNumber(view(), magnitude)) {
       value = StoredNumber(magnitude);
     } else {
       return false;
@@ -266,14 +240,14 @@ int ReadFaceLine(Tokenizer& tokens, face& f) {
   return cutPoints;
 }
 
-int ReadFaceTokens(Tokenizer& tokens, face& f) {
+int ReadFaceTokens(Tokenizer& tokens, face& f, const FaceMessages& messages) {
   int cutPoints = 0;
   for (int point = 0; point < 3; ++point) {
     if (point > 0) {
-      if (!tokens.GetScriptToken(true)) Error("parsing map file");
-      Require(tokens, "(");
+      if (!tokens.GetScriptToken(true)) Error("%s", messages.noOpen);
+      Require(tokens, "(", messages.noOpen);
     }
-    cutPoints += ReadPoint(tokens, f.planepts[point]);
+    cutPoints += ReadPoint(tokens, f.planepts[point], messages);
   }
   f.texture.name = LowerCase(SameLineToken(tokens));
   if (SameLineToken(tokens).starts_with('[')) {
@@ -288,9 +262,9 @@ int ReadFaceTokens(Tokenizer& tokens, face& f) {
   return cutPoints;
 }
 
-int ReadFace(Tokenizer& tokens, face& f) {
+int ReadFace(Tokenizer& tokens, face& f, const FaceMessages& messages) {
   const int cutPoints = ReadFaceLine(tokens, f);
-  return cutPoints >= 0 ? cutPoints : ReadFaceTokens(tokens, f);
+  return cutPoints >= 0 ? cutPoints : ReadFaceTokens(tokens, f, messages);
 }
 
 }  // namespace velk

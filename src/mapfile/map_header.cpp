@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
-#include <climits>
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
 
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace velk {
@@ -57,29 +56,22 @@ std::optional<std::string_view> TakeQuoted(std::string_view& line) {
 // Reads numbers one after the other, as scanf's "%f" and "%i" do in the C locale.
 class Scan {
  public:
-  explicit Scan(std::string_view text) : text_(text), next_(text_.c_str()) {}
+  explicit Scan(std::string_view text) : text_(text) {}
 
   bool real(float& value) {
-    while (*next_ == ' ' || *next_ == '\t' || *next_ == '+') ++next_;
-    float number = 0;
-    const auto [end, error] = std::from_chars(next_, text_.c_str() + text_.size(), number);
-    if (error != std::errc{} || !std::isfinite(number)) return false;
-    next_ = end;
-    value = number;
+    const std::optional<double> number = TakeNumber(text_);
+    if (!number || !std::isfinite(static_cast<float>(*number))) return false;
+    value = static_cast<float>(*number);
     return true;
   }
   bool integer(int& value) {
-    char* end = nullptr;
-    const long number = std::strtol(next_, &end, 0);
-    if (end == next_) return false;
-    next_ = end;
-    value = static_cast<int>(std::clamp<long>(number, INT_MIN, INT_MAX));
-    return true;
+    const std::optional<int> number = TakeWhole(text_);
+    if (number) value = *number;
+    return number.has_value();
   }
 
  private:
-  std::string text_;
-  const char* next_;
+  std::string_view text_;
 };
 
 // The four digits after a tag.

@@ -194,13 +194,18 @@ void MoveBrushes(entity& from, entity& world) {
   }
 }
 
-// The file's world comes first and is handed back, unless it has no brushes of its own.
-std::unique_ptr<entity> MergeEntities(map& m, MapText& text, const std::string& name) {
-  std::unique_ptr<entity> fileWorld;
+// The entities of a merged file, belonging to the map but not in it yet.
+struct MergedEntities {
+  std::unique_ptr<entity> world;  // the file's; none when it has no brushes of its own
+  std::vector<std::unique_ptr<entity>> others;
+};
+
+MergedEntities ReadMerged(map& m, MapText& text, const std::string& name) {
+  MergedEntities merged;
   for (;;) {
     auto next = std::make_unique<entity>(m);
     text.fixedUp = false;
-    if (!initFromTokens(*next, text)) return fileWorld;
+    if (!initFromTokens(*next, text)) return merged;
     const bool first = text.result.entities++ == 0;
     if (text.options.progress) {
       text.options.progress(
@@ -209,11 +214,23 @@ std::unique_ptr<entity> MergeEntities(map& m, MapText& text, const std::string& 
     if (first && text.fixedUp) continue;
     SelectBrushes(*next);
     if (first) {
-      fileWorld = std::move(next);
+      merged.world = std::move(next);
     } else {
-      m.addobject(std::move(next));
+      merged.others.push_back(std::move(next));
+      m.requireRoom(static_cast<int>(merged.others.size()));
     }
   }
+}
+
+// All or nothing: what has no room is found out before.
+void AddMerged(map& m, MergedEntities merged) {
+  entity& world = WorldOf(m);
+  m.requireRoom(static_cast<int>(merged.others.size()));
+  if (merged.world) world.requireRoom(merged.world->numbrushes());
+  for (auto& other : merged.others) m.addobject(std::move(other));
+  if (merged.world) MoveBrushes(*merged.world, world);
+  m.setCurrentEntity(&world);
+  m.modified = true;
 }
 
 void Report(const MapReadOptions& options, const char* format, const std::string& name) {
@@ -312,10 +329,9 @@ MapReadResult MergeMapText(map& m, std::string_view text, const std::string& nam
   RefuseBinary(text, name);
   MapText reading(text, options);
   const ErrorPlace place([&] { return PlaceIn(reading, name); });
-  entity& world = WorldOf(m);
-  if (const auto fileWorld = MergeEntities(m, reading, name)) MoveBrushes(*fileWorld, world);
-  m.setCurrentEntity(&world);
-  m.modified = true;
+  MergedEntities merged = ReadMerged(m, reading, name);
+  if (options.whole && !reading.result.complete) Error("[%s] ends inside an entity", name.c_str());
+  AddMerged(m, std::move(merged));
   Warn(reading.result, name);
   return std::move(reading.result);
 }

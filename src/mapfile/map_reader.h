@@ -25,6 +25,8 @@ struct MapReadOptions {
   // False reads the text alone: brushes stay without planes and polygons, valid or not, and entities get no
   // boxes.
   bool build = true;
+  // A merged text that ends inside an entity is refused. (A map that is opened says so in its result.)
+  bool whole = false;
 };
 
 // What a reading found beyond the map's entities.
@@ -51,8 +53,8 @@ MapReadResult ReadMapText(map& m, std::string_view text, const std::string& name
                           const MapReadOptions& options);
 
 // Add the entities of a file to `m`, their brushes selected. Brushes of the file's world join the map's
-// world; the file's comment records are ignored. The world is current, the map modified. Fatal as above,
-// with "MergeMapFile:  Couldn't read [%s]...".
+// world; the file's comment records are ignored. The world is current, the map modified. Nothing is added
+// before everything was read. Fatal as above, with "MergeMapFile:  Couldn't read [%s]...".
 MapReadResult MergeMapFile(map& m, const std::string& name, const MapReadOptions& options);
 MapReadResult MergeMapText(map& m, std::string_view text, const std::string& name,
                            const MapReadOptions& options);

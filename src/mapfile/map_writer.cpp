@@ -164,7 +164,7 @@ std::string GroupExportText(const map& m, int group) {
 
 MapWriteResult WriteMapFile(map& m, const Paths& paths, const std::string& name,
                             const MapWriteOptions& options) {
-  if (m.world() == nullptr || m.world()->numbrushes() == 0)
+  if (m.world() == nullptr || (options.needsWorldBrush && m.world()->numbrushes() == 0))
     return {MapWriteResult::Outcome::NothingToSave, {}};
   MapWriteResult result = Replace(paths, name, MapFileText(m, options));
   if (result.ok()) {

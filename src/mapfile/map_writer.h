@@ -12,6 +12,7 @@ namespace velk {
 struct MapWriteOptions {
   bool comments = true;  // the header of groups, favourites and cameras, and every brush's group
   bool selectedOnly = false;
+  bool needsWorldBrush = true;  // without one nothing is written
 };
 
 struct MapWriteResult {

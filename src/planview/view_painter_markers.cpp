@@ -16,6 +16,8 @@ constexpr double kNumbersAbove = 0.49;  // camera numbers are shown at larger sc
 constexpr int kMostDots = 1000;         // behind a camera's arrow
 constexpr int kLargestFont = 200;       // pixels
 constexpr Colour kLeakColour{255, 0, 0};
+constexpr Colour kLeakStartColour{0, 200, 0};
+constexpr int kLeakMark = 9;  // pixels a side
 
 // The outline and inside of a square; right and bottom do not belong to it.
 void DrawSquare(Canvas& canvas, const PixelRect& square, Colour border, Colour inside) {
@@ -107,8 +109,27 @@ void DrawEyeMarker(ViewPainter& painter) {
   painter.canvas.polygon({painter.colours.color_eyemarker, 1}, corners);
 }
 
-// Small crosses.
+// The path through the points, and squares that mark its start and its end.
+void DrawLeakPath(ViewPainter& painter) {
+  const std::span<const vec3> points = painter.scene.leakPoints;
+  if (points.size() < 2) return;
+  for (size_t i = 1; i < points.size(); ++i) {
+    const vec3 ends[] = {points[i - 1], points[i]};
+    painter.outline({kLeakColour, 1}, ends, 2);
+  }
+  const auto mark = [&](const vec3& point, Colour inside) {
+    const Pixel at = painter.projection.worldToScreen(point);
+    if (!painter.inView(at, kLeakMark)) return;
+    DrawSquare(painter.canvas, {at.x - kLeakMark / 2, at.y - kLeakMark / 2, kLeakMark, kLeakMark},
+               kLeakColour, inside);
+  };
+  mark(points.back(), kLeakColour);
+  mark(points.front(), kLeakStartColour);
+}
+
+// Small crosses, over the path.
 void DrawLeakPoints(ViewPainter& painter) {
+  DrawLeakPath(painter);
   std::vector<Pixel> marks;
   for (const vec3& point : painter.scene.leakPoints) {
     const Pixel at = painter.projection.worldToScreen(point);

@@ -212,8 +212,38 @@ Lines PointLines(const clipper& clip) {
   return lines;
 }
 
+Lines LeakLines(Editor& editor) {
+  const LeakTrail& leaks = editor.views().leaks;
+  Lines lines{Format("%s count %zu current %d", leaks.shown() ? "shown" : "hidden", leaks.points().size(),
+                     leaks.current())};
+  for (const vec3& point : leaks.points()) lines.push_back(VectorText(point));
+  return lines;
+}
+
+Lines StartedLines(Editor& editor) {
+  Lines lines;
+  for (const Launch& launch : editor.build().started()) lines.push_back(LaunchText(launch));
+  return lines;
+}
+
+Lines CheckLines(Editor& editor) {
+  OpenMap(editor);
+  editor.panels().build.check();
+  Lines lines;
+  for (const CheckFinding& finding : editor.panels().build.findings()) {
+    lines.push_back((finding.mend == CheckFinding::Mend::None ? "- " : "mend ") + finding.text);
+  }
+  return lines;
+}
+
+std::string BuildText(const Editor& editor) {
+  const BuildJob& job = editor.build().job();
+  return Format("%s %d %s", LowerCase(job.stateText()).c_str(), job.exitStatus(),
+                ScriptQuoted(job.lastLine()).c_str());
+}
+
 using Printer = Lines (*)(Editor&);
-constexpr std::array<std::pair<std::string_view, Printer>, 17> kPrinters{{
+constexpr std::array<std::pair<std::string_view, Printer>, 21> kPrinters{{
     {"status", [](Editor& e) { return Lines{e.documents().status()}; }},
     {"title", [](Editor& e) { return Lines{FrameTitle(e)}; }},
     {"counts", [](Editor& e) { return Lines{CountsText(OpenMap(e))}; }},
@@ -231,6 +261,10 @@ constexpr std::array<std::pair<std::string_view, Printer>, 17> kPrinters{{
     {"map", [](Editor& e) { return MapLines(OpenMap(e)); }},
     {"drag", [](Editor& e) { return Lines{DragText(e)}; }},
     {"hits", [](Editor& e) { return HitLines(OpenMap(e)); }},
+    {"leaks", LeakLines},
+    {"started", StartedLines},
+    {"check", CheckLines},
+    {"build", [](Editor& e) { return Lines{BuildText(e)}; }},
     {"points", [](Editor& e) { return PointLines(OpenMap(e).clip); }},
 }};
 

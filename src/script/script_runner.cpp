@@ -11,9 +11,7 @@
 #include "commands/dispatch.h"
 #include "commands/key_stroke.h"
 #include "commands/views/view_keys.h"
-#include "documents/disk_check.h"
 #include "documents/opening.h"
-#include "documents/wad_reload.h"
 #include "script/script_print.h"
 
 namespace velk {
@@ -94,6 +92,8 @@ const std::vector<ScriptRunner::Instruction>& ScriptRunner::instructions() {
       {"print", 1, 3, "print WHAT", &ScriptRunner::print},
       {"menu", 2, 2, "menu WINDOW LABEL", &ScriptRunner::menu},
       {"checkdisk", 0, 0, "checkdisk", &ScriptRunner::checkDisk},
+      {"start", 1, 1, "start on|off", &ScriptRunner::startPrograms},
+      {"wait", 2, 2, "wait build SECONDS", &ScriptRunner::waitFor},
       {"image", 2, 2, "image VIEW FILE", &ScriptRunner::image},
       {"pick", 2, 2, "pick WINDOW N", &ScriptRunner::pick},
       {"double", 2, 2, "double WINDOW N", &ScriptRunner::doubleClick},
@@ -275,8 +275,22 @@ void ScriptRunner::print(const Words& words) {
 }
 
 void ScriptRunner::checkDisk(const Words&) {
-  CheckDisk(editor_.services(), editor_.documents(), editor_.door());
-  ReloadWads(editor_.documents(), editor_.door(), editor_.textures(), editor_.textures().changedWads());
+  editor_.checkDisk();
+}
+
+void ScriptRunner::startPrograms(const Words& words) {
+  const bool on = EqualNoCase(words[0].text, "on");
+  if (!on && !EqualNoCase(words[0].text, "off")) throw ScriptFailure("to be written as: start on|off");
+  if (on && !editor_.build().hasRunner()) throw ScriptFailure("nothing here can start programs");
+  if (editor_.build().job().running()) throw ScriptFailure("a build is running");
+  editor_.build().startPrograms(on);
+}
+
+void ScriptRunner::waitFor(const Words& words) {
+  if (!EqualNoCase(words[0].text, "build")) throw ScriptFailure("to be written as: wait build SECONDS");
+  if (!editor_.build().job().wait(std::chrono::seconds(ScriptNumber(words[1])))) {
+    throw ScriptFailure("the build still runs after " + words[1].text + " seconds");
+  }
 }
 
 void ScriptRunner::image(const Words& words) {

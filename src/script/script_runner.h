@@ -71,6 +71,8 @@ class ScriptRunner {
   void wheel(const Words& words);
   void print(const Words& words);
   void checkDisk(const Words& words);
+  void startPrograms(const Words& words);
+  void waitFor(const Words& words);
   void image(const Words& words);
   void menu(const Words& words);
   void pick(const Words& words);

@@ -147,7 +147,7 @@ constexpr SettingKey kKeys[] = {
     {"shared_borders", Form::Flag, &S::shared_borders},
     {"watch_leaks", Form::Flag, &S::watch_leaks},
     {"build_window", Form::Flag, &S::build_window},
-    {"compiler_directory", Form::Text, &S::compiler_directory},
+    {"compiler_directory", Form::Text, &S::compiler_directory, kNone, SavedBy::Directories, 9},
     {"undo_megabytes", Form::Number, &S::undo_megabytes, {0, 65536}},
 
     {"fgcolor", Form::Rgb, &ViewColours::fgcolor, kNone, SavedBy::Colours, 1, Section::VelkColors},

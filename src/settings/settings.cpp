@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "settings/key_table.h"
@@ -28,13 +29,11 @@ auto& ValueOf(Record& settings, Colour ViewColours::*member) {
 
 // "red green blue"; channels that are missing or unreadable keep their values.
 Colour ParseColour(const std::string& text, Colour colour) {
-  const char* rest = text.c_str();
+  std::string_view rest = text;
   for (int* channel : {&colour.red, &colour.green, &colour.blue}) {
-    char* end = nullptr;
-    const long number = std::strtol(rest, &end, 0);
-    if (end == rest) break;
-    *channel = static_cast<int>(std::clamp(number, 0L, 255L));
-    rest = end;
+    const std::optional<int> number = TakeWhole(rest);
+    if (!number) break;
+    *channel = std::clamp(*number, 0, 255);
   }
   return colour;
 }

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <string>
 
 #include "base/error.h"
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace velk {
@@ -14,13 +14,10 @@ namespace {
 constexpr size_t kAveragedPixels = 1024;
 
 // Takes the next whitespace-separated integer off `text`; false when there is none.
-bool TakeNumber(const char*& text, unsigned char& channel) {
-  char* end = nullptr;
-  const long value = std::strtol(text, &end, 0);
-  if (end == text) return false;
-  channel = static_cast<unsigned char>(value);
-  text = end;
-  return true;
+bool TakeChannel(std::string_view& text, unsigned char& channel) {
+  const std::optional<int> value = TakeWhole(text);
+  if (value) channel = static_cast<unsigned char>(*value);
+  return value.has_value();
 }
 
 }  // namespace
@@ -76,9 +73,9 @@ Palette ParsePaletteText(std::string_view text) {
     const size_t end = std::min(text.find('\n'), text.size());
     const std::string line(text.substr(0, end));
     text.remove_prefix(std::min(end + 1, text.size()));
-    const char* rest = line.c_str();
-    if (!TakeNumber(rest, palette[i]) || !TakeNumber(rest, palette[i + 1]) ||
-        !TakeNumber(rest, palette[i + 2])) {
+    std::string_view rest = line;
+    if (!TakeChannel(rest, palette[i]) || !TakeChannel(rest, palette[i + 1]) ||
+        !TakeChannel(rest, palette[i + 2])) {
       Error("Current wad had no palette and Quake.pal file is corrupt...");
     }
   }

@@ -1,6 +1,7 @@
 // Commands of the Edit menu: undo, the clipboard, and what changes the selected brushes.
 #include "app/editor.h"
 #include "base/text.h"
+#include "commands/building/build_commands.h"
 #include "commands/command_tables.h"
 #include "commands/editing/leak_commands.h"
 #include "commands/editing/repeat.h"
@@ -143,6 +144,9 @@ const Command kRows[] = {
      .run = With<Align, Alignment::Centre>},
     {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.", .enabled = MapOpen,
      .run = SearchLeaks},
+    {.id = 1415, .name = "CM_CHECK_MAP", .menu = "&Edit", .label = "Check Map...", .keyText = "Shift-F7",
+     .keys = "Shift+F7", .hint = "Look for what a compiler or the game would trip over", .enabled = MapOpen,
+     .run = CheckMapNow},
 };
 // clang-format on
 

@@ -2,14 +2,15 @@
 #include "app/editor.h"
 #include "base/text.h"
 #include "commands/command_tables.h"
+#include "commands/files/leak_commands.h"
+#include "commands/files/save_map.h"
 #include "commands/files/settings_commands.h"
+#include "commands/files/side_files.h"
 #include "documents/opening.h"
 #include "documents/saving.h"
 
 namespace velk {
 namespace {
-
-constexpr const char* kMapFilter = "Map Files (*.map)|*.map|";
 
 bool RoomForMap(const Editor& editor) { return editor.documents().count() < MAX_MAPS; }
 
@@ -20,30 +21,6 @@ bool RecentTaken(const Editor& editor, int index) { return index < editor.docume
 template <int index>
 std::string RecentLabel(const Editor& editor) {
   return RecentMapLabel(index, editor.documents().recent().at(index));
-}
-
-// Where the map's file is; for a new map, where maps are kept.
-std::string FolderOf(const Editor& editor, const std::string& path) {
-  if (path == editor.settings().newmap) return editor.settings().map_directory;
-  const std::string folder = path.substr(0, path.size() - FileNamePart(path).size());
-  return folder.empty() ? "./" : folder;
-}
-
-std::optional<Outcome> SaveUnder(Editor& editor, MapDocument& document) {
-  const auto path = editor.services().prompts.chooseFile({.title = "Output Map File",
-                                                          .filter = kMapFilter,
-                                                          .directory = FolderOf(editor, document.model.name),
-                                                          .fileName = FileNamePart(document.model.name),
-                                                          .kind = FileChooser::Kind::Save});
-  if (!path) return std::nullopt;
-  // The chooser asked already whether the file is to be replaced.
-  return SaveDocument(editor.services(), editor.documents(), document, *path, true);
-}
-
-std::optional<Outcome> Save(Editor& editor, MapDocument& document) {
-  const std::string path = document.model.name;
-  if (path == editor.settings().newmap) return SaveUnder(editor, document);
-  return SaveDocument(editor.services(), editor.documents(), document, path);
 }
 
 // Asks what becomes of unsaved changes; false when the map has to stay open.
@@ -107,10 +84,22 @@ Outcome SaveMapAs(Editor& editor, map&) {
   return SaveUnder(editor, *editor.documents().current()).value_or(Outcome{});
 }
 
+// A build goes on while its questions are asked, and ends with the editor.
+bool MayEndBuild(Editor& editor) {
+  if (!editor.build().job().running()) return true;
+  const Answer answer = editor.services().prompts.ask({.caption = "Velk - Build Running",
+                                                       .text = "A build is running. Stop it and exit?",
+                                                       .buttons = MessageBox::Buttons::YesNo,
+                                                       .icon = MessageBox::Icon::Question});
+  return answer == Answer::Yes;
+}
+
 Outcome ExitEditor(Editor& editor) {
+  if (!MayEndBuild(editor)) return {};
   for (int i = 0; i < editor.documents().count(); ++i) {
     if (!MayClose(editor, *editor.documents().at(i))) return {};
   }
+  editor.build().job().stop();
   editor.requestExit();
   return {};
 }
@@ -176,19 +165,19 @@ const Command kRows[] = {
     {.id = 186, .name = "CM_FILESAVE_SEL", .menu = "&File|Brushes", .startsGroup = true,
      .label = "Save brushes...",
      .hint = "Save selected brushes to new file...", .enabled = MapOpen,
-     .reason = "not built yet: brush and merge files"},
+     .run = SaveBrushes},
     {.id = 190, .name = "CM_LOAD_BRUSHES", .menu = "&File|Brushes", .label = "Load Brushes...",
      .hint = "Load brushes from file.", .enabled = MapOpen,
-     .reason = "not built yet: brush and merge files"},
+     .run = LoadBrushes, .caption = kCannotLoadBrushes},
     {.id = 292, .name = "CM_MERGE_OUT", .menu = "&File|Objects", .label = "Merge Out...",
      .hint = "Save Entities/Brushes to .mrg file...", .enabled = MapOpen,
-     .reason = "not built yet: brush and merge files"},
+     .run = MergeOut, .caption = kCannotMerge},
     {.id = 291, .name = "CM_MERGE_IN", .menu = "&File|Objects", .label = "Merge In...",
      .hint = "Load Entities/Brushes from .mrg file...", .enabled = MapOpen,
-     .reason = "not built yet: brush and merge files"},
+     .run = MergeIn, .caption = kCannotMerge},
     {.id = 293, .name = "CM_MERGE_CLIPBOARD", .menu = "&File|Objects", .label = "Save Clipboard...",
      .hint = "Save clipboard to .mrg file...", .enabled = MapOpen,
-     .reason = "not built yet: brush and merge files"},
+     .run = SaveClipboard, .caption = kCannotMerge},
     {.id = 160, .name = "CM_FILEPREFERENCES", .menu = "&File", .startsGroup = true,
      .label = "Preferences...",
      .hint = "Set preferences...", .run = AskPreferences},
@@ -206,9 +195,15 @@ const Command kRows[] = {
     {.id = 167, .menu = "&File", .label = "Reload Ents.qc", .hint = "Reload entity classes",
      .run = ReloadClasses},
     {.id = 294, .name = "CM_SHOW_LEAKS", .menu = "&File|Leaks", .label = "Load .pts...",
-     .hint = "Load in .pts file and show path to leak...", .reason = "not built yet: the leak search"},
+     .hint = "Load in .pts file and show path to leak...", .run = LoadLeaks},
     {.id = 298, .menu = "&File|Leaks", .label = "Stop", .hint = "Stop displaying leak information",
-     .reason = "not built yet: the leak search"},
+     .enabled = LeaksShown, .run = StopLeaks},
+    {.id = 1400, .name = "CM_NEXT_LEAK", .menu = "&File|Leaks", .startsGroup = true, .label = "Next Leak Point",
+     .keyText = "F8", .keys = "F8", .hint = "Fly the camera to the next leak point", .enabled = LeaksShown,
+     .run = With<StepLeak, 1>},
+    {.id = 1401, .name = "CM_PREVIOUS_LEAK", .menu = "&File|Leaks", .label = "Previous Leak Point",
+     .keyText = "Shift-F8", .keys = "Shift+F8", .hint = "Fly the camera to the leak point before",
+     .enabled = LeaksShown, .run = With<StepLeak, -1>},
     {.id = 99, .name = "CM_FILEEXIT", .menu = "&File", .startsGroup = true,
      .label = "E&xit", .keyText = "Ctrl-Q",
      .keys = "Ctrl+Q", .hint = "Quit Velk", .run = ExitEditor},

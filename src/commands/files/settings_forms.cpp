@@ -110,6 +110,7 @@ constexpr Located kDirectories[] = {
     {{"entity_qc_directory", ".qc Directory", Kind::Folder}, "Choose default .qc file directory..."},
     {{"wad_directory", ".wad Directory", Kind::Folder}, "Choose default .wad file directory..."},
     {{"bat_directory", ".bat Directory", Kind::Folder}, "Choose default .bat file directory..."},
+    {{"compiler_directory", "Compiler Directory", Kind::Folder}, "Choose the compiler's directory..."},
     {{"badtex", "badtex File", Kind::File}, "Choose badtex.bmp file..."},
     {{"newmap", "Default .map:", Kind::Text}, ""},
     {{"default_wad", "Default .wad(s):", Kind::Text}, ""},

@@ -1,4 +1,4 @@
-// Commands of the Export, Group and Clip menus.
+// Commands of the Group and Clip menus.
 #include "app/editor.h"
 #include "commands/command_tables.h"
 #include "commands/editing/transform_commands.h"
@@ -27,22 +27,6 @@ Outcome ToggleGroupMode(Editor& editor) { return editor.panels().groups.toggleGr
 
 // clang-format off
 const Command kRows[] = {
-    {.id = 77, .menu = "E&xport", .label = "&Launch BSPBuild...", .keyText = "Ctrl-Alt-B",
-     .keys = "Ctrl+Alt+B", .hint = "Launch BSPBuild.exe on current map...",
-     .reason = "not built yet: the map compiler"},
-    {.id = 185, .menu = "E&xport", .startsGroup = true,
-     .label = "&Super fast", .hint = "Qbsp -nofill; light",
-     .reason = "not built yet: the map compiler"},
-    {.id = 281, .menu = "E&xport", .label = "&Fast", .hint = "Qbsp; light; vis -fast",
-     .reason = "not built yet: the map compiler"},
-    {.id = 282, .menu = "E&xport", .label = "F&ull", .hint = "Qbsp; Light; Vis",
-     .reason = "not built yet: the map compiler"},
-    {.id = 283, .menu = "E&xport", .label = "&No Vis", .hint = "Qbsp; Light",
-     .reason = "not built yet: the map compiler"},
-    {.id = 284, .menu = "E&xport", .label = "&Relight", .hint = "Light",
-     .reason = "not built yet: the map compiler"},
-    {.id = 285, .menu = "E&xport", .startsGroup = true, .label = "&Leak Test", .hint = "Qbsp -mark -notjunc",
-     .reason = "not built yet: the map compiler"},
     {.id = 138, .name = "CM_GROUP_MODE", .menu = "&Group", .label = "&Use Groups",
      .hint = "Turns groups on or off", .enabled = MapOpen, .checked = Holds<IsOn, &Settings::groupmode>,
      .run = ToggleGroupMode},

@@ -29,6 +29,7 @@ namespace velk {
 namespace {
 
 constexpr QSize kFirstSize{1280, 800};
+constexpr int kBuildHeight = 220;  // pixels
 constexpr QSize kProgressSize{250, 20};
 constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
 constexpr std::chrono::seconds kTick{10};
@@ -63,10 +64,19 @@ TVelkWindow::TVelkWindow(EditorPlace place, Prompts& prompts)
   resize(kFirstSize);
 }
 
-TVelkWindow::~TVelkWindow() { qApp->removeEventFilter(this); }
+// No program outlives the frame unwatched, and none tells a window that is gone.
+TVelkWindow::~TVelkWindow() {
+  qApp->removeEventFilter(this);
+  editor_.panels().build.changed = [] {};
+  editor_.build().startPrograms(false);
+  programs_.output = [](std::string_view) {};
+  programs_.ended = [](const ProgramEnd&) {};
+}
 
 void TVelkWindow::start() {
   editor_.start();
+  editor_.build().setRunner(&programs_);
+  editor_.build().startPrograms(true);
   BuildMenus(*menuBar(), editor_);
   bars_ = BuildBars(*this, editor_);
   buildCentre();
@@ -290,6 +300,15 @@ void TVelkWindow::mapsChanged() {
 void TVelkWindow::helpRequested() {
   if (!help_) help_ = new HelpWindow(this);
   help_->showContents();
+}
+
+void TVelkWindow::buildRequested() {
+  if (!build_) {
+    build_ = new TBuildWindow(editor_, this);
+    addDockWidget(Qt::BottomDockWidgetArea, build_);
+    resizeDocks({build_}, {kBuildHeight}, Qt::Vertical);
+  }
+  build_->follow();
 }
 
 void TVelkWindow::exitRequested() {

@@ -13,7 +13,9 @@
 #include "desktop/frame/map_tabs.h"
 #include "desktop/frame/status_bar.h"
 #include "desktop/system/file_watch.h"
+#include "desktop/system/qt_programs.h"
 #include "desktop/windows/brush_window.h"
+#include "desktop/windows/build_window.h"
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/entity_window.h"
 #include "desktop/windows/group_window.h"
@@ -55,6 +57,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void changed(const Changes& what) override;
   void loadProgress(const std::string& text, int done, int total) override;
   void helpRequested() override;
+  void buildRequested() override;
   void exitRequested() override;
 
   void mapsChanged();
@@ -71,6 +74,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   QMdiArea* area_;
   TVelkStatusBar* status_;
   HelpWindow* help_ = nullptr;              // made when first asked for
+  TBuildWindow* build_ = nullptr;           // the same
   FileWatch* watch_ = nullptr;              // none without a user
   MapTabs* tabs_ = nullptr;                 // none when tabs are switched off
   std::unique_ptr<QProgressBar> progress_;  // while start-up loads
@@ -83,6 +87,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   InputClock* clock_ = nullptr;
   ChildWindows* children_ = nullptr;
   std::vector<TVelkControlBar*> bars_;
+  QtPrograms programs_;
   QTimer ticks_;
   bool arranged_ = false;
   bool keepsState_ = false;

@@ -6,8 +6,6 @@
 #include <chrono>
 
 #include "desktop/system/path_text.h"
-#include "documents/disk_check.h"
-#include "documents/wad_reload.h"
 
 namespace velk {
 namespace {
@@ -62,8 +60,7 @@ void FileWatch::check() {
   if (IsBusy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
-    CheckDisk(editor_.services(), editor_.documents(), editor_.door());
-    ReloadWads(editor_.documents(), editor_.door(), editor_.textures(), editor_.textures().changedWads());
+    editor_.checkDisk();
     follow();
   }
 }

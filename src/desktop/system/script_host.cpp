@@ -8,6 +8,7 @@
 #include "commands/files/named_files.h"
 #include "desktop/system/kit.h"
 #include "desktop/system/picture_file.h"
+#include "desktop/system/qt_programs.h"
 #include "desktop/windows/camera_window.h"
 #include "desktop/windows/plan_view_window.h"
 #include "desktop/windows/texture_view.h"
@@ -54,6 +55,8 @@ int RunScriptFile(const std::string& file, const std::vector<std::string>& maps)
   Observer nobody;
   Editor editor(FindEditorPlace(), prompts, nobody);
   Pictures pictures(editor);
+  QtPrograms programs;
+  editor.build().setRunner(&programs);
   ScriptRunner runner(editor, prompts, &pictures, std::cout);
   const ScriptResult result = runner.runFile(file, [&] {
     editor.start();

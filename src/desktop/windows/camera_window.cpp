@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "camera/compass.h"
+#include "camera/leak_line.h"
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
@@ -63,6 +64,8 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
     DrawWireGhosts(canvas, {width, height}, views.renderSize(), editor.views().cameraScene(), views.ghosts,
                    kGhostColour);
   }
+  DrawLeakLine(canvas, {width, height}, editor.views().renderSize(), *shown, editor.settings(),
+               editor.views().lens, editor.views().leaks.points());
   DrawOverlays(editor, *shown, canvas, width);
   return image;
 }
