@@ -40,7 +40,7 @@ void DropTexture(Editor& editor, Pixel at, bool wholeBrush) {
   if (!target.pick.hit || !target.pick.hit->owner->isModel) return;
   panel.selectTexture(dragged);
   const char* name = target.whole ? "Texture Brush" : "Texture Face";
-  editor.door().perform({.name = name, .classic = UndoMode::Working, .working = target.pick.hit},
+  editor.door().perform({.name = name, .classic = UndoMode::All},
                         [&] { return Apply(*m, target, editor.texture().current()); });
 }
 

@@ -32,6 +32,11 @@ class Busy {
 ViewInput::ViewInput(const Services& services, Documents& documents, Door& door, Views& views,
                      TextureChoice& texture, const std::filesystem::path& home)
     : services_(services), documents_(documents), door_(door), views_(views), texture_(texture), home_(home) {
+  door_.dragFailed = [this] {
+    pointer_.cancel(context(pointer_.view()));
+    press_.reset();
+    stopDragMotions();
+  };
   pointer_.tools.emplace_back(CompassClick);
   pointer_.tools.emplace_back(
       [this](const MouseContext& context, const PointerEvent& event) { return startBound(context, event); });
@@ -67,7 +72,8 @@ bool ViewInput::readBindings(BindingsFile& file) {
   if (file.read) return !file.damaged;
   file.read = true;
   file.damaged = !door_.attempt("Velk Error...", "", [&] {
-    file.bindings = loadMouseBindings(file.name, {std::filesystem::current_path(), home_});
+    std::error_code gone;  // the folder may be
+    file.bindings = loadMouseBindings(file.name, {std::filesystem::current_path(gone), home_});
   });
   return !file.damaged;
 }
@@ -158,10 +164,7 @@ bool ViewInput::staysPut(int view, const PointerEvent& event) {
 }
 
 void ViewInput::dragAlong(const Door::Action& action) {
-  if (door_.drag(action)) return;
-  pointer_.cancel(context(pointer_.view()));
-  press_.reset();
-  stopDragMotions();
+  door_.drag(action);
 }
 
 void ViewInput::move(int view, const PointerEvent& event) {
@@ -180,7 +183,7 @@ void ViewInput::drop(const PointerEvent& event) {
   const Busy busy(busy_);
   const MouseContext dragged = context(pointer_.view());
   const std::string name = pointer_.drag()->undoName();
-  if (!door_.drop(name, [&] { return pointer_.release(dragged, event); })) pointer_.cancel(dragged);
+  door_.drop(name, [&] { return pointer_.release(dragged, event); });
   stopDragMotions();
 }
 

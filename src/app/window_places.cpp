@@ -13,11 +13,14 @@ std::string ArrangementFile(const Settings& settings) { return settings.entity_q
 }  // namespace
 
 void WindowPlaces::load() {
-  const std::string file = ArrangementFile(services_.settings);
-  if (!services_.paths.exists(file)) return;
-  const ReadResult read = ReadFile(services_.paths.native(file));
-  if (!read.ok) return;
-  if (auto parsed = Arrangements::Parse(read.contents)) arrangements_ = *parsed;
+  if (const auto kept = readKept()) arrangements_ = *kept;
+}
+
+std::optional<Arrangements> WindowPlaces::readKept() {
+  const std::filesystem::path file = services_.paths.native(ArrangementFile(services_.settings));
+  const ReadResult read = ReadFile(file);
+  unreadable_ = !read.ok && StampOf(file).exists;
+  return read.ok ? Arrangements::Parse(read.contents) : std::nullopt;
 }
 
 // Slots that were never saved hold no places, only zeros.
@@ -40,12 +43,16 @@ Outcome WindowPlaces::use(int slot) {
 }
 
 Outcome WindowPlaces::save(int slot) {
+  constexpr const char* kFailure = "Window arrangement:  couldn't open velk.pos...";
+  // Another editor may have saved other slots meanwhile.
+  if (const auto kept = readKept()) arrangements_.slots = kept->slots;
+  if (unreadable_) return Outcome::Drawn(Redraw::All, kFailure);
   Arrangement& taken = arrangements_.slots[static_cast<size_t>(slot)];
   for (int i = 0; i < kToolWindows; ++i) taken[static_cast<size_t>(i)] = windows_->placement(ToolAt(i));
   const WriteResult written =
       ReplaceFile(services_.paths.native(ArrangementFile(services_.settings)), arrangements_.bytes());
   if (!written.ok) {
-    return Outcome::Drawn(Redraw::All, "Window arrangement:  couldn't open velk.pos...");
+    return Outcome::Drawn(Redraw::All, kFailure);
   }
   arrangements_.loaded = true;
   return Outcome::Drawn(Redraw::All, Format("Window arrangement %i saved...", slot + 1));

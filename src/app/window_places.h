@@ -27,7 +27,11 @@ class WindowPlaces {
   Outcome save(int slot);
 
  private:
+  // What velk.pos holds now; none without one, or when it cannot be read, which then holds.
+  std::optional<Arrangements> readKept();
+
   const Services& services_;
+  bool unreadable_ = false;
   PlainWindows plainWindows_;
   WindowHost* windows_ = &plainWindows_;
   Arrangements arrangements_;

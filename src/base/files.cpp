@@ -61,6 +61,7 @@ ReadResult ReadFile(const std::filesystem::path& file) {
 
 std::string LoadFileOr(const Paths& paths, std::string_view name, const std::string& openFailure) {
   ReadResult result = ReadFile(paths.native(name));
+  const ErrorPlace place([&] { return "reading [" + std::string(name) + "]"; });
   if (!result.opened) Error("%s", openFailure.c_str());
   if (!result.ok) Error("%s", result.reason.c_str());
   return std::move(result.contents);
@@ -69,6 +70,7 @@ std::string LoadFileOr(const Paths& paths, std::string_view name, const std::str
 std::string LoadFile(const Paths& paths, std::string_view name) {
   ReadResult result = ReadFile(paths.native(name));
   if (!result.opened) Error("Error opening %s: %s", std::string(name).c_str(), result.reason.c_str());
+  const ErrorPlace place([&] { return "reading [" + std::string(name) + "]"; });
   if (!result.ok) Error("%s", result.reason.c_str());
   return std::move(result.contents);
 }

@@ -60,6 +60,10 @@ fs::path Paths::native(std::string_view path) const {
   return Present(wanted) ? wanted : WithActualNames(wanted);
 }
 
+fs::path Paths::forWriting(std::string_view path) const {
+  return native(DirectoryPart(path)) / FileNamePart(path);
+}
+
 bool Paths::exists(std::string_view path) const {
   std::error_code ignored;
   return !path.empty() && fs::exists(native(path), ignored);

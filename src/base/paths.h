@@ -22,6 +22,9 @@ class Paths {
   // folder; folders and names that are not found stay as written.
   std::filesystem::path native(std::string_view path) const;
 
+  // Where a file of that name is written: the folder as native() finds it, the name as given.
+  std::filesystem::path forWriting(std::string_view path) const;
+
   bool exists(std::string_view path) const;
 
   // The path made independent of the working directory: one that begins with a separator or a drive letter

@@ -68,6 +68,7 @@ std::vector<ButtonBar> LoadButtonBars(const std::filesystem::path& folder) {
     Error("Couldn't allocate data file for button bars!");
   }
   if (!read.ok) Error("Error opening velkbars.ini: %s", read.reason.c_str());
+  const ErrorPlace place([&] { return "reading [" + (folder / "velkbars.ini").string() + "]"; });
   return ParseButtonBars(read.contents);
 }
 

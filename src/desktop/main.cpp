@@ -161,6 +161,11 @@ void PassOn(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type == QtFatalMsg) Leave(kUsageError);
 }
 
+// What runs unattended prints nothing that is not its own.
+void PassOnFatal(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (type == QtFatalMsg) PassOn(type, context, message);
+}
+
 int RunProgram(CommandLine& line, const QStringList& arguments) {
   QCommandLineParser& parser = line.parser;
   if (!parser.parse(arguments)) return Refuse(parser.errorText());
@@ -188,7 +193,7 @@ int main(int argc, char** argv) {
                             ? "there is no display; use --script FILE or --picture FILE to run without one"
                             : line.parser.errorText());
   }
-  qInstallMessageHandler(velk::PassOn);
+  qInstallMessageHandler(line.isUnattended() ? velk::PassOnFatal : velk::PassOn);
   QApplication application(argc, argv);
   // Qt takes over the user's locale; the editor's files have decimal points everywhere.
   std::setlocale(LC_NUMERIC, "C");

@@ -39,7 +39,9 @@ void Check(const Services& services, Documents& documents, Door& door, int index
   document.seenOnDisk = now;
   document.fileDiffers = now != document.onDisk;
   const auto say = [&](const char* what) {
-    door.show(Outcome::Said(Format("File [%s] %s...", name.c_str(), what)));
+    Outcome said = Outcome::Said(Format("File [%s] %s...", name.c_str(), what));
+    said.names = true;
+    door.show(said);
   };
   if (!now.exists) {
     say("is gone from the disk");
@@ -49,6 +51,8 @@ void Check(const Services& services, Documents& documents, Door& door, int index
     say("was changed on disk");
   } else if (WantsItRead(services.prompts, name)) {
     Reload(documents, door, index);
+  } else {
+    say("stays as it was opened");
   }
 }
 

@@ -1,5 +1,8 @@
 #include "documents/door.h"
 
+#include <filesystem>
+#include <new>
+
 #include "base/error.h"
 
 namespace velk {
@@ -33,6 +36,10 @@ std::optional<std::string> Door::trapped(const std::function<void()>& action) {
     return std::nullopt;
   } catch (const TrappedError& error) {
     return error.what();
+  } catch (const std::bad_alloc&) {
+    return "Not enough memory";
+  } catch (const std::filesystem::filesystem_error& error) {
+    return error.what();
   }
 }
 
@@ -62,7 +69,7 @@ Door::Open Door::begin(const Change& change) {
   open.currentEntity = document.model.currentEntity();
   open.undoCount = document.history.undoCount();
   open.redoCount = document.history.redoCount();
-  open.differed = services_.settings.ask_when_changed && document.isChanged();
+  open.differed = services_.settings.ask_when_changed && document.isUnsaved();
   return open;
 }
 
@@ -70,6 +77,7 @@ bool Door::run(Open& open, const Action& action, Outcome& outcome) {
   const auto error = trapped([&] { outcome = action(); });
   if (!error) return true;
   revert(open);
+  if (open.dragged) dragFailed();
   return report(open.change.caption, services_.attended ? open.change.failure + *error : *error);
 }
 
@@ -109,7 +117,7 @@ void Door::end(Open& open, Outcome outcome) {
     if (!SameRange(*open.before, m)) outcome.redraw = outcome.redraw | Redraw::Plans;
     changes.groups = !(open.before->groups == m.groups);
     changes.entity = keepLevel(open) || document->model.currentEntity() != open.currentEntity;
-    changes.maps = services_.settings.ask_when_changed && document->isChanged() != open.differed;
+    changes.maps = services_.settings.ask_when_changed && document->isUnsaved() != open.differed;
   }
   tell(outcome, changes);
 }
@@ -161,6 +169,7 @@ bool Door::press(const Change& change, const Action& action, const std::function
     end(open, std::move(outcome));
     return true;
   }
+  open.dragged = true;
   drag_ = std::move(open);
   show(outcome);
   return true;

@@ -56,6 +56,8 @@ class Door {
 
   // Brings the plan views to the active camera, locked or not; whether they moved.
   std::function<bool(Centre)> centreViews = [](Centre) { return false; };
+  // A step of a drag failed and the map was put back: its tool has to go before the user is told.
+  std::function<void()> dragFailed = [] {};
   // The time, for tests.
   std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
 
@@ -70,6 +72,7 @@ class Door {
     int undoCount = 0;
     int redoCount = 0;
     bool differed = false;
+    bool dragged = false;  // its press was followed by more
   };
 
   Open begin(const Change& change);

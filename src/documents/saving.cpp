@@ -49,6 +49,13 @@ bool MayReplace(const Services& services, const MapDocument& document, const std
                  Format("The file %s was changed on disk since it was read. Overwrite it?", path.c_str()));
 }
 
+// A map that stays where it is has its file, whose name may have been given in other letters.
+std::optional<std::filesystem::path> PlaceOf(const Services& services, const MapDocument& document,
+                                             const std::string& path) {
+  if (path == document.model.name && document.onDisk.exists) return services.paths.native(path);
+  return WritePlace(services, path);
+}
+
 std::optional<Outcome> Refuse(const Services& services, const std::string& text, MessageBox::Icon icon) {
   services.tell("Velk - Save", text, icon);
   return std::nullopt;
@@ -78,8 +85,10 @@ std::optional<Outcome> SaveDocument(const Services& services, Documents& documen
   }
   if (!MayLeaveOut(services, document)) return std::nullopt;
   if (!mayReplace && !MayReplace(services, document, path)) return std::nullopt;
+  const auto place = PlaceOf(services, document, path);
+  if (!place) return std::nullopt;
   // Not through WriteMapFile, for which a file that cannot be made is fatal: other work would be lost.
-  const WriteResult written = ReplaceFile(services.paths.native(path), MapFileText(m, {}));
+  const WriteResult written = ReplaceFile(*place, MapFileText(m, {}));
   if (!written.ok) {
     return Refuse(services, Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()),
                   MessageBox::Icon::Error);
@@ -89,6 +98,19 @@ std::optional<Outcome> SaveDocument(const Services& services, Documents& documen
   Outcome outcome = Outcome::Said(Format("File [%s] saved...", path.c_str()));
   outcome.names = true;
   return outcome;
+}
+
+std::optional<std::filesystem::path> WritePlace(const Services& services, const std::string& path) {
+  const std::filesystem::path given = services.paths.forWriting(path);
+  const std::filesystem::path like = services.paths.native(path);
+  const std::string name = FileNamePart(path);
+  if (!StampOf(like).exists || like.filename() == name) return given;
+  const std::string text = Format(
+      "There is a file %s already, whose name differs only in the case of letters. "
+      "Write %s beside it?",
+      like.filename().c_str(), name.c_str());
+  if (!Insists(services.prompts, "Velk - Save", text)) return std::nullopt;
+  return given;
 }
 
 void DropRescueCopy(MapDocument& document) {

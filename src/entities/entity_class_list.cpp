@@ -34,6 +34,7 @@ void EntityClassList::loadFile(const std::string& name, const Settings& settings
 }
 
 void EntityClassList::scanFile(const std::string& file, const Paths& paths) {
+  const ErrorPlace place([&] { return "reading [" + file + "]"; });
   scanText(LoadFileOr(paths, file, Format("Error scanning %s for eclasses...", file.c_str())));
 }
 

@@ -110,7 +110,7 @@ void ExportEntity(const entity& e, int group, TextOut& out) {
 bool IsPlayerStart(const entity& e) { return e.valueOfKey("classname") == "info_player_start"; }
 
 MapWriteResult Replace(const Paths& paths, const std::string& name, const std::string& text) {
-  const WriteResult written = ReplaceFile(paths.native(name), text);
+  const WriteResult written = ReplaceFile(paths.forWriting(name), text);
   if (!written.opened) Error("Couldn't write map file, unable to open %s", name.c_str());
   if (!written.ok) return {MapWriteResult::Outcome::Failed, written.reason};
   return {};

@@ -69,17 +69,10 @@ std::optional<StripField> StripFieldAt(int width, Pixel at) {
   return std::nullopt;
 }
 
-std::optional<StripMenu> MenuOfStrip(StripField field, const Settings& settings, const map* m) {
-  switch (field) {
-    case StripField::Grid:
-      return StripMenu{{0, kMenuTop}, GridMenu(settings)};
-    case StripField::Scale:
-      return StripMenu{{kScaleMenuLeft, kMenuTop}, ScaleMenu(settings)};
-    case StripField::Camera:
-      return StripMenu{{kCameraLeft, kMenuTop}, CameraMenu(settings, m)};
-    default:
-      return std::nullopt;
-  }
+Pixel StripMenuPlace(StripField field) {
+  if (field == StripField::Scale) return {kScaleMenuLeft, kMenuTop};
+  if (field == StripField::Camera) return {kCameraLeft, kMenuTop};
+  return {0, kMenuTop};
 }
 
 std::string StripText(StripField field, const PlanView& view, const Settings& settings, const map* m,

@@ -32,13 +32,8 @@ std::vector<StripSlot> LayoutStrip(int width);
 // The field at a pixel of the view, if any.
 std::optional<StripField> StripFieldAt(int width, Pixel at);
 
-// The menu that a click on the field opens, and where its top left corner goes, in pixels of the view.
-// None for a field without a menu.
-struct StripMenu {
-  Pixel at;
-  std::vector<ViewMenuItem> items;
-};
-std::optional<StripMenu> MenuOfStrip(StripField field, const Settings& settings, const map* m);
+// Where the menu that a click on the field opens has its top left corner, in pixels of the view.
+Pixel StripMenuPlace(StripField field);
 
 // The text of a field; empty without a map where it needs one.
 std::string StripText(StripField field, const PlanView& view, const Settings& settings, const map* m,

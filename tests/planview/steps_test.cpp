@@ -30,9 +30,9 @@ TEST(Scale, TextIsAReciprocalOrAPercentage) {
 }
 
 // The labels, a star before those that are checked and a bar for a separator.
-std::string Labels(const StripMenu& menu) {
+std::string Labels(const std::vector<ViewMenuItem>& menu) {
   std::string result;
-  for (const ViewMenuItem& item : menu.items) {
+  for (const ViewMenuItem& item : menu) {
     result += item.separator ? "| " : (item.checked ? "*" : "") + item.label + ' ';
   }
   return result;
@@ -41,18 +41,14 @@ std::string Labels(const StripMenu& menu) {
 TEST_F(PlanFixture, StripFieldsOpenTheirMenus) {
   m.currentCamera = 1;
   settings.scale = 0.5f;
-  const auto menu = [&](StripField field) { return *MenuOfStrip(field, settings, &m); };
-  EXPECT_EQ(Labels(menu(StripField::Grid)), "1 2 4 *8 16 32 64 128 256 | Use Grid Dots... ");
-  EXPECT_EQ(Labels(menu(StripField::Scale)),
+  EXPECT_EQ(Labels(GridMenu(settings)), "1 2 4 *8 16 32 64 128 256 | Use Grid Dots... ");
+  EXPECT_EQ(Labels(ScaleMenu(settings)),
             "1/64 1/32 1/16 1/8 25% *50% 100% 200% 400% 800% 1600% | Other Scale... ");
-  EXPECT_EQ(Labels(menu(StripField::Camera)),
+  EXPECT_EQ(Labels(CameraMenu(settings, &m)),
             "Camera 1 *Camera 2 Camera 3 Camera 4 Camera 5 | Show Cameras... | Unlock Cameras... ");
-  EXPECT_EQ(menu(StripField::Scale).at, (Pixel{30, 13}));
-  EXPECT_EQ(menu(StripField::Camera).at, (Pixel{110, 13}));
-  EXPECT_EQ(menu(StripField::Scale).items[10].command, "590");
-  EXPECT_FALSE(MenuOfStrip(StripField::Direction, settings, &m));
+  EXPECT_EQ(ScaleMenu(settings)[10].command, "590");
   ToggleGridStyle(settings);
-  EXPECT_EQ(menu(StripField::Grid).items.back().label, "Use Grid Lines...");
+  EXPECT_EQ(GridMenu(settings).back().label, "Use Grid Lines...");
 }
 
 TEST(HeaderStrip, FieldsNeverOverlapAndLeaveWhole) {

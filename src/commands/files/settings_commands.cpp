@@ -92,13 +92,14 @@ Outcome AskMouseSettings(Editor& editor) {
 }
 
 Outcome ReloadClasses(Editor& editor, map&) {
-  Settings& settings = editor.settings();
+  Settings settings = editor.settings();
   // No dialog sets it: who changes it in the file wants to see it without a restart.
   settings.sort_entities = IniFile::Load(editor.place().home / "velk.ini")
                                .integer("Velk", "sort_entities", settings.sort_entities) != 0;
   EntityClassList read;
   read.setSorted(settings.sort_entities);
   read.loadAll(settings, editor.services().paths, editor.services().prompts);
+  editor.settings().sort_entities = settings.sort_entities;
   editor.classes() = std::move(read);
   editor.panels().entities.classesReloaded();
   Outcome outcome = Outcome::Drawn(Redraw::All, "Entity list reloaded...");

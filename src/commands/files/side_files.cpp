@@ -1,6 +1,7 @@
 #include "commands/files/side_files.h"
 
 #include "base/text.h"
+#include "documents/saving.h"
 #include "mapfile/brush_file.h"
 #include "mapfile/map_writer.h"
 
@@ -21,6 +22,7 @@ std::optional<std::string> Choose(Editor& editor, const char* title, const char*
 // The selected brushes of a map, of the clipboard all. `what` begins the status.
 Outcome WriteMerge(Editor& editor, map& from, const std::string& path, bool needsWorldBrush,
                    const char* what) {
+  if (!WritePlace(editor.services(), path)) return {};
   const MapWriteOptions options{.comments = false, .selectedOnly = true, .needsWorldBrush = needsWorldBrush};
   const MapWriteResult written = WriteMapFile(from, editor.services().paths, path, options);
   if (written.outcome == MapWriteResult::Outcome::NothingToSave) {
@@ -29,8 +31,8 @@ Outcome WriteMerge(Editor& editor, map& from, const std::string& path, bool need
     return {};
   }
   if (!written.ok()) {
-    editor.services().tell(
-        "Velk - Save", Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()));
+    editor.services().tell("Velk - Save",
+                           Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()));
     return {};
   }
   Outcome outcome = Outcome::Said(Format("%s [%s] saved...", what, path.c_str()));
@@ -44,7 +46,9 @@ Outcome SaveBrushes(Editor& editor, map& m) {
   if (m.selectedCount() == 0) return {};
   const auto path = Choose(editor, "Output Brush (.bru) File", kBrushFilter, FileChooser::Kind::Save);
   if (!path) return Outcome::Said("Cancelled...");
-  const bool written = ReplaceFile(editor.services().paths.native(*path), BrushFileText(m)).ok;
+  const auto place = WritePlace(editor.services(), *path);
+  if (!place) return Outcome::Said("Cancelled...");
+  const bool written = ReplaceFile(*place, BrushFileText(m)).ok;
   return Outcome::Said(Format(
       written ? "Wrote selected brushes to file %s..." : "Couldn't write brush file %s", path->c_str()));
 }
@@ -56,8 +60,8 @@ Outcome LoadBrushes(Editor& editor, map& m) {
 
 Outcome LoadBrushFile(Editor& editor, map& m, const std::string& path) {
   editor.documents().post(Format("Loading [%s]", path.c_str()));
-  auto brushes = ReadBrushFile(m, editor.services().paths, path,
-                               {.group = 0, .whole = editor.settings().careful_tools});
+  auto brushes =
+      ReadBrushFile(m, editor.services().paths, path, {.group = 0, .whole = editor.settings().careful_tools});
   m.world()->requireRoom(static_cast<int>(brushes.size()));
   for (auto& read : brushes) m.world()->addobject(std::move(read));
   m.modified = true;

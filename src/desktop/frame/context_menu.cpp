@@ -16,7 +16,7 @@ void ShowMenu(const Menu& menu, QWidget& owner, const QPoint& at) {
     }
     QAction* action = popup.addAction(ShownText(item.label));
     action->setEnabled(item.enabled);
-    action->setCheckable(item.check == MenuItem::Check::On);
+    action->setCheckable(item.check != MenuItem::Check::None);
     action->setChecked(item.check == MenuItem::Check::On);
     if (item.run) QObject::connect(action, &QAction::triggered, &owner, item.run);
   }

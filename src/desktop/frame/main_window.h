@@ -14,14 +14,14 @@
 #include "desktop/frame/status_bar.h"
 #include "desktop/system/file_watch.h"
 #include "desktop/system/qt_programs.h"
+#include "desktop/views/camera_window.h"
+#include "desktop/views/input_clock.h"
+#include "desktop/views/plan_view_window.h"
 #include "desktop/windows/brush_window.h"
 #include "desktop/windows/build_window.h"
-#include "desktop/windows/camera_window.h"
 #include "desktop/windows/entity_window.h"
 #include "desktop/windows/group_window.h"
 #include "desktop/windows/help_window.h"
-#include "desktop/windows/input_clock.h"
-#include "desktop/windows/plan_view_window.h"
 #include "desktop/windows/texture_window.h"
 
 namespace velk {

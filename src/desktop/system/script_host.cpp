@@ -9,8 +9,8 @@
 #include "desktop/system/kit.h"
 #include "desktop/system/picture_file.h"
 #include "desktop/system/qt_programs.h"
-#include "desktop/windows/camera_window.h"
-#include "desktop/windows/plan_view_window.h"
+#include "desktop/views/camera_window.h"
+#include "desktop/views/plan_view_window.h"
 #include "desktop/windows/texture_view.h"
 #include "script/script_runner.h"
 

@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "desktop/dialogs/shown_text.h"
-#include "desktop/windows/palette_image.h"
+#include "desktop/views/palette_image.h"
 
 namespace velk {
 namespace {

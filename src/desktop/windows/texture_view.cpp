@@ -11,9 +11,9 @@
 #include "base/error.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
-#include "desktop/windows/camera_window.h"
-#include "desktop/windows/pointer_events.h"
-#include "desktop/windows/qt_canvas.h"
+#include "desktop/views/camera_window.h"
+#include "desktop/views/pointer_events.h"
+#include "desktop/views/qt_canvas.h"
 #include "panels/textures/draw_textures.h"
 
 namespace velk {

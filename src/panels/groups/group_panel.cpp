@@ -1,6 +1,7 @@
 #include "panels/groups/group_panel.h"
 
 #include "base/text.h"
+#include "documents/saving.h"
 #include "mapfile/map_writer.h"
 #include "ops/group_ops.h"
 
@@ -211,7 +212,7 @@ void GroupPanel::exportGroup(int index) {
                                             .directory = context_.services.settings.map_directory,
                                             .fileName = {},
                                             .kind = FileChooser::Kind::Save});
-  if (!file) return;
+  if (!file || !WritePlace(context_.services, *file)) return;
   context_.door.attempt(kCaption, "", [&] {
     const MapWriteResult written = ExportGroup(*currentMap(), index, context_.services.paths, *file);
     if (written.ok()) {

@@ -1,4 +1,4 @@
-#include "desktop/windows/pointer_events.h"
+#include "desktop/views/pointer_events.h"
 
 namespace velk {
 

@@ -1,4 +1,4 @@
-#include "desktop/windows/qt_canvas.h"
+#include "desktop/views/qt_canvas.h"
 
 #include <QFontMetrics>
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "app/editor.h"
-#include "desktop/windows/pointer_events.h"
+#include "desktop/views/pointer_events.h"
 
 namespace velk {
 

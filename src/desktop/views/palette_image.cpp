@@ -1,4 +1,4 @@
-#include "desktop/windows/palette_image.h"
+#include "desktop/views/palette_image.h"
 
 namespace velk {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/windows/camera_window.h"
+#include "desktop/views/camera_window.h"
 
 #include <QPainter>
 
@@ -7,9 +7,9 @@
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
-#include "desktop/windows/palette_image.h"
-#include "desktop/windows/pointer_events.h"
-#include "desktop/windows/qt_canvas.h"
+#include "desktop/views/palette_image.h"
+#include "desktop/views/pointer_events.h"
+#include "desktop/views/qt_canvas.h"
 
 namespace velk {
 namespace {
@@ -20,7 +20,8 @@ QString FontFamily(const Editor& editor) { return ShownText(editor.settings().ve
 
 // The renderer's picture stretched over the whole image.
 void DrawRendered(Editor& editor, QImage& image) {
-  editor.views().renderCamera();
+  // A picture that the memory has no room for stays as it was.
+  editor.door().trapped([&] { editor.views().renderCamera(); });
   const QImage rendered = PaletteImage(editor.views().renderer, editor.views().paletteWad());
   QPainter painter(&image);
   painter.drawImage(

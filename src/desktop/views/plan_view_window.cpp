@@ -1,4 +1,4 @@
-#include "desktop/windows/plan_view_window.h"
+#include "desktop/views/plan_view_window.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -6,8 +6,8 @@
 #include "commands/context_menus.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
-#include "desktop/windows/pointer_events.h"
-#include "desktop/windows/qt_canvas.h"
+#include "desktop/views/pointer_events.h"
+#include "desktop/views/qt_canvas.h"
 #include "planview/draw_plan_view.h"
 
 namespace velk {
@@ -101,10 +101,8 @@ void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
 
 void TXYViewWindow::openMenu(const std::string& name, StripField field) {
   const auto menu = ContextMenu(editor_, name);
-  if (!menu) return;
-  for (const StripSlot& slot : LayoutStrip(width())) {
-    if (slot.field == field) ShowMenu(*menu, *this, QPoint(slot.rect.left, kStripHeight));
-  }
+  const Pixel place = StripMenuPlace(field);
+  if (menu) ShowMenu(*menu, *this, QPoint(place.x, place.y));
 }
 
 void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) {

@@ -1,4 +1,4 @@
-#include "desktop/windows/input_clock.h"
+#include "desktop/views/input_clock.h"
 
 #include <QGuiApplication>
 #include <algorithm>
