@@ -23,6 +23,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
     const Drag* drag = input_.pointer().drag();
     return drag ? drag->preview(b) : nullptr;
   };
+  views_.mouse = &input_.pointer();
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
 }
 

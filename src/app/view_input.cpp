@@ -79,6 +79,7 @@ void ViewInput::readCoordinates(int view, Pixel at) {
 }
 
 void ViewInput::move(int view, const PointerEvent& event) {
+  mouse_[static_cast<size_t>(view)] = event;
   const int shown = pointer_.drag() ? pointer_.view() : view;
   if (shown != kCameraView) readCoordinates(shown, event.at);
   if (!pointer_.drag()) return;

@@ -2,6 +2,7 @@
 // the door.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 
@@ -9,6 +10,7 @@
 #include "documents/door.h"
 #include "mouse/bindings.h"
 #include "mouse/pointer.h"
+#include "mouse/tool_cursor.h"
 #include "textures/texture_choice.h"
 
 namespace velk {
@@ -28,6 +30,17 @@ class ViewInput {
   void wheel(int view, const PointerEvent& event, int notches);
   // Ends a drag as if nothing had been done.
   void cancel();
+
+  // Those of a kind of view, read when they were not; none when the file is damaged, of which the user is
+  // told once.
+  const MouseBindings* bindings(int view);
+
+  // What a click would take where the mouse was last in a view; none when that is not to be shown, while a
+  // drag runs, over the header strip and after the mouse has left.
+  FacePick hovered(int view);
+  // The shape of the cursor there. Idle when shapes are not to be shown.
+  CursorShape cursor(int view);
+  void left(int view) { mouse_[static_cast<size_t>(view)].reset(); }
 
   // The field of a plan view's header strip at a pixel.
   std::optional<StripField> stripFieldAt(int view, Pixel at) const;
@@ -56,6 +69,7 @@ class ViewInput {
   BindingsFile planFile_{"velkmouse.ini"};
   BindingsFile cameraFile_{"velkmou3D.ini"};
   Pointer pointer_;
+  std::array<std::optional<PointerEvent>, kPlanViews + 1> mouse_;  // where it was last in each view
 };
 
 }  // namespace velk

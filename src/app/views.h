@@ -1,13 +1,15 @@
 // The plan views and the camera view: what their pictures are drawn from.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 
 #include "camera/movement.h"
 #include "camera/renderer.h"
 #include "documents/documents.h"
-#include "mouse/drag.h"
+#include "mouse/pointer.h"
+#include "ops/clip_preview.h"
 #include "planview/draw_plan_view.h"
 
 namespace velk {
@@ -22,6 +24,8 @@ class Views {
   WireLens lens;
   // The copy that a running drag shows in place of a brush, or none.
   std::function<const brush*(const brush&)> dragPreview;
+  // The mouse, whose drags are drawn; none until it is known.
+  const Pointer* mouse = nullptr;
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -31,8 +35,10 @@ class Views {
   // In a view (0..2, kCameraView) the editor's pixels. Sizes outside 1..16384 are the caller's fault.
   void resize(int view, int width, int height);
 
-  // What the picture of a plan view is drawn from.
-  PlanScene planScene(const StripColours& strip) const;
+  // What the picture of a plan view is drawn from, until the map changes.
+  PlanScene planScene(const StripColours& strip);
+  // Draws a plan view. While a drag runs, what stays is drawn once.
+  void drawPlan(RasterCanvas& canvas, int view, const StripColours& strip);
   // The same for the camera view's picture, until the next call; a map must be open.
   RenderScene cameraScene();
   // The picture's size in the camera view as it is.
@@ -51,11 +57,18 @@ class Views {
 
  private:
   void refreshAssets();
+  bool dragRuns() const { return mouse && mouse->drag(); }
+  // None when brushes are shown as they are.
+  std::function<const brush*(const brush&)> standIns();
+  const brush* standInFor(const brush& b);
 
   Settings& settings_;
   Documents& documents_;
   TextureManager& textures_;
   RenderAssets assets_;
+  ClipPreview clip_;
+  StillBrushes still_;  // while a drag runs
+  std::array<PlanLayer, kPlanViews> layers_;
 };
 
 }  // namespace velk

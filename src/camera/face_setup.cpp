@@ -59,6 +59,14 @@ int OutlineColour(const RenderAssets& assets, FaceState state) {
   return state == FaceState::Selected ? assets.selectionOutline : assets.brushOutline;
 }
 
+// The face that keeps the texture: one of the brush that another stands in for, which lasts longer.
+const face& KeeperOf(const face& f, const brush* original) {
+  if (!original) return f;
+  const auto named = [&](const face& other) { return other.texture.name == f.texture.name; };
+  const auto found = std::ranges::find_if(original->faces(), named);
+  return found == original->faces().end() ? f : *found;
+}
+
 const TextureRef* TextureOf(const RenderAssets& assets, const face& f) {
   if (!f.cache && assets.makeTextureRef) f.cache = assets.makeTextureRef(f.texture.name);
   const TextureRef* texture = f.cache.get();
@@ -79,9 +87,17 @@ bool VisiblePolygon(const FrameView& view, const face& f, bool onBorder, ViewPol
 void FaceList::begin(const RenderScene& scene, const FrameView& view) {
   scene_ = &scene;
   view_ = &view;
-  currentBrush_ = scene.model.firstSelected();
+  currentBrush_ = scene.still ? scene.still->firstSelected() : scene.model.firstSelected();
   faces_.assign(1, FaceDraw());
   edges_.clear();
+}
+
+void FaceList::resume(const RenderScene& scene, const FrameView& view, const Size& size) {
+  scene_ = &scene;
+  view_ = &view;
+  currentBrush_ = scene.still->firstSelected();
+  faces_.resize(size.faces);
+  edges_.resize(size.edges);
 }
 
 BrushLook FaceList::lookOf(const brush& b) const {
@@ -94,10 +110,11 @@ BrushLook FaceList::lookOf(const brush& b) const {
 }
 
 void FaceList::addBrush(BrushDraw& draw) {
-  brush& b = *draw.shape;
+  const brush& b = *draw.shape;
   draw.isSetUp = true;
   draw.firstFace = count();
-  const BrushLook look = lookOf(b);
+  BrushLook look = lookOf(b);
+  if (draw.shape != draw.original) look.original = draw.original;
   const FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
   // A previewed copy shows the current face of the brush that it stands for.
   const bool isCurrent = !look.fixedColour && draw.original == currentBrush_;
@@ -108,7 +125,7 @@ void FaceList::addBrush(BrushDraw& draw) {
   draw.faceCount = count() - draw.firstFace;
 }
 
-void FaceList::addFace(brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
+void FaceList::addFace(const brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
                        bool onBorder) {
   const face& f = b.faces()[size_t(index)];
   if (!VisiblePolygon(*view_, f, onBorder, polygon_, scratch_)) return;
@@ -135,7 +152,8 @@ Paint FaceList::paintOf(const face& f, FaceState state, const BrushLook& look) c
   paint.shades = shadesOf(f, look);
   paint.outlined = state != FaceState::Plain || scene_->settings.outline;
   paint.outline = std::uint8_t(OutlineColour(scene_->assets, state));
-  const TextureRef* texture = look.fixedColour ? nullptr : TextureOf(scene_->assets, f);
+  const TextureRef* texture =
+      look.fixedColour ? nullptr : TextureOf(scene_->assets, KeeperOf(f, look.original));
   if (texture && !look.flat) {
     SetTexture(*texture, paint);
     return paint;

@@ -111,7 +111,7 @@ TEST_F(RendererTest, FiltersGroupsAndPreviews) {
 
   brush copy(b);
   copy.setBox({4, -3, -1}, {8, -1, 1}, test::Texture("2"));
-  preview = [&](brush&) { return &copy; };
+  preview = [&](const brush&) { return &copy; };
   EXPECT_EQ(draw()[1], "..1111..");
   copy.select();
   b.select();

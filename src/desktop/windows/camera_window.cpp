@@ -1,12 +1,10 @@
 #include "desktop/windows/camera_window.h"
 
-#include <QPainter>
+#include <vector>
 
-#include "camera/compass.h"
+#include "app/view_overlay.h"
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
-#include "desktop/windows/pointer_events.h"
-#include "desktop/windows/qt_canvas.h"
 
 namespace velk {
 namespace {
@@ -28,12 +26,18 @@ QList<QRgb> ColourTable(const Wad* wad) {
 void DrawRendered(Editor& editor, QImage& image) {
   editor.views().renderCamera();
   const Renderer& renderer = editor.views().renderer;
-  QImage rendered(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
-                  QImage::Format_Indexed8);
-  rendered.setColorTable(ColourTable(editor.views().paletteWad()));
-  QPainter painter(&image);
-  painter.drawImage(
-      QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);
+  const QList<QRgb> colours = ColourTable(editor.views().paletteWad());
+  std::vector<int> columns(static_cast<size_t>(image.width()));
+  for (int x = 0; x < image.width(); ++x) {
+    columns[static_cast<size_t>(x)] =
+        static_cast<int>(static_cast<qint64>(x) * renderer.width() / image.width());
+  }
+  for (int y = 0; y < image.height(); ++y) {
+    const auto row = static_cast<qint64>(y) * renderer.height() / image.height();
+    const unsigned char* from = renderer.frameBuffer().data() + row * renderer.width();
+    auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < image.width(); ++x) to[x] = colours[from[columns[static_cast<size_t>(x)]]];
+  }
 }
 
 void DrawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
@@ -45,20 +49,13 @@ void DrawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
               kTextHeight, colours.fgcolor, nullptr);
 }
 
-void DrawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
-  const ViewColours& colours = editor.settings().colours;
-  DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera,
-              colours.bgcolor);
-}
-
-}  // namespace
-
-QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
+// Without what stands over it for a moment.
+QImage LastingPicture(Editor& editor, double devicePixelRatio) {
   const int width = editor.views().cameraWidth;
   const int height = editor.views().cameraHeight;
   editor.views().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
-  const map* shown = editor.documents().currentMap();
+  const bool shown = editor.documents().currentMap() != nullptr;
   if (shown && editor.settings().drawmode != kWireMode) DrawRendered(editor, image);
   QtCanvas canvas(image, FontFamily(editor));
   if (!shown) {
@@ -66,51 +63,29 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
     return image;
   }
   if (editor.settings().drawmode == kWireMode) {
-    DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
+    DrawWire(canvas, {width, height}, editor.views().cameraScene());
   }
-  DrawOverlays(editor, *shown, canvas, width);
+  DrawCameraMarks(canvas, editor);
   return image;
 }
 
-TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+}  // namespace
+
+QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
+  QImage image = LastingPicture(editor, devicePixelRatio);
+  QtCanvas canvas(image, FontFamily(editor));
+  DrawCameraOverlay(canvas, editor);
+  return image;
+}
+
+TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : ViewWindow(editor, kCameraView, parent) {
   showTitle();
-  setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(160, 100);
 }
 
-void TCameraWindow::markStale() {
-  stale_ = true;
-  update();
-}
+void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor(), ToolWindow::Camera))); }
 
-void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor_, ToolWindow::Camera))); }
+QImage TCameraWindow::drawPicture() { return LastingPicture(editor(), devicePixelRatioF()); }
 
-void TCameraWindow::paintEvent(QPaintEvent*) {
-  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
-    picture_ = PictureOfCamera(editor_, devicePixelRatioF());
-    stale_ = false;
-  }
-  QPainter painter(this);
-  painter.drawImage(0, 0, picture_);
-}
-
-void TCameraWindow::resizeEvent(QResizeEvent*) {
-  editor_.views().resize(kCameraView, width(), height());
-  markStale();
-}
-
-void TCameraWindow::mousePressEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.input().press(kCameraView, PointerEventOf(*event));
-}
-
-void TCameraWindow::mouseMoveEvent(QMouseEvent* event) {
-  editor_.input().move(kCameraView, PointerEventOf(*event));
-}
-
-void TCameraWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.input().release(kCameraView, PointerEventOf(*event));
-}
+void TCameraWindow::drawOverlay(QtCanvas& canvas) { DrawCameraOverlay(canvas, editor()); }
 
 }  // namespace velk
