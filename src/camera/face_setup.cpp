@@ -48,10 +48,11 @@ void SetTexture(const TextureRef& texture, Paint& paint) {
 
 int ChannelOf(float nominal) { return std::clamp(Truncate(nominal * 255.0), 0, 255); }
 
-int BoxColour(const RenderAssets& assets, const brush& b) {
+int BoxColour(const RenderAssets& assets, const brush& b, double brightness = 1) {
   if (!assets.palette) return 255;
-  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(b.color().x), ChannelOf(b.color().y),
-                             ChannelOf(b.color().z));
+  const vec3 colour = scale(b.color(), brightness);
+  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(colour.x), ChannelOf(colour.y),
+                             ChannelOf(colour.z));
 }
 
 int OutlineColour(const RenderAssets& assets, FaceState state) {
@@ -105,6 +106,7 @@ BrushLook FaceList::lookOf(const brush& b) const {
   look.flat = scene_->settings.drawmode == 1;
   if (b.owner && b.owner->isModel) return look;
   look.flat = look.fixedColour = true;
+  if (scene_->settings.solid_entities) look.solid = &b;
   look.colour = BoxColour(scene_->assets, b);
   return look;
 }
@@ -139,8 +141,7 @@ void FaceList::addFace(const brush& b, int index, FaceState state, const BrushLo
 const std::uint8_t* FaceList::shadesOf(const face& f, const BrushLook& look) const {
   const Settings& settings = scene_->settings;
   if (!scene_->assets.colormap) return kUnshaded.colours;
-  const bool shaded =
-      look.fixedColour ? settings.solid_entities : (look.flat ? settings.shadeflats : settings.shadetextures);
+  const bool shaded = !look.fixedColour && (look.flat ? settings.shadeflats : settings.shadetextures);
   const int row =
       shaded ? ShadeRow(view_->eye, f.facePlane.normal, settings.lightintensity, settings.ambientintensity)
              : settings.flatlevel;
@@ -152,6 +153,14 @@ Paint FaceList::paintOf(const face& f, FaceState state, const BrushLook& look) c
   paint.shades = shadesOf(f, look);
   paint.outlined = state != FaceState::Plain || scene_->settings.outline;
   paint.outline = std::uint8_t(OutlineColour(scene_->assets, state));
+  if (look.solid) {
+    // The light table would leave bright colours as they are.
+    const int row = ShadeRow(view_->eye, f.facePlane.normal, scene_->settings.lightintensity,
+                             scene_->settings.ambientintensity);
+    constexpr double kDarkest = 63;
+    paint.colour = std::uint8_t(BoxColour(scene_->assets, *look.solid, 1 - row / kDarkest));
+    return paint;
+  }
   const TextureRef* texture =
       look.fixedColour ? nullptr : TextureOf(scene_->assets, KeeperOf(f, look.original));
   if (texture && !look.flat) {

@@ -14,6 +14,7 @@ struct BrushLook {
   bool flat = false;
   bool fixedColour = false;         // the box of a fixed-size entity
   int colour = 0;                   // its palette index
+  const brush* solid = nullptr;     // the box itself when its faces are shaded
   const brush* original = nullptr;  // that it stands in for, whose faces keep the textures
 };
 
