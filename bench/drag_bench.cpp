@@ -7,10 +7,10 @@
 #include <benchmark/benchmark.h>
 
 #include "app/editor.h"
-#include "ops/move_selection.h"
 #include "ops/selection.h"
 #include "planview/raster_canvas.h"
 #include "support/declining_prompts.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {
@@ -31,7 +31,8 @@ class SilentCanvas : public RasterCanvas {
 
 // Boxes of 16..128 units a side, spread over 4096 x 4096 x 1024 units, all of them in the views.
 struct Desk {
-  explicit Desk(int brushes) : editor({}, prompts, observer) {
+  explicit Desk(int brushes) : editor(EditorPlace{home.path(), home.path()}, prompts, observer) {
+    home.write("velkmouse.ini", "1 1\n{ Bench\n{ BRUSHDRAG LEFT }\n}\n");
     Settings& settings = editor.settings();
     settings.default_wad.clear();
     settings.drawmode = 2;
@@ -64,10 +65,16 @@ struct Desk {
 
   map& m() { return *editor.documents().currentMap(); }
 
+  Pixel placeOf(const brush& b) {
+    return editor.views()
+        .plans.projection(0, editor.settings())
+        .worldToScreen(scale(add(b.mins, b.maxs), 0.5));
+  }
+
   void drawAll() {
     for (int view = 0; view < kPlanViews; ++view) {
       SilentCanvas canvas(pixels[static_cast<size_t>(view)]);
-      DrawPlanView(canvas, editor.views().planScene({}), view);
+      editor.views().drawPlan(canvas, view, {});
     }
     editor.views().renderCamera();
   }
@@ -76,6 +83,7 @@ struct Desk {
       std::vector<std::uint32_t>(kPlanSize.width * kPlanSize.height),
       std::vector<std::uint32_t>(kPlanSize.width* kPlanSize.height),
       std::vector<std::uint32_t>(kPlanSize.width* kPlanSize.height)};
+  test::TempFolder home;
   test::DecliningPrompts prompts;
   Observer observer;
   Editor editor;
@@ -87,22 +95,27 @@ void MoveStep(benchmark::State& state) {
   for (entity& e : desk.m().entities()) {
     for (brush& b : e.brushes()) b.select(state.range(1) != 0);
   }
-  desk.m().world()->at(0)->select();
-  float step = 16;
-  const auto stays = [] { return true; };
-  desk.editor.door().press(
-      {.name = "move"}, [] { return Outcome{}; }, stays);
-  desk.drawAll();
-  for (auto _ : state) {
-    desk.editor.door().drag([&] {
-      MoveSelection(desk.m(), {step, 0, 0});
-      return Outcome::Drawn(Redraw::All);
-    });
+  brush& moved = *desk.m().world()->at(0);
+  moved.select();
+  PointerEvent event;
+  event.at = desk.placeOf(moved);
+  desk.editor.input().press(0, event);
+  if (!desk.editor.input().pointer().drag()) state.SkipWithError("no drag began");
+  const vec3 before = moved.mins;
+  int step = 2;
+  const auto move = [&] {
+    event.at.x += step;
     step = -step;
+    desk.editor.input().move(0, event);
     desk.drawAll();
+  };
+  for (int i = 0; i < 4; ++i) move();  // the layers are made
+  for (auto _ : state) {
+    move();
     benchmark::ClobberMemory();
   }
-  desk.editor.door().cancelDrag();
+  if (state.iterations() % 2 != 0 && VecEqual(moved.mins, before)) state.SkipWithError("nothing moved");
+  desk.editor.input().cancel();
 }
 BENCHMARK(MoveStep)
     ->Unit(benchmark::kMillisecond)
@@ -111,6 +124,43 @@ BENCHMARK(MoveStep)
     ->Args({15000, 0})
     ->Args({60000, 0})
     ->Args({4000, 1});
+
+// What a resting mouse pays to show what a click would take, in a plan view or in the camera's.
+void HoverPick(benchmark::State& state) {
+  Desk desk(static_cast<int>(state.range(0)));
+  const int view = static_cast<int>(state.range(1));
+  desk.editor.settings().hover_pick = true;
+  PointerEvent event;
+  long found = 0;
+  int i = 0;
+  for (auto _ : state) {
+    event.at = {150 + i % 300, 100 + i % 250};
+    i += 7;
+    desk.editor.input().move(view, event);
+    found += desk.editor.input().hovered(view).hit != nullptr;
+  }
+  if (found == 0 && state.iterations() > 100) state.SkipWithError("nothing was found");
+}
+BENCHMARK(HoverPick)
+    ->Unit(benchmark::kMillisecond)
+    ->ArgNames({"brushes", "view"})
+    ->ArgsProduct({{4000, 15000}, {0, kCameraView}});
+
+// The pick of a click, which keeps the brushes it met.
+void ClickPick(benchmark::State& state) {
+  Desk desk(static_cast<int>(state.range(0)));
+  const PlanProjection projection = desk.editor.views().plans.projection(0, desk.editor.settings());
+  long found = 0;
+  int i = 0;
+  for (auto _ : state) {
+    const ViewPoint at = projection.screenToWorld({150 + i % 500, 100 + i % 400});
+    i += 7;
+    const vec3 start{float(at.u), float(at.v), 4096}, end{float(at.u), float(at.v), -4096};
+    found += selectByRay(desk.m(), start, end, true).hit != nullptr;
+  }
+  if (found == 0 && state.iterations() > 100) state.SkipWithError("nothing was found");
+}
+BENCHMARK(ClickPick)->Unit(benchmark::kMillisecond)->ArgName("brushes")->Arg(4000)->Arg(15000);
 
 }  // namespace
 }  // namespace velk

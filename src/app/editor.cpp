@@ -33,6 +33,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
   panels_.textures.minimised = [this] {
     return windows_.windows().placement(ToolWindow::Textures).state == ShowState::Minimised;
   };
+  views_.mouse = &input_.pointer();
   door_.centreViews = [this](Centre how) { return views_.centre(how); };
   panels_.build.centreOn = [this](const vec3& at) { views_.plans.planCenter = at; };
   panels_.build.showLeaks = [this](std::vector<vec3> points, const std::string& file) {

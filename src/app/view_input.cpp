@@ -112,6 +112,7 @@ void ViewInput::press(int view, const PointerEvent& event) {
     if (other && services_.settings.cancel_drags) cancel();
     return;
   }
+  mouse_[static_cast<size_t>(view)] = event;
   at_[static_cast<size_t>(view)] = event.at;
   press_.reset();
   if (view != kCameraView) {
@@ -163,14 +164,13 @@ bool ViewInput::staysPut(int view, const PointerEvent& event) {
   return !press_->moved;
 }
 
-void ViewInput::dragAlong(const Door::Action& action) {
-  door_.drag(action);
-}
+void ViewInput::dragAlong(const Door::Action& action) { door_.drag(action); }
 
 void ViewInput::move(int view, const PointerEvent& event) {
   if (busy_) return;
   const bool drags = pointer_.drag() != nullptr;
   const int shown = drags ? pointer_.view() : view;
+  mouse_[static_cast<size_t>(view)] = event;
   at_[static_cast<size_t>(shown)] = event.at;
   if (shown != kCameraView) readCoordinates(shown, event.at);
   if (staysPut(shown, event) || !drags) return;

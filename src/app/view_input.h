@@ -13,6 +13,7 @@
 #include "mouse/bindings.h"
 #include "mouse/clicks.h"
 #include "mouse/pointer.h"
+#include "mouse/tool_cursor.h"
 #include "textures/texture_choice.h"
 
 namespace velk {
@@ -62,6 +63,13 @@ class ViewInput {
   bool wantsTicks() const;
   void tick(double seconds, bool fast = false);
   std::function<void()> ticksWanted = [] {};
+
+  // What a click would take where the mouse was last in a view; none when that is not to be shown, while a
+  // drag runs, over the header strip and after the mouse has left.
+  FacePick hovered(int view);
+  // The shape of the cursor there. Idle when shapes are not to be shown.
+  CursorShape cursor(int view);
+  void left(int view) { mouse_[static_cast<size_t>(view)].reset(); }
 
   // The field of a plan view's header strip at a pixel.
   std::optional<StripField> stripFieldAt(int view, Pixel at) const;
@@ -125,6 +133,7 @@ class ViewInput {
   std::array<Pixel, kPlanViews + 1> at_{};  // where the mouse was last in each view
   vec3 centreBefore_;                       // of the plan views before the drag
   bool busy_ = false;                       // an event is being worked on, which may ask the user something
+  std::array<std::optional<PointerEvent>, kPlanViews + 1> mouse_;  // where it was last in each view
 };
 
 }  // namespace velk

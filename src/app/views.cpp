@@ -19,15 +19,40 @@ void Views::resize(int view, int width, int height) {
   plan.clientHeight = height;
 }
 
-PlanScene Views::planScene(const StripColours& strip) const {
+const brush* Views::standInFor(const brush& b) {
+  const brush* dragged = dragPreview ? dragPreview(b) : nullptr;
+  return clip_.of(dragged ? *dragged : b);
+}
+
+std::function<const brush*(const brush&)> Views::standIns() {
+  if (const map* m = documents_.currentMap()) {
+    clip_.begin(*m, plans.currentView().axisDepth, settings_.careful_tools);
+  }
+  if (!clip_.active() && !dragRuns()) return {};
+  return [this](const brush& b) { return standInFor(b); };
+}
+
+PlanScene Views::planScene(const StripColours& strip) {
   return {.set = plans,
           .settings = settings_,
           .shown = documents_.currentMap(),
           .strip = strip,
           .groupName = groupName(),
           .leakPoints = leaks.points(),
-          .preview = dragPreview,
+          .preview = standIns(),
           .ghosts = ghosts};
+}
+
+void Views::drawPlan(RasterCanvas& canvas, int view, const StripColours& strip) {
+  PlanLayer& layer = layers_[static_cast<size_t>(view)];
+  const map* m = documents_.currentMap();
+  if (!m || !dragRuns()) {
+    layer = {};
+    DrawPlanView(canvas, planScene(strip), view);
+    return;
+  }
+  still_.look(*m);
+  DrawPlanView(canvas, planScene(strip), view, still_, layer);
 }
 
 RenderScene Views::cameraScene() {
@@ -36,7 +61,8 @@ RenderScene Views::cameraScene() {
           .settings = settings_,
           .assets = assets_,
           .lens = lens,
-          .preview = {}};
+          .preview = standIns(),
+          .still = nullptr};
 }
 
 RenderScene Views::sceneOf(map& m, const Settings& settings) {
@@ -67,7 +93,14 @@ RenderSize Views::renderSize() const {
 }
 
 void Views::renderCamera() {
-  if (documents_.currentMap()) renderer.renderFrame(cameraScene(), renderSize());
+  const map* m = documents_.currentMap();
+  if (!m) return;
+  RenderScene scene = cameraScene();
+  if (dragRuns()) {
+    still_.look(*m);
+    scene.still = &still_;
+  }
+  renderer.renderFrame(scene, renderSize());
 }
 
 FacePick Views::pickInCamera(Pixel at) {

@@ -1,6 +1,7 @@
 // The plan views and the camera view: what their pictures are drawn from.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 
@@ -8,7 +9,8 @@
 #include "camera/movement.h"
 #include "camera/renderer.h"
 #include "documents/documents.h"
-#include "mouse/drag.h"
+#include "mouse/pointer.h"
+#include "ops/clip_preview.h"
 #include "planview/draw_plan_view.h"
 
 namespace velk {
@@ -28,6 +30,8 @@ class Views {
   std::vector<std::unique_ptr<brush>> ghosts;
   // Of the group that new brushes join; shown in the plan views' strips.
   std::function<std::string()> groupName = [] { return std::string(); };
+  // The mouse, whose drags are drawn; none until it is known.
+  const Pointer* mouse = nullptr;
   Renderer renderer;
   // The camera view's window, in the editor's pixels, and device pixels a side of one of them.
   int cameraWidth = 320;
@@ -37,8 +41,10 @@ class Views {
   // In a view (0..2, kCameraView) the editor's pixels. Sizes outside 1..16384 are the caller's fault.
   void resize(int view, int width, int height);
 
-  // What the picture of a plan view is drawn from.
-  PlanScene planScene(const StripColours& strip) const;
+  // What the picture of a plan view is drawn from, until the map changes.
+  PlanScene planScene(const StripColours& strip);
+  // Draws a plan view. While a drag runs, what stays is drawn once.
+  void drawPlan(RasterCanvas& canvas, int view, const StripColours& strip);
   // The same for the camera view's picture, until the next call; a map must be open.
   RenderScene cameraScene();
   // The same of a map beside the open ones, with settings of its own.
@@ -66,11 +72,18 @@ class Views {
 
  private:
   void refreshAssets();
+  bool dragRuns() const { return mouse && mouse->drag(); }
+  // None when brushes are shown as they are.
+  std::function<const brush*(const brush&)> standIns();
+  const brush* standInFor(const brush& b);
 
   Settings& settings_;
   Documents& documents_;
   TextureManager& textures_;
   RenderAssets assets_;
+  ClipPreview clip_;
+  StillBrushes still_;  // while a drag runs
+  std::array<PlanLayer, kPlanViews> layers_;
 };
 
 }  // namespace velk

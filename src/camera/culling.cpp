@@ -36,10 +36,8 @@ bool IsInTheWay(const RenderScene& scene, const brush& b) {
   return squares < kInTheWay * kInTheWay;
 }
 
-brush& ShownShape(const RenderScene& scene, brush& b) {
-  if (!b.selected() || !scene.preview) return b;
-  brush* copy = scene.preview(b);
-  return copy ? *copy : b;
+const brush* ShownShape(const RenderScene& scene, const brush& b) {
+  return b.selected() && scene.preview ? scene.preview(b) : &b;
 }
 
 BrushCuller::BrushCuller(const FrameView& view)
@@ -80,6 +78,39 @@ bool BrushCuller::place(const brush& b, BrushDraw& draw) const {
   }
   findOutline(centre, half, draw);
   return draw.left < draw.right && draw.top < draw.bottom;
+}
+
+PixelCuller::PixelCuller(const FrameView& view, int px, int py) : eye_(view.eye.origin) {
+  constexpr int kSpare = 3;  // pixels to all sides, for all that is rounded on the way
+  const Projection& p = view.projection;
+  const double left = (px - kSpare - p.halfWidth) / p.halfWidth;
+  const double right = (px + 1 + kSpare - p.halfWidth) / p.halfWidth;
+  const double top = (p.centerY - py + kSpare) / p.halfWidth;
+  const double bottom = (p.centerY - py - 1 - kSpare) / p.halfWidth;
+  const double normals[4][3] = {{-1, 0, right}, {1, 0, -left}, {0, -1, top}, {0, 1, -bottom}};
+  for (int axis = 0; axis < 3; ++axis) {
+    for (int i = 0; i < 4; ++i) {
+      const double* n = normals[i];
+      const double along =
+          n[0] * view.eye.right[axis] + n[1] * view.eye.up[axis] + n[2] * view.eye.forward[axis];
+      planes_[axis][i] = float(along);
+      planeSizes_[axis][i] = std::abs(float(along));
+    }
+  }
+}
+
+bool PixelCuller::mayShow(const brush& b) const {
+  constexpr float kAround = 2;  // so close to the eye the cuts of polygons are too coarse to go by
+  if (b.invalid) return true;
+  const vec3 half{(b.maxs.x - b.mins.x) * 0.5f + kMargin, (b.maxs.y - b.mins.y) * 0.5f + kMargin,
+                  (b.maxs.z - b.mins.z) * 0.5f + kMargin};
+  const vec3 centre{(b.mins.x + b.maxs.x) * 0.5f - eye_.x, (b.mins.y + b.maxs.y) * 0.5f - eye_.y,
+                    (b.mins.z + b.maxs.z) * 0.5f - eye_.z};
+  const Four farthest = planes_[0] * centre.x + planes_[1] * centre.y + planes_[2] * centre.z +
+                        planeSizes_[0] * half.x + planeSizes_[1] * half.y + planeSizes_[2] * half.z;
+  if (farthest[0] >= 0 && farthest[1] >= 0 && farthest[2] >= 0 && farthest[3] >= 0) return true;
+  return std::abs(centre.x) <= half.x + kAround && std::abs(centre.y) <= half.y + kAround &&
+         std::abs(centre.z) <= half.z + kAround;
 }
 
 void BrushCuller::fillPicture(BrushDraw& draw) const {

@@ -18,7 +18,7 @@ struct FrameView {
 // A brush that may be on the picture. Bounds are a little wider than the brush, so that rounding never
 // makes a brush look smaller than its polygons.
 struct BrushDraw {
-  brush* shape = nullptr;  // the brush, or the copy that stands in for it
+  const brush* shape = nullptr;  // the brush, or what stands in for it
   const brush* original = nullptr;
   std::uint32_t rank = 0;  // of its first face in drawing order; 64 ranks a brush
   bool onBorder = false;   // its polygons may have to be cut to the picture
@@ -50,6 +50,19 @@ class BrushCuller {
   Four planeSizes_[3];  // their absolute values
 };
 
+// The few brushes that can show at one pixel of the picture.
+class PixelCuller {
+ public:
+  PixelCuller(const FrameView& view, int px, int py);
+  bool mayShow(const brush& b) const;
+
+ private:
+  typedef float Four __attribute__((vector_size(16)));
+  vec3 eye_;
+  Four planes_[3];  // normals of the planes round the pixel's rays in the world, by axis
+  Four planeSizes_[3];
+};
+
 // Calls visit(brush) for every brush the scene shows, in drawing order: entities and their brushes from
 // the last to the first. Those the filters leave out are skipped.
 template <typename Visit>
@@ -57,8 +70,8 @@ void VisitShownBrushes(const RenderScene& scene, Visit&& visit);
 // Whether it is the box of a fixed-size entity that would hide the picture from the eye, and such boxes are
 // to be left out.
 bool IsInTheWay(const RenderScene& scene, const brush& b);
-// The brush itself or the copy that stands in for it.
-brush& ShownShape(const RenderScene& scene, brush& b);
+// The brush itself or what stands in for it; may be none.
+const brush* ShownShape(const RenderScene& scene, const brush& b);
 
 template <typename Visit>
 void VisitShownBrushes(const RenderScene& scene, Visit&& visit) {

@@ -48,15 +48,24 @@ void SetTexture(const TextureRef& texture, Paint& paint) {
 
 int ChannelOf(float nominal) { return std::clamp(Truncate(nominal * 255.0), 0, 255); }
 
-int BoxColour(const RenderAssets& assets, const brush& b) {
+int BoxColour(const RenderAssets& assets, const brush& b, double brightness = 1) {
   if (!assets.palette) return 255;
-  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(b.color().x), ChannelOf(b.color().y),
-                             ChannelOf(b.color().z));
+  const vec3 colour = scale(b.color(), brightness);
+  return nearestPaletteIndex(assets.palette, kColours, ChannelOf(colour.x), ChannelOf(colour.y),
+                             ChannelOf(colour.z));
 }
 
 int OutlineColour(const RenderAssets& assets, FaceState state) {
   if (state == FaceState::CurrentFace) return assets.faceOutline;
   return state == FaceState::Selected ? assets.selectionOutline : assets.brushOutline;
+}
+
+// The face that keeps the texture: one of the brush that another stands in for, which lasts longer.
+const face& KeeperOf(const face& f, const brush* original) {
+  if (!original) return f;
+  const auto named = [&](const face& other) { return other.texture.name == f.texture.name; };
+  const auto found = std::ranges::find_if(original->faces(), named);
+  return found == original->faces().end() ? f : *found;
 }
 
 const TextureRef* TextureOf(const RenderAssets& assets, const face& f) {
@@ -79,9 +88,17 @@ bool VisiblePolygon(const FrameView& view, const face& f, bool onBorder, ViewPol
 void FaceList::begin(const RenderScene& scene, const FrameView& view) {
   scene_ = &scene;
   view_ = &view;
-  currentBrush_ = scene.model.firstSelected();
+  currentBrush_ = scene.still ? scene.still->firstSelected() : scene.model.firstSelected();
   faces_.assign(1, FaceDraw());
   edges_.clear();
+}
+
+void FaceList::resume(const RenderScene& scene, const FrameView& view, const Size& size) {
+  scene_ = &scene;
+  view_ = &view;
+  currentBrush_ = scene.still->firstSelected();
+  faces_.resize(size.faces);
+  edges_.resize(size.edges);
 }
 
 BrushLook FaceList::lookOf(const brush& b) const {
@@ -89,15 +106,17 @@ BrushLook FaceList::lookOf(const brush& b) const {
   look.flat = scene_->settings.drawmode == 1;
   if (b.owner && b.owner->isModel) return look;
   look.flat = look.fixedColour = true;
+  if (scene_->settings.solid_entities) look.solid = &b;
   look.colour = BoxColour(scene_->assets, b);
   return look;
 }
 
 void FaceList::addBrush(BrushDraw& draw) {
-  brush& b = *draw.shape;
+  const brush& b = *draw.shape;
   draw.isSetUp = true;
   draw.firstFace = count();
-  const BrushLook look = lookOf(b);
+  BrushLook look = lookOf(b);
+  if (draw.shape != draw.original) look.original = draw.original;
   const FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
   // A previewed copy shows the current face of the brush that it stands for.
   const bool isCurrent = !look.fixedColour && draw.original == currentBrush_;
@@ -108,7 +127,7 @@ void FaceList::addBrush(BrushDraw& draw) {
   draw.faceCount = count() - draw.firstFace;
 }
 
-void FaceList::addFace(brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
+void FaceList::addFace(const brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
                        bool onBorder) {
   const face& f = b.faces()[size_t(index)];
   if (!VisiblePolygon(*view_, f, onBorder, polygon_, scratch_)) return;
@@ -122,8 +141,7 @@ void FaceList::addFace(brush& b, int index, FaceState state, const BrushLook& lo
 const std::uint8_t* FaceList::shadesOf(const face& f, const BrushLook& look) const {
   const Settings& settings = scene_->settings;
   if (!scene_->assets.colormap) return kUnshaded.colours;
-  const bool shaded =
-      look.fixedColour ? settings.solid_entities : (look.flat ? settings.shadeflats : settings.shadetextures);
+  const bool shaded = !look.fixedColour && (look.flat ? settings.shadeflats : settings.shadetextures);
   const int row =
       shaded ? ShadeRow(view_->eye, f.facePlane.normal, settings.lightintensity, settings.ambientintensity)
              : settings.flatlevel;
@@ -135,7 +153,16 @@ Paint FaceList::paintOf(const face& f, FaceState state, const BrushLook& look) c
   paint.shades = shadesOf(f, look);
   paint.outlined = state != FaceState::Plain || scene_->settings.outline;
   paint.outline = std::uint8_t(OutlineColour(scene_->assets, state));
-  const TextureRef* texture = look.fixedColour ? nullptr : TextureOf(scene_->assets, f);
+  if (look.solid) {
+    // The light table would leave bright colours as they are.
+    const int row = ShadeRow(view_->eye, f.facePlane.normal, scene_->settings.lightintensity,
+                             scene_->settings.ambientintensity);
+    constexpr double kDarkest = 63;
+    paint.colour = std::uint8_t(BoxColour(scene_->assets, *look.solid, 1 - row / kDarkest));
+    return paint;
+  }
+  const TextureRef* texture =
+      look.fixedColour ? nullptr : TextureOf(scene_->assets, KeeperOf(f, look.original));
   if (texture && !look.flat) {
     SetTexture(*texture, paint);
     return paint;

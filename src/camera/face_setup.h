@@ -12,19 +12,28 @@ namespace velk {
 // How the faces of one brush are drawn.
 struct BrushLook {
   bool flat = false;
-  bool fixedColour = false;  // the box of a fixed-size entity
-  int colour = 0;            // its palette index
+  bool fixedColour = false;         // the box of a fixed-size entity
+  int colour = 0;                   // its palette index
+  const brush* solid = nullptr;     // the box itself when its faces are shaded
+  const brush* original = nullptr;  // that it stands in for, whose faces keep the textures
 };
 
 class FaceList {
  public:
   // Begins an empty table; scene and view must stay until it is done with.
   void begin(const RenderScene& scene, const FrameView& view);
+  // Goes on with the first faces of the table and the edges they need.
+  struct Size {
+    size_t faces = 0;
+    size_t edges = 0;
+  };
+  void resume(const RenderScene& scene, const FrameView& view, const Size& size);
+  Size size() const { return {faces_.size(), edges_.size()}; }
 
   // Appends the faces of the brush that the eye sees and that cover a row, and notes them in `draw`.
   void addBrush(BrushDraw& draw);
   // Appends one face in that state, when the eye sees it.
-  void addFace(brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
+  void addFace(const brush& b, int index, FaceState state, const BrushLook& look, std::uint32_t rank,
                bool onBorder);
 
   BrushLook lookOf(const brush& b) const;

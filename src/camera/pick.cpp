@@ -10,12 +10,13 @@ namespace {
 
 class Picker {
  public:
-  Picker(const FrameView& view, int px, int py) : view_(view), culler_(view), px_(px), py_(py) {}
+  Picker(const FrameView& view, int px, int py)
+      : view_(view), pixel_(view, px, py), culler_(view), px_(px), py_(py) {}
 
   // `shape` is the brush or the copy that stands in for it.
   void visit(brush& b, const brush& shape) {
     BrushDraw draw;
-    if (!culler_.place(shape, draw)) return;
+    if (!pixel_.mayShow(shape) || !culler_.place(shape, draw)) return;
     if (px_ < draw.left || px_ >= draw.right || py_ < draw.top || py_ >= draw.bottom) return;
     for (int i = 0; i < shape.numfaces(); ++i) {
       const std::optional<float> w = depthAt(shape.faces()[size_t(i)], draw.onBorder);
@@ -50,6 +51,7 @@ class Picker {
   }
 
   const FrameView& view_;
+  PixelCuller pixel_;
   BrushCuller culler_;
   int px_;
   int py_;
@@ -64,7 +66,9 @@ class Picker {
 
 FacePick PickFace(const RenderScene& scene, const FrameView& view, int px, int py) {
   Picker picker(view, px, py);
-  VisitShownBrushes(scene, [&](brush& b) { picker.visit(b, ShownShape(scene, b)); });
+  VisitShownBrushes(scene, [&](brush& b) {
+    if (const brush* shape = ShownShape(scene, b)) picker.visit(b, *shape);
+  });
   return picker.result();
 }
 

@@ -26,6 +26,11 @@ void Resize(Values& values, size_t count, const char* failure) {
   }
 }
 
+void NearestFirst(std::vector<BrushDraw>& brushes) {
+  std::sort(brushes.begin(), brushes.end(),
+            [](const BrushDraw& a, const BrushDraw& b) { return a.depth < b.depth; });
+}
+
 }  // namespace
 
 void Picture::resize(int newWidth, int newHeight) {
@@ -51,10 +56,14 @@ void PictureDrawer::makeStrip(Picture& picture, int top, int rows, DrawOver over
   if (over == DrawOver::Nothing) std::fill_n(strip_.depth, pixels, 0.0f);
   numbers_.assign(pixels + kSparePixels, 0);
   strip_.faces = numbers_.data();
-  strip_.tileColumns = (picture.width + kTileWidth - 1) / kTileWidth;
+  makeTiles(rows, over != DrawOver::Nothing);
+}
+
+void PictureDrawer::makeTiles(int rows, bool stale) {
+  strip_.tileColumns = (strip_.width + kTileWidth - 1) / kTileWidth;
   const size_t tiles = size_t(strip_.tileColumns) * size_t((rows + kTileHeight - 1) / kTileHeight);
   tiles_.assign(tiles, 0);
-  stale_.assign(tiles, over != DrawOver::Nothing);
+  stale_.assign(tiles, stale);
   strip_.tiles = tiles_.data();
   strip_.stale = stale_.data();
   spans_.clear();
@@ -101,22 +110,48 @@ void PictureDrawer::drawBrush(BrushDraw& draw, FaceList& faces, bool always, Ren
 }
 
 void PictureDrawer::draw(Picture& picture, std::vector<BrushDraw>& brushes, FaceList& faces, DrawOver over,
-                         RenderStatistics& statistics) {
+                         RenderStatistics& statistics, std::vector<std::uint32_t>* numbers) {
   const bool always = over == DrawOver::PictureWithoutDepthTest;
-  if (!always) {
-    std::sort(brushes.begin(), brushes.end(),
-              [](const BrushDraw& a, const BrushDraw& b) { return a.depth < b.depth; });
-  }
+  if (!always) NearestFirst(brushes);
   const int rows = StripRows(picture);
   for (int top = 0; top < picture.height; top += rows) {
     makeStrip(picture, top, rows, over);
     for (BrushDraw& brush : brushes) drawBrush(brush, faces, always, statistics);
+    const size_t first = size_t(top) * size_t(picture.width);
+    if (numbers) std::copy(numbers_.begin(), numbers_.end() - kSparePixels, numbers->begin() + long(first));
     for (int row = strip_.top; row < strip_.bottom; ++row) {
       std::uint8_t* out = picture.frame.data() + size_t(row) * size_t(picture.width);
       statistics.pixelsWritten +=
           kernels_.paintRow(strip_, faces.table(), spans_.data(), row, out, over != DrawOver::Nothing);
     }
   }
+}
+
+PictureDrawer::Rows PictureDrawer::drawInto(Picture& picture, std::vector<std::uint32_t>& numbers,
+                                            std::vector<BrushDraw>& brushes, FaceList& faces,
+                                            std::uint32_t firstNew, RenderStatistics& statistics) {
+  strip_.width = picture.width;
+  strip_.top = 0;
+  strip_.bottom = picture.height;
+  strip_.depth = picture.depth.data();
+  strip_.faces = numbers.data();
+  makeTiles(picture.height, true);
+  NearestFirst(brushes);
+  for (BrushDraw& brush : brushes) drawBrush(brush, faces, false, statistics);
+
+  Rows rows{picture.height, 0};
+  for (std::uint32_t i = firstNew; i < faces.count(); ++i) {
+    rows.top = std::min(rows.top, std::max(faces[i].outline.top, 0));
+    rows.bottom = std::max(rows.bottom, std::min(faces[i].outline.bottom, picture.height));
+  }
+  for (int row = rows.top; row < rows.bottom; ++row) {
+    const size_t first = size_t(row) * size_t(picture.width);
+    std::uint32_t* shown = numbers.data() + first;
+    for (int x = 0; x < picture.width; ++x) shown[x] = shown[x] < firstNew ? 0 : shown[x];
+    statistics.pixelsWritten +=
+        kernels_.paintRow(strip_, faces.table(), spans_.data(), row, picture.frame.data() + first, true);
+  }
+  return rows;
 }
 
 }  // namespace velk

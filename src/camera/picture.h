@@ -27,11 +27,22 @@ class PictureDrawer {
   explicit PictureDrawer(const Kernels& kernels) : kernels_(kernels) {}
 
   // Brushes not set up yet are set up when they are first seen. The list is put in another order.
+  // `numbers`, when given, gets the number of the face that each pixel shows.
   void draw(Picture& picture, std::vector<BrushDraw>& brushes, FaceList& faces, DrawOver over,
-            RenderStatistics& statistics);
+            RenderStatistics& statistics, std::vector<std::uint32_t>* numbers = nullptr);
+
+  // Draws brushes into a picture by the ranks of all faces: those of the pixels by `numbers`, which are below
+  // `firstNew`, and those that are added. Rows top..bottom-1 of picture and numbers are changed.
+  struct Rows {
+    int top = 0;
+    int bottom = 0;
+  };
+  Rows drawInto(Picture& picture, std::vector<std::uint32_t>& numbers, std::vector<BrushDraw>& brushes,
+                FaceList& faces, std::uint32_t firstNew, RenderStatistics& statistics);
 
  private:
   void makeStrip(Picture& picture, int top, int rows, DrawOver over);
+  void makeTiles(int rows, bool stale);
   void drawBrush(BrushDraw& draw, FaceList& faces, bool always, RenderStatistics& statistics);
   void drawFace(FaceList& faces, std::uint32_t number, bool always, RenderStatistics& statistics);
   bool hides(int left, int top, int right, int bottom, float w) const;

@@ -4,6 +4,7 @@
 
 #include "camera/pick.h"
 #include "camera/picture.h"
+#include "camera/still_picture.h"
 
 namespace velk {
 
@@ -27,6 +28,7 @@ struct Renderer::State {
   FaceList faces;
   PictureDrawer drawer;
   std::vector<BrushDraw> brushes;
+  StillPicture still;
   RenderStatistics statistics;
 
   void aim(const RenderScene& scene, RenderSize size);
@@ -48,11 +50,13 @@ void Renderer::State::collectBrushes(const RenderScene& scene) {
   BrushDraw draw;
   std::uint32_t rank = 1;
   VisitShownBrushes(scene, [&](brush& b) {
-    draw.shape = &ShownShape(scene, b);
+    draw.shape = ShownShape(scene, b);
     draw.original = &b;
     draw.rank = rank;
     rank += MAX_FACES;
-    if (culler.place(*draw.shape, draw)) brushes.push_back(draw);
+    if (!draw.shape || !culler.place(*draw.shape, draw)) return;
+    brushes.push_back(draw);
+    if (draw.shape != &b) faces.addBrush(brushes.back());  // what stands in may go with the next brush
   });
 }
 
@@ -73,6 +77,10 @@ void Renderer::renderFrame(const RenderScene& scene, RenderSize size) {
   s.picture.resize(size.width, size.height);
   s.aim(scene, size);
   s.statistics = {};
+  if (s.still.takes(scene, size)) {
+    s.still.draw(scene, s.view, s.drawer, s.picture, s.faces, s.statistics);
+    return;
+  }
   s.faces.begin(scene, s.view);
   s.collectBrushes(scene);
   s.drawer.draw(s.picture, s.brushes, s.faces, DrawOver::Nothing, s.statistics);
@@ -82,13 +90,14 @@ void Renderer::renderBrush(const RenderScene& scene, brush& b) {
   State& s = *state_;
   if (s.picture.width == 0 || !IsShown(scene.model, b)) return;
   s.aim(scene, {s.picture.width, s.picture.height});
+  s.still.forget();
   s.faces.begin(scene, s.view);
   s.brushes.assign(1, BrushDraw());
   BrushDraw& draw = s.brushes[0];
-  draw.shape = &ShownShape(scene, b);
+  draw.shape = ShownShape(scene, b);
   draw.original = &b;
   draw.rank = 1;
-  if (!BrushCuller(s.view).place(*draw.shape, draw)) return;
+  if (!draw.shape || !BrushCuller(s.view).place(*draw.shape, draw)) return;
   s.drawer.draw(s.picture, s.brushes, s.faces,
                 noDepthTest ? DrawOver::PictureWithoutDepthTest : DrawOver::Picture, s.statistics);
 }
@@ -97,6 +106,7 @@ void Renderer::renderFace(const RenderScene& scene, brush& b, int face, FaceStat
   State& s = *state_;
   if (s.picture.width == 0 || face < 0 || face >= b.numfaces()) return;
   s.aim(scene, {s.picture.width, s.picture.height});
+  s.still.forget();
   s.faces.begin(scene, s.view);
   s.brushes.assign(1, BrushDraw());
   BrushDraw& draw = s.brushes[0];
@@ -117,7 +127,10 @@ FacePick Renderer::pickFace(const RenderScene& scene, RenderSize size, int px, i
   return PickFace(scene, s.view, px, py);
 }
 
-void Renderer::clearBuffers() { state_->picture.clear(); }
+void Renderer::clearBuffers() {
+  state_->still.forget();
+  state_->picture.clear();
+}
 
 int Renderer::width() const { return state_->picture.width; }
 int Renderer::height() const { return state_->picture.height; }

@@ -11,6 +11,7 @@
 #include "camera/movement.h"
 #include "geometry/texture_ref.h"
 #include "model/map.h"
+#include "model/still_brushes.h"
 #include "settings/settings.h"
 
 namespace velk {
@@ -33,9 +34,13 @@ struct RenderScene {
   const Settings& settings;
   const RenderAssets& assets;
   WireLens lens;
-  // The copy to draw in place of a selected brush while an operation previews it; may be empty, and may
-  // give none.
-  std::function<brush*(brush&)> preview;
+  // What to draw in place of a selected brush: itself, another that is valid until the next call, or none for
+  // nothing. May be empty.
+  std::function<const brush*(const brush&)> preview;
+  // While pictures are drawn that differ in a few brushes only: what stays, seen just now. Of two pictures
+  // alike in everything else the second is kept, and into those after it only the moving brushes are drawn.
+  // The textures of the map must stay meanwhile.
+  const StillBrushes* still = nullptr;
 };
 
 struct RenderSize {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "camera/culling.h"
 #include "camera/view.h"
 
 namespace velk {
@@ -176,15 +177,17 @@ double DistanceFromEye(const map& m, const brush& b) {
 
 }  // namespace
 
-void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
-              const WireLens& lens) {
+void DrawWire(Canvas& canvas, RenderSize canvasSize, const RenderScene& scene) {
+  const map& m = scene.model;
+  const Settings& settings = scene.settings;
   canvas.fill({0, 0, canvasSize.width, canvasSize.height}, settings.colours.bgcolor);
-  WirePlotter plotter(canvasSize, m, settings, lens, canvas.deviceScale());
+  WirePlotter plotter(canvasSize, m, settings, scene.lens, canvas.deviceScale());
   for (const bool selected : {false, true}) {  // the selection is not to be painted over
     const Colour colour = selected ? settings.colours.color_selection : settings.colours.fgcolor;
     for (const entity& e : m.entities()) {
       for (const brush& b : e.brushes()) {
-        if (b.selected() == selected && IsShown(m, b)) DrawBrush(canvas, plotter, b, colour);
+        if (b.selected() != selected || !IsShown(m, b)) continue;
+        if (const brush* shape = ShownShape(scene, b)) DrawBrush(canvas, plotter, *shape, colour);
       }
     }
   }

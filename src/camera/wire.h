@@ -8,8 +8,7 @@ namespace velk {
 
 // Fills the canvas with the background colour and draws the edges of every brush that is not hidden nor in
 // a group switched off: selected ones in the selection colour, others in the foreground colour.
-void DrawWire(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
-              const WireLens& lens);
+void DrawWire(Canvas& canvas, RenderSize canvasSize, const RenderScene& scene);
 
 // The edges of one brush.
 void RenderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,

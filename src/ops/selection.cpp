@@ -1,5 +1,7 @@
 #include "ops/selection.h"
 
+#include <algorithm>
+
 namespace velk {
 namespace {
 
@@ -23,14 +25,35 @@ struct Candidate {
 // An invalid brush may have no polygon left, and then every ray would seem to start inside it.
 bool CanBeHit(const map& m, const brush& b) { return !b.invalid && IsShown(m, b); }
 
-Candidate Nearest(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
+// The bounds of a ray, a little widened. What it hits reaches into them.
+struct RayBounds {
+  vec3 low;
+  vec3 high;
+
+  RayBounds(const vec3& start, const vec3& end) {
+    constexpr float kMargin = 1;
+    for (int axis = 0; axis < 3; ++axis) {
+      low[axis] = std::min(start[axis], end[axis]) - kMargin;
+      high[axis] = std::max(start[axis], end[axis]) + kMargin;
+    }
+  }
+  bool meets(const brush& b) const {
+    return b.mins.x <= high.x && b.maxs.x >= low.x && b.mins.y <= high.y && b.maxs.y >= low.y &&
+           b.mins.z <= high.z && b.maxs.z >= low.z;
+  }
+};
+
+// Calls `meet` with every brush that the ray hits.
+template <typename Meet>
+Candidate Nearest(const map& m, const vec3& start, const vec3& end, bool entitiesFirst, Meet&& meet) {
+  const RayBounds bounds(start, end);
   Candidate best;
   for (int i = m.numentities() - 1; i >= 0; --i) {
     if (i == 0 && entitiesFirst && best.hit) break;
     for (brush& b : m.at(i)->brushes()) {
-      if (!CanBeHit(m, b)) continue;
+      if (!bounds.meets(b) || !CanBeHit(m, b)) continue;
       const brush::Hit at = b.hitByRay(start, end);
-      if (at.t >= 0) m.hits.add(b);
+      if (at.t >= 0) meet(b);
       best.offer(b, at);
     }
   }
@@ -50,12 +73,7 @@ void SelectByBox(map& m, bool inside) {
 
 bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texturedef& texture,
                        bool wholeBrush) {
-  Candidate best;
-  for (int i = m.numentities() - 1; i >= 0; --i) {
-    for (brush& b : m.at(i)->brushes()) {
-      if (CanBeHit(m, b)) best.offer(b, b.hitByRay(start, end));
-    }
-  }
+  const Candidate best = Nearest(m, start, end, false, [](const brush&) {});
   if (!best.hit || !best.hit->owner->isModel) return false;
   m.modified = true;
   if (wholeBrush) {
@@ -66,9 +84,14 @@ bool ApplyTextureByRay(map& m, const vec3& start, const vec3& end, const texture
   return true;
 }
 
+RayPick PickByRay(const map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
+  const Candidate best = Nearest(m, start, end, entitiesFirst, [](const brush&) {});
+  return {best.hit, best.face, false};
+}
+
 RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
   m.hits.clear();
-  const Candidate best = Nearest(m, start, end, entitiesFirst);
+  const Candidate best = Nearest(m, start, end, entitiesFirst, [&](brush& b) { m.hits.add(b); });
   if (!best.hit) return {};
   brush& b = *best.hit;
   m.modified = true;

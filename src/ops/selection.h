@@ -21,6 +21,9 @@ struct RayPick {
   bool firstOfSelection = false;  // nothing else was selected: the texture browser takes the face's texture
 };
 
+// What selectByRay would pick; changes nothing.
+RayPick PickByRay(const map& m, const vec3& start, const vec3& end, bool entitiesFirst);
+
 // Picks along a ray and toggles the selection of what it meets first; its entity becomes current. With
 // entitiesFirst, world brushes count only when no other entity's was hit. Fills the hit list.
 RayPick selectByRay(map& m, const vec3& start, const vec3& end, bool entitiesFirst);

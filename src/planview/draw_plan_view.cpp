@@ -3,15 +3,19 @@
 #include "planview/view_painter.h"
 
 namespace velk {
+namespace {
 
-void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view) {
-  ViewPainter painter(canvas, scene, view);
+void DrawUnderBrushes(ViewPainter& painter) {
+  painter.canvas.fill({0, 0, painter.view.clientWidth, painter.view.clientHeight}, painter.colours.bgcolor);
+  if (!painter.scene.shown) return;
+  if (painter.settings.show_grid) DrawGrid(painter);
+  DrawClipPoints(painter);
+}
+
+void DrawOverBrushes(ViewPainter& painter) {
+  const PlanScene& scene = painter.scene;
   const Settings& settings = scene.settings;
-  canvas.fill({0, 0, painter.view.clientWidth, painter.view.clientHeight}, settings.colours.bgcolor);
   if (scene.shown) {
-    if (settings.show_grid) DrawGrid(painter);
-    DrawClipPoints(painter);
-    DrawBrushes(painter);
     DrawGhosts(painter);
     if (settings.connections) DrawConnections(painter);
     if (settings.show_hits) DrawHits(painter);
@@ -20,7 +24,43 @@ void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view) {
   if (settings.showeye) DrawEyeMarker(painter);
   if (scene.shown && settings.show_cameras) DrawCameras(painter);
   DrawLeakPoints(painter);
-  DrawHeaderStrip(canvas, painter.view, settings, scene.shown, scene.groupName, scene.strip);
+  DrawHeaderStrip(painter.canvas, painter.view, settings, scene.shown, scene.groupName, scene.strip);
+}
+
+}  // namespace
+
+void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view) {
+  ViewPainter painter(canvas, scene, view);
+  DrawUnderBrushes(painter);
+  if (scene.shown) DrawBrushes(painter);
+  DrawOverBrushes(painter);
+}
+
+void DrawPlanView(RasterCanvas& canvas, const PlanScene& scene, int view, const StillBrushes& still,
+                  PlanLayer& layer) {
+  if (!scene.shown || !still.mostStay()) return DrawPlanView(canvas, scene, view);
+  const PlanLayer::Key key =
+      LayerKey(scene.set, view, scene.settings, *scene.shown, still, canvas.deviceScale());
+  if (layer.key != key) {
+    layer.key = key;
+    layer.drawn = false;
+    return DrawPlanView(canvas, scene, view);
+  }
+  ViewPainter painter(canvas, scene, view);
+  if (layer.drawn) {
+    canvas.paste(layer.pixels);
+  } else {
+    canvas.keepRanks(layer.ranks);
+    DrawUnderBrushes(painter);
+    DrawStillBrushes(painter, canvas, still);
+    canvas.freeRanks();
+    canvas.copyTo(layer.pixels);
+    layer.drawn = true;
+  }
+  canvas.obeyRanks(layer.ranks);
+  DrawMovingBrushes(painter, canvas, still);
+  canvas.freeRanks();
+  DrawOverBrushes(painter);
 }
 
 }  // namespace velk

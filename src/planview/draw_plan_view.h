@@ -7,6 +7,7 @@
 #include <string>
 
 #include "planview/header_strip.h"
+#include "planview/plan_layer.h"
 #include "planview/plan_view.h"
 
 namespace velk {
@@ -19,8 +20,8 @@ struct PlanScene {
   StripColours strip{};
   std::string groupName{};             // of the group window's selected group, may be empty
   std::span<const vec3> leakPoints{};  // empty when they are not shown
-  // The brush to draw in place of a selected one (a running drag's or the clipper's preview), valid until
-  // the next call; none draws the brush itself. May be empty.
+  // What to draw in place of a selected brush (a running drag's or the clipper's preview): itself, another
+  // that is valid until the next call, or none for nothing. May be empty.
   std::function<const brush*(const brush&)> preview{};
   std::span<const std::unique_ptr<brush>> ghosts{};  // drawn over the map
 };
@@ -30,5 +31,11 @@ inline constexpr Colour kGhostColour{64, 208, 144};
 
 // Draws the whole view, header strip included, in its client size.
 void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view);
+
+// The same picture, for many that differ in a few brushes only: of two alike in everything else the second
+// keeps what stays in the layer, and those after it draw the moving brushes alone. `still` must have looked
+// at the map.
+void DrawPlanView(RasterCanvas& canvas, const PlanScene& scene, int view, const StillBrushes& still,
+                  PlanLayer& layer);
 
 }  // namespace velk

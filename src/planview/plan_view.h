@@ -29,6 +29,7 @@ struct PlanProjection {
   double scale = 1;  // pixels per world unit
   int width = 0;     // pixels
   int height = 0;
+  friend bool operator==(const PlanProjection&, const PlanProjection&) = default;
 
   // Truncated toward zero, from the middle of the view in whole pixels; out of an int's range gives the
   // nearest int.

@@ -55,6 +55,34 @@ struct Run {
   int minorSize = 0;
   std::ptrdiff_t majorStep = 1;
   std::ptrdiff_t minorStep = 1;
+  std::ptrdiff_t majorRankStep = 1;  // the same in the list of ranks
+  std::ptrdiff_t minorRankStep = 1;
+};
+
+// Colour a pixel: as it is, keeping the stroke's rank, or unless a larger rank is there.
+struct FreePixels {
+  static constexpr bool kRanked = false;
+  std::uint32_t* pixels;
+  void set(std::ptrdiff_t at, std::ptrdiff_t, std::uint32_t colour) const { pixels[at] = colour; }
+};
+struct KeepingPixels {
+  static constexpr bool kRanked = true;
+  std::uint32_t* pixels;
+  std::uint32_t* ranks;
+  std::uint32_t rank;
+  void set(std::ptrdiff_t at, std::ptrdiff_t rankAt, std::uint32_t colour) const {
+    pixels[at] = colour;
+    ranks[rankAt] = rank;
+  }
+};
+struct ObeyingPixels {
+  static constexpr bool kRanked = true;
+  std::uint32_t* pixels;
+  const std::uint32_t* ranks;
+  std::uint32_t rank;
+  void set(std::ptrdiff_t at, std::ptrdiff_t rankAt, std::uint32_t colour) const {
+    if (ranks[rankAt] <= rank) pixels[at] = colour;
+  }
 };
 
 // How many runs side by side look as wide as `width` does along an axis.
@@ -63,7 +91,8 @@ int RunsFor(int width, int dx, int dy) {
 }
 
 // Draws the pixels of the run that lie in the picture; the same ones as without clipping.
-void DrawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
+template <typename Pixels>
+void DrawRun(const Pixels& pixels, const Run& run, std::uint32_t colour) {
   // After i steps the line has climbed floor((2 climb i + length) / (2 length)).
   const std::int64_t twiceClimb = 2 * std::int64_t(run.climb), twiceLength = 2 * std::int64_t(run.length);
   std::int64_t first = std::max<std::int64_t>(0, -std::int64_t(run.major));
@@ -84,12 +113,16 @@ void DrawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
   int error = static_cast<int>(reached % twiceLength);
   const std::ptrdiff_t minorStep = run.minorSign * run.minorStep;
   std::ptrdiff_t at = (run.major + first) * run.majorStep + run.minor * run.minorStep + climbed * minorStep;
+  const std::ptrdiff_t minorRankStep = run.minorSign * run.minorRankStep;
+  std::ptrdiff_t rankAt =
+      (run.major + first) * run.majorRankStep + run.minor * run.minorRankStep + climbed * minorRankStep;
   for (std::int64_t n = last - first; n >= 0; --n) {
-    pixels[at] = colour;
+    pixels.set(at, rankAt, colour);
     error += step;
     const int carry = -static_cast<int>(error >= over);  // all bits or none, which saves a branch
     error -= over & carry;
     at += run.majorStep + (minorStep & carry);
+    if constexpr (Pixels::kRanked) rankAt += run.majorRankStep + (minorRankStep & carry);
   }
 }
 
@@ -97,6 +130,34 @@ void DrawRun(std::uint32_t* pixels, const Run& run, std::uint32_t colour) {
 
 RasterCanvas::RasterCanvas(std::uint32_t* pixels, int width, int height, std::ptrdiff_t stride, double scale)
     : pixels_(pixels), width_(width), height_(height), stride_(stride), scale_(scale) {}
+
+void RasterCanvas::keepRanks(std::vector<std::uint32_t>& ranks) {
+  ranks.assign(size_t(width_) * size_t(height_), 0);
+  kept_ = ranks.data();
+  rank_ = 0;
+  ranks_ = Ranks::Kept;
+}
+
+void RasterCanvas::obeyRanks(const std::vector<std::uint32_t>& ranks) {
+  obeyed_ = ranks.data();
+  rank_ = 0;
+  ranks_ = Ranks::Obeyed;
+}
+
+void RasterCanvas::freeRanks() { ranks_ = Ranks::Free; }
+
+void RasterCanvas::copyTo(std::vector<std::uint32_t>& pixels) const {
+  pixels.resize(size_t(width_) * size_t(height_));
+  for (int y = 0; y < height_; ++y) {
+    std::copy_n(pixels_ + y * stride_, width_, pixels.data() + std::ptrdiff_t(y) * width_);
+  }
+}
+
+void RasterCanvas::paste(const std::vector<std::uint32_t>& pixels) {
+  for (int y = 0; y < height_; ++y) {
+    std::copy_n(pixels.data() + std::ptrdiff_t(y) * width_, width_, pixels_ + y * stride_);
+  }
+}
 
 int RasterCanvas::toDevice(double position) const { return Truncate(RoundHalfAway(position * scale_)); }
 
@@ -111,9 +172,19 @@ void RasterCanvas::fillDevice(int left, int top, int right, int bottom, std::uin
   left = std::max(left, 0);
   right = std::min(right, width_);
   bottom = std::min(bottom, height_);
+  top = std::max(top, 0);
   if (left >= right) return;
-  for (int y = std::max(top, 0); y < bottom; ++y) {
+  if (ranks_ == Ranks::Obeyed) return fillObeying(left, top, right, bottom, colour);
+  for (int y = top; y < bottom; ++y) {
     std::fill_n(pixels_ + y * stride_ + left, right - left, colour);
+    if (ranks_ == Ranks::Kept) std::fill_n(kept_ + std::ptrdiff_t(y) * width_ + left, right - left, rank_);
+  }
+}
+
+void RasterCanvas::fillObeying(int left, int top, int right, int bottom, std::uint32_t colour) {
+  const ObeyingPixels pixels{pixels_, obeyed_, rank_};
+  for (int y = top; y < bottom; ++y) {
+    for (int x = left; x < right; ++x) pixels.set(y * stride_ + x, std::ptrdiff_t(y) * width_ + x, colour);
   }
 }
 
@@ -163,11 +234,24 @@ void RasterCanvas::deviceLine(std::uint32_t colour, int width, Pixel from, Pixel
   const bool steep = dy > dx;
   // Always drawn in the same direction, so that an edge shared by two polygons meets the same pixels.
   if (steep ? from.y > to.y : from.x > to.x) std::swap(from, to);
-  Run run = steep ? Run{from.y, from.x, dy, dx, to.x > from.x ? 1 : -1, height_, width_, stride_, 1}
-                  : Run{from.x, from.y, dx, dy, to.y > from.y ? 1 : -1, width_, height_, 1, stride_};
+  Run run = steep
+                ? Run{from.y, from.x, dy, dx, to.x > from.x ? 1 : -1, height_, width_, stride_, 1, width_, 1}
+                : Run{from.x, from.y, dx, dy, to.y > from.y ? 1 : -1, width_, height_, 1, stride_, 1, width_};
   const int runs = RunsFor(width, dx, dy);
   run.minor -= (runs - 1) / 2;
-  for (int i = 0; i < runs; ++i, ++run.minor) DrawRun(pixels_, run, colour);
+  for (int i = 0; i < runs; ++i, ++run.minor) {
+    switch (ranks_) {
+      case Ranks::Free:
+        DrawRun(FreePixels{pixels_}, run, colour);
+        break;
+      case Ranks::Kept:
+        DrawRun(KeepingPixels{pixels_, kept_, rank_}, run, colour);
+        break;
+      case Ranks::Obeyed:
+        DrawRun(ObeyingPixels{pixels_, obeyed_, rank_}, run, colour);
+        break;
+    }
+  }
 }
 
 }  // namespace velk

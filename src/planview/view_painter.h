@@ -68,6 +68,9 @@ class ViewPainter {
 void DrawGrid(ViewPainter& painter);
 void DrawBrushes(ViewPainter& painter);
 void DrawGhosts(ViewPainter& painter);
+// The same in two goes. Ranks of the still brushes count from 1.
+void DrawStillBrushes(ViewPainter& painter, RasterCanvas& canvas, const StillBrushes& still);
+void DrawMovingBrushes(ViewPainter& painter, RasterCanvas& canvas, const StillBrushes& still);
 void DrawNames(ViewPainter& painter);
 void DrawHits(ViewPainter& painter);
 void DrawClipPoints(ViewPainter& painter);

@@ -32,28 +32,48 @@ const brush* FirstShownBrush(const map& m, const entity& e) {
 
 class BrushPainter {
  public:
-  explicit BrushPainter(ViewPainter& painter)
+  BrushPainter(ViewPainter& painter, const brush* firstSelected)
       : p_(painter),
         map_(*painter.scene.shown),
         current_(map_.currentEntity()),
         worldIsCurrent_(map_.worldIsCurrent()),
-        firstSelected_(map_.firstSelected()),
+        firstSelected_(firstSelected),
         towards_(painter.view.viewNormal[painter.view.axisDepth]) {}
 
   void draw() {
     for (const entity& e : map_.entities()) {
-      for (const brush& b : e.brushes()) drawBrush(e, b);
-      if (p_.view.orientation == kOrientationXY) drawAngle(e);
+      for (const brush& b : e.brushes()) {
+        if (IsShown(map_, b)) drawBrush(e, b);
+      }
+      drawAngle(e);
+    }
+  }
+
+  void drawStill(RasterCanvas& canvas, const StillBrushes& still) {
+    std::uint32_t rank = 0;
+    for (const StillBrushes::Part& part : still.parts()) {
+      for (const StillBrushes::Still& b : part.still) {
+        canvas.setRank(++rank);
+        drawBrush(*part.owner, *b.shown);
+      }
+    }
+  }
+
+  void drawMoving(RasterCanvas& canvas, const StillBrushes& still) {
+    for (const StillBrushes::Part& part : still.parts()) {
+      for (const StillBrushes::Moving& b : part.moving) {
+        canvas.setRank(part.first + b.after);
+        drawBrush(*part.owner, *b.shown);
+      }
+      canvas.setRank(part.end());
+      drawAngle(*part.owner);
     }
   }
 
  private:
   void drawBrush(const entity& owner, const brush& b) {
-    if (!IsShown(map_, b)) return;
-    const brush* drawn = &b;
-    if (b.selected() && p_.scene.preview) {
-      if (const brush* preview = p_.scene.preview(b)) drawn = preview;
-    }
+    const brush* drawn = b.selected() && p_.scene.preview ? p_.scene.preview(b) : &b;
+    if (!drawn) return;
     // An invalid brush has no bounds but may still have polygons.
     if (!drawn->invalid && !p_.sees(drawn->mins, drawn->maxs)) return;
     const Pen pen = penOf(owner, b);
@@ -98,6 +118,7 @@ class BrushPainter {
 
   // The arrow of an entity's "angle" on its first brush.
   void drawAngle(const entity& e) {
+    if (p_.view.orientation != kOrientationXY) return;
     const brush* first = FirstShownBrush(map_, e);
     if (!first) return;
     const std::string& angle = e.valueOfKey("angle");
@@ -119,7 +140,15 @@ class BrushPainter {
 
 }  // namespace
 
-void DrawBrushes(ViewPainter& painter) { BrushPainter(painter).draw(); }
+void DrawBrushes(ViewPainter& painter) { BrushPainter(painter, painter.scene.shown->firstSelected()).draw(); }
+
+void DrawStillBrushes(ViewPainter& painter, RasterCanvas& canvas, const StillBrushes& still) {
+  BrushPainter(painter, nullptr).drawStill(canvas, still);
+}
+
+void DrawMovingBrushes(ViewPainter& painter, RasterCanvas& canvas, const StillBrushes& still) {
+  BrushPainter(painter, still.firstSelected()).drawMoving(canvas, still);
+}
 
 void DrawGhosts(ViewPainter& painter) {
   for (const std::unique_ptr<brush>& ghost : painter.scene.ghosts) {

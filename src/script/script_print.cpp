@@ -76,11 +76,14 @@ std::string FaceText(const brush& b) {
                 TextureText(b.faces()[static_cast<size_t>(b.currentFace())].texture).c_str());
 }
 
-std::string PickText(Editor& editor, Pixel at) {
-  const map& m = OpenMap(editor);
-  const FacePick pick = editor.views().pickInCamera(at);
+std::string FaceOf(const map& m, const FacePick& pick) {
   if (!pick.hit) return "none";
   return Format("%d %d %d", m.indexOf(pick.hit->owner), pick.hit->owner->indexOf(pick.hit), pick.face);
+}
+
+std::string PickText(Editor& editor, Pixel at) {
+  const map& m = OpenMap(editor);
+  return FaceOf(m, editor.views().pickInCamera(at));
 }
 
 std::string SettingText(const Editor& editor, const std::string& key) {
@@ -334,6 +337,12 @@ Lines ScriptPrint(Editor& editor, const ScriptPrompts& prompts, const std::vecto
   if (what.size() == 2 && EqualNoCase(word, "menu")) return ContextMenuLines(editor, what[1].text);
   if (what.size() == 2 && EqualNoCase(word, "window")) {
     return ScriptPanelNamed(editor, what[1].text).printed();
+  }
+  if (what.size() == 2 && EqualNoCase(word, "cursor")) {
+    return {CursorName(editor.input().cursor(ScriptViewNamed(what[1].text)))};
+  }
+  if (what.size() == 2 && EqualNoCase(word, "hover")) {
+    return {FaceOf(OpenMap(editor), editor.input().hovered(ScriptViewNamed(what[1].text)))};
   }
   if (what.size() == 3 && EqualNoCase(word, "pick")) {
     return {PickText(editor, {ScriptNumber(what[1]), ScriptNumber(what[2])})};

@@ -82,8 +82,8 @@ void ReferenceRenderer::renderFrame(const RenderScene& scene, RenderSize size) {
 
 void ReferenceRenderer::renderBrush(const RenderScene& scene, brush& b) {
   if (scene.model.isFiltered(b) || !scene.model.passesGroupFilter(b)) return;
-  brush* shape = b.selected() && scene.preview ? scene.preview(b) : nullptr;
-  if (!shape) shape = &b;
+  const brush* shape = b.selected() && scene.preview ? scene.preview(b) : &b;
+  if (!shape) return;
   for (int i = 0; i < shape->numfaces(); ++i) {
     FaceState state = b.selected() ? FaceState::Selected : FaceState::Plain;
     const bool isCurrent = &b == scene.model.firstSelected() && i == shape->currentFace();
@@ -92,9 +92,9 @@ void ReferenceRenderer::renderBrush(const RenderScene& scene, brush& b) {
   }
 }
 
-void ReferenceRenderer::renderFace(const RenderScene& scene, brush& b, int index, FaceState state) {
+void ReferenceRenderer::renderFace(const RenderScene& scene, const brush& b, int index, FaceState state) {
   aim(scene);
-  face& f = b.editFaces()[size_t(index)];
+  const face& f = b.faces()[size_t(index)];
   if (!f.polygon || !(dot(eye_.origin, f.facePlane.normal) > f.facePlane.dist)) return;
   WindingPtr w = CopyWinding(*f.polygon);
   for (int i = 0; i < w->count; ++i) {
@@ -112,7 +112,7 @@ void ReferenceRenderer::renderFace(const RenderScene& scene, brush& b, int index
   rasterize(polygon, fillFor(scene, b, f, state));
 }
 
-ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, brush& b, face& f,
+ReferenceRenderer::Fill ReferenceRenderer::fillFor(const RenderScene& scene, const brush& b, const face& f,
                                                    FaceState state) const {
   const Settings& settings = scene.settings;
   const RenderAssets& assets = scene.assets;

@@ -14,7 +14,7 @@ class ReferenceRenderer {
   void renderFrame(const RenderScene& scene, RenderSize size);
   // Into the picture as it stands.
   void renderBrush(const RenderScene& scene, brush& b);
-  void renderFace(const RenderScene& scene, brush& b, int index, FaceState state);
+  void renderFace(const RenderScene& scene, const brush& b, int index, FaceState state);
 
   bool noDepthTest = false;
   int width = 0;
@@ -36,7 +36,7 @@ class ReferenceRenderer {
   };
 
   void aim(const RenderScene& scene);
-  Fill fillFor(const RenderScene& scene, brush& b, face& f, FaceState state) const;
+  Fill fillFor(const RenderScene& scene, const brush& b, const face& f, FaceState state) const;
   void rasterize(const std::vector<ScreenVertex>& polygon, const Fill& fill);
   void drawSpan(int row, const ScreenVertex& a, const ScreenVertex& b, const Fill& fill);
   void putPixel(int row, int x, float w, int colour);

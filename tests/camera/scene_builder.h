@@ -26,7 +26,7 @@ struct TestScene : TestMap {
 
   std::map<std::string, Image> images;
   RenderAssets assets;
-  std::function<brush*(brush&)> preview;
+  std::function<const brush*(const brush&)> preview;
 
   TestScene() {
     m.cameras[0].yaw = kQuarterTurn;
@@ -34,7 +34,7 @@ struct TestScene : TestMap {
     assets.makeTextureRef = [this](const std::string& name) { return makeRef(name); };
   }
 
-  RenderScene scene() { return {m, settings, assets, WireLens(), preview}; }
+  RenderScene scene() { return {m, settings, assets, WireLens(), preview, nullptr}; }
 
   // A texture of one colour, which is also its average.
   void plainTexture(const std::string& name, int colour, int size = 16) {

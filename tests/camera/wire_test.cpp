@@ -18,7 +18,7 @@ struct WireTest : testing::Test, test::TestScene {
   // The bounds of the faces drawn, as RecordingCanvas writes them.
   std::vector<std::string> draw() {
     canvas = {};
-    DrawWire(canvas, kWindow, m, settings, kLens);
+    DrawWire(canvas, kWindow, {m, settings, assets, kLens, preview, nullptr});
     return canvas.starting("polygon");
   }
   RecordingCanvas canvas;

@@ -1,14 +1,12 @@
 #include "desktop/views/camera_window.h"
 
-#include <QPainter>
+#include <vector>
 
-#include "camera/compass.h"
+#include "app/view_overlay.h"
 #include "camera/leak_line.h"
 #include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
-#include "desktop/frame/context_menu.h"
 #include "desktop/views/palette_image.h"
-#include "desktop/views/pointer_events.h"
 #include "desktop/views/qt_canvas.h"
 
 namespace velk {
@@ -22,10 +20,19 @@ QString FontFamily(const Editor& editor) { return ShownText(editor.settings().ve
 void DrawRendered(Editor& editor, QImage& image) {
   // A picture that the memory has no room for stays as it was.
   editor.door().trapped([&] { editor.views().renderCamera(); });
-  const QImage rendered = PaletteImage(editor.views().renderer, editor.views().paletteWad());
-  QPainter painter(&image);
-  painter.drawImage(
-      QRectF(0, 0, image.deviceIndependentSize().width(), image.deviceIndependentSize().height()), rendered);
+  const Renderer& renderer = editor.views().renderer;
+  const QList<QRgb> colours = PaletteColours(editor.views().paletteWad());
+  std::vector<int> columns(static_cast<size_t>(image.width()));
+  for (int x = 0; x < image.width(); ++x) {
+    columns[static_cast<size_t>(x)] =
+        static_cast<int>(static_cast<qint64>(x) * renderer.width() / image.width());
+  }
+  for (int y = 0; y < image.height(); ++y) {
+    const auto row = static_cast<qint64>(y) * renderer.height() / image.height();
+    const unsigned char* from = renderer.frameBuffer().data() + row * renderer.width();
+    auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < image.width(); ++x) to[x] = colours[from[columns[static_cast<size_t>(x)]]];
+  }
 }
 
 void DrawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
@@ -37,20 +44,13 @@ void DrawEmpty(const Editor& editor, QtCanvas& canvas, int width, int height) {
               kTextHeight, colours.fgcolor, nullptr);
 }
 
-void DrawOverlays(const Editor& editor, const map& shown, QtCanvas& canvas, int width) {
-  const ViewColours& colours = editor.settings().colours;
-  DrawCompass(canvas, width, shown.activeCamera().yaw, colours.fgcolor, colours.color_activecamera,
-              colours.bgcolor);
-}
-
-}  // namespace
-
-QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
+// Without what stands over it for a moment.
+QImage LastingPicture(Editor& editor, double devicePixelRatio) {
   const int width = editor.views().cameraWidth;
   const int height = editor.views().cameraHeight;
   editor.views().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
-  const map* shown = editor.documents().currentMap();
+  const bool shown = editor.documents().currentMap() != nullptr;
   if (shown && editor.settings().drawmode != kWireMode) DrawRendered(editor, image);
   QtCanvas canvas(image, FontFamily(editor));
   if (!shown) {
@@ -58,7 +58,7 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
     return image;
   }
   if (editor.settings().drawmode == kWireMode) {
-    DrawWire(canvas, {width, height}, *shown, editor.settings(), editor.views().lens);
+    DrawWire(canvas, {width, height}, editor.views().cameraScene());
   }
   const Views& views = editor.views();
   if (!views.ghosts.empty()) {
@@ -67,60 +67,27 @@ QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   }
   DrawLeakLine(canvas, {width, height}, editor.views().renderSize(), *shown, editor.settings(),
                editor.views().lens, editor.views().leaks.points());
-  DrawOverlays(editor, *shown, canvas, width);
+  DrawCameraMarks(canvas, editor);
   return image;
 }
 
-TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+}  // namespace
+
+QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
+  QImage image = LastingPicture(editor, devicePixelRatio);
+  QtCanvas canvas(image, FontFamily(editor));
+  DrawCameraOverlay(canvas, editor);
+  return image;
+}
+
+TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : ViewWindow(editor, kCameraView, parent) {
   showTitle();
-  setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(160, 100);
 }
 
-void TCameraWindow::markStale() {
-  stale_ = true;
-  update();
-}
+void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor(), ToolWindow::Camera))); }
 
-void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor_, ToolWindow::Camera))); }
+QImage TCameraWindow::drawPicture() { return LastingPicture(editor(), devicePixelRatioF()); }
 
-void TCameraWindow::paintEvent(QPaintEvent*) {
-  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
-    picture_ = PictureOfCamera(editor_, devicePixelRatioF());
-    stale_ = false;
-  }
-  QPainter painter(this);
-  painter.drawImage(0, 0, picture_);
-}
-
-void TCameraWindow::resizeEvent(QResizeEvent*) {
-  editor_.views().resize(kCameraView, width(), height());
-  markStale();
-}
-
-void TCameraWindow::mousePressEvent(QMouseEvent* event) {
-  if (IsEditorButton(event->button())) editor_.input().press(kCameraView, PointerEventOf(*event));
-}
-
-void TCameraWindow::mouseMoveEvent(QMouseEvent* event) {
-  editor_.input().move(kCameraView, PointerEventOf(*event));
-}
-
-void TCameraWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (!IsEditorButton(event->button())) return;
-  const PointerEvent released = PointerEventOf(*event);
-  if (editor_.input().release(kCameraView, released)) ShowViewMenu(editor_, kCameraView, *this, released.at);
-}
-
-void TCameraWindow::wheelEvent(QWheelEvent* event) {
-  const int steps = wheel_.notches(*event);
-  if (steps != 0) {
-    editor_.input().wheel(kCameraView, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()),
-                          steps);
-  }
-  event->accept();
-}
+void TCameraWindow::drawOverlay(QtCanvas& canvas) { DrawCameraOverlay(canvas, editor()); }
 
 }  // namespace velk

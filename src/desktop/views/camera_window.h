@@ -1,42 +1,26 @@
 #pragma once
 
-#include <QImage>
-#include <QWidget>
-
-#include "app/editor.h"
-#include "desktop/views/pointer_events.h"
+#include "desktop/views/view_window.h"
 
 namespace velk {
 
 // The camera view in the frame: shows the editor's picture of the current map and passes its mouse events
 // in.
-class TCameraWindow : public QWidget {
+class TCameraWindow : public ViewWindow {
   Q_OBJECT
  public:
   // The editor must outlive the window.
   explicit TCameraWindow(Editor& editor, QWidget* parent = nullptr);
 
-  // The next repaint draws a new picture.
-  void markStale();
   // Takes the current map's name into the caption.
   void showTitle();
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
-
- private:
-  Editor& editor_;
-  QImage picture_;
-  bool stale_ = true;
-  WheelNotches wheel_;
+  QImage drawPicture() override;
+  void drawOverlay(QtCanvas& canvas) override;
 };
 
-// The picture of the camera view at the size it has in the editor.
+// The picture of the camera view at the size it has in the editor, with what stands over it.
 QImage PictureOfCamera(Editor& editor, double devicePixelRatio);
 
 }  // namespace velk

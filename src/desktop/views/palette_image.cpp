@@ -1,9 +1,8 @@
 #include "desktop/views/palette_image.h"
 
 namespace velk {
-namespace {
 
-QList<QRgb> ColourTable(const Wad* wad) {
+QList<QRgb> PaletteColours(const Wad* wad) {
   QList<QRgb> table(256, qRgb(0, 0, 0));
   for (int i = 0; i < 256 && wad; ++i) {
     const unsigned char* entry = wad->palette.data() + i * 3;
@@ -12,12 +11,10 @@ QList<QRgb> ColourTable(const Wad* wad) {
   return table;
 }
 
-}  // namespace
-
 QImage PaletteImage(const Renderer& renderer, const Wad* palette) {
   QImage image(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
                QImage::Format_Indexed8);
-  image.setColorTable(ColourTable(palette));
+  image.setColorTable(PaletteColours(palette));
   return image;
 }
 

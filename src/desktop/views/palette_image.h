@@ -8,6 +8,9 @@
 
 namespace velk {
 
+// The 256 colours of the wad's palette, black without one.
+QList<QRgb> PaletteColours(const Wad* wad);
+
 // The renderer's last picture in the wad's palette, black without one. It shares the renderer's pixels.
 QImage PaletteImage(const Renderer& renderer, const Wad* palette);
 

@@ -3,12 +3,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "app/view_overlay.h"
 #include "commands/context_menus.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
 #include "desktop/views/pointer_events.h"
-#include "desktop/views/qt_canvas.h"
-#include "planview/draw_plan_view.h"
 
 namespace velk {
 namespace {
@@ -28,29 +27,27 @@ QImage PictureOfStrip(Editor& editor, int view, double devicePixelRatio, const Q
   return image;
 }
 
-}  // namespace
-
-QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
+// Without what stands over it for a moment.
+QImage LastingPicture(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
   const PlanView& record = editor.views().plans.views[static_cast<size_t>(view)];
   QImage image = MakeCanvasImage(record.clientWidth, record.clientHeight, devicePixelRatio);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  DrawPlanView(canvas, editor.views().planScene(StripColoursOf(palette)), view);
+  editor.views().drawPlan(canvas, view, StripColoursOf(palette));
   return image;
 }
 
-TXYViewWindow::TXYViewWindow(Editor& editor, int view, QWidget* parent)
-    : QWidget(parent), editor_(editor), view_(view) {
-  setWindowTitle(kInitialCaption);
-  setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
-  setAttribute(Qt::WA_OpaquePaintEvent);
-  setMinimumSize(160, 100);
-  if (editor.settings().use_crosshair) setCursor(Qt::CrossCursor);
+}  // namespace
+
+QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
+  QImage image = LastingPicture(editor, view, devicePixelRatio, palette);
+  QtCanvas canvas(image, ShownText(editor.settings().velk_font));
+  DrawPlanOverlay(canvas, editor, view);
+  return image;
 }
 
-void TXYViewWindow::markStale() {
-  stale_ = stripStale_ = true;
-  update();
+TXYViewWindow::TXYViewWindow(Editor& editor, int view, QWidget* parent) : ViewWindow(editor, view, parent) {
+  setWindowTitle(kInitialCaption);
+  if (editor.settings().use_crosshair) setCursor(Qt::CrossCursor);
 }
 
 void TXYViewWindow::markStripStale() {
@@ -58,31 +55,24 @@ void TXYViewWindow::markStripStale() {
   update(0, 0, width(), kStripHeight);
 }
 
-void TXYViewWindow::drawPicture() {
-  const PlanView& record = editor_.views().plans.views[static_cast<size_t>(view_)];
-  picture_ = PictureOfPlanView(editor_, view_, devicePixelRatioF(), palette());
-  stale_ = false;
+QImage TXYViewWindow::drawPicture() {
+  const PlanView& record = editor().views().plans.views[static_cast<size_t>(view())];
   stripStale_ = true;
-  setWindowTitle(QString::fromLatin1(CaptionText(record, editor_.settings()).c_str()));
+  setWindowTitle(QString::fromLatin1(CaptionText(record, editor().settings()).c_str()));
+  return LastingPicture(editor(), view(), devicePixelRatioF(), palette());
 }
 
-void TXYViewWindow::paintEvent(QPaintEvent*) {
-  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) drawPicture();
+void TXYViewWindow::drawOverlay(QtCanvas& canvas) { DrawPlanOverlay(canvas, editor(), view()); }
+
+void TXYViewWindow::drawOnTop(QPainter& painter) {
   if (stripStale_) {
-    strip_ = PictureOfStrip(editor_, view_, devicePixelRatioF(), palette());
+    strip_ = PictureOfStrip(editor(), view(), devicePixelRatioF(), palette());
     stripStale_ = false;
   }
-  QPainter painter(this);
-  painter.drawImage(0, 0, picture_);
   painter.drawImage(0, 0, strip_);
 }
 
-void TXYViewWindow::resizeEvent(QResizeEvent*) {
-  editor_.views().resize(view_, width(), height());
-  markStale();
-}
-
-void TXYViewWindow::focusInEvent(QFocusEvent*) { editor_.views().plans.current = view_; }
+void TXYViewWindow::focusInEvent(QFocusEvent*) { editor().views().plans.current = view(); }
 
 // The strip has the palette's colours.
 void TXYViewWindow::changeEvent(QEvent* event) {
@@ -91,36 +81,16 @@ void TXYViewWindow::changeEvent(QEvent* event) {
 }
 
 void TXYViewWindow::mousePressEvent(QMouseEvent* event) {
-  if (!IsEditorButton(event->button())) return;
-  const PointerEvent press = PointerEventOf(*event);
-  const std::optional<StripField> field = editor_.input().stripFieldAt(view_, press.at);
-  const std::string menu = field ? StripMenuName(view_, *field) : "";
-  editor_.input().press(view_, press);
-  if (!menu.empty()) openMenu(menu, *field);
+  const std::optional<StripField> field = editor().input().stripFieldAt(view(), PointerEventOf(*event).at);
+  const std::string menu = field ? StripMenuName(view(), *field) : "";
+  ViewWindow::mousePressEvent(event);
+  if (IsEditorButton(event->button()) && !menu.empty()) openMenu(menu, *field);
 }
 
 void TXYViewWindow::openMenu(const std::string& name, StripField field) {
-  const auto menu = ContextMenu(editor_, name);
+  const auto menu = ContextMenu(editor(), name);
   const Pixel place = StripMenuPlace(field);
   if (menu) ShowMenu(*menu, *this, QPoint(place.x, place.y));
-}
-
-void TXYViewWindow::mouseMoveEvent(QMouseEvent* event) {
-  editor_.input().move(view_, PointerEventOf(*event));
-}
-
-void TXYViewWindow::mouseReleaseEvent(QMouseEvent* event) {
-  if (!IsEditorButton(event->button())) return;
-  const PointerEvent released = PointerEventOf(*event);
-  if (editor_.input().release(view_, released)) ShowViewMenu(editor_, view_, *this, released.at);
-}
-
-void TXYViewWindow::wheelEvent(QWheelEvent* event) {
-  const int steps = wheel_.notches(*event);
-  if (steps != 0) {
-    editor_.input().wheel(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()), steps);
-  }
-  event->accept();
 }
 
 }  // namespace velk

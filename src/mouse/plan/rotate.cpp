@@ -1,5 +1,7 @@
 #include "mouse/plan/rotate.h"
 
+#include <unordered_map>
+
 #include "base/text.h"
 #include "model/visit.h"
 #include "mouse/view_ray.h"
@@ -25,12 +27,16 @@ class RotateDrag : public Drag {
         DirectionAngle(state.current.u - centre_[view.axisU], state.current.v - centre_[view.axisV]);
     readout_ = context.plans.dragReadout;
     degrees_ = Truncate((startAngle_ - angle) * 180 * (1 / 3.141592653589793));
-    originals_.clear();
-    VisitBrushes(context.model, BrushFilter::Every, [&](brush& b) {
-      if (b.selected()) originals_.push_back(&b);
+    std::vector<const brush*> originals;
+    VisitBrushes(context.model, BrushFilter::Every, [&](const brush& b) {
+      if (b.selected()) originals.push_back(&b);
     });
-    copies_ = TransformedCopies(context.model, turn(context));
-    return Outcome::Drawn(Redraw::Plans);
+    std::vector<std::unique_ptr<brush>> copies = TransformedCopies(context.model, turn(context));
+    copies_.clear();
+    for (size_t i = 0; i < copies.size() && i < originals.size(); ++i) {
+      copies_[originals[i]] = std::move(copies[i]);
+    }
+    return Outcome::Drawn(Redraw::All);
   }
 
   Outcome finish(const MouseContext& context, const DragState& /*state*/) override {
@@ -45,10 +51,8 @@ class RotateDrag : public Drag {
   }
 
   const brush* preview(const brush& of) const override {
-    for (size_t i = 0; i < copies_.size() && i < originals_.size(); ++i) {
-      if (originals_[i] == &of) return copies_[i].get();
-    }
-    return nullptr;
+    const auto found = copies_.find(&of);
+    return found == copies_.end() ? nullptr : found->second.get();
   }
 
  private:
@@ -61,8 +65,7 @@ class RotateDrag : public Drag {
   double startAngle_;  // radians
   int degrees_ = 0;
   bool readout_ = false;
-  std::vector<std::unique_ptr<brush>> copies_;
-  std::vector<brush*> originals_;  // of the copies, in their order
+  std::unordered_map<const brush*, std::unique_ptr<brush>> copies_;  // by their originals
 };
 
 bool NearCorner(const MouseContext& context, ViewPoint at) {

@@ -1,0 +1,89 @@
+#include "desktop/views/view_window.h"
+
+#include <QPainter>
+
+#include "app/view_overlay.h"
+#include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/context_menu.h"
+#include "desktop/views/pointer_events.h"
+#include "desktop/views/tool_cursors.h"
+
+namespace velk {
+
+ViewWindow::ViewWindow(Editor& editor, int view, QWidget* parent)
+    : QWidget(parent), editor_(editor), view_(view) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(160, 100);
+}
+
+void ViewWindow::markStale() {
+  stale_ = true;
+  update();
+}
+
+void ViewWindow::paintEvent(QPaintEvent*) {
+  if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
+    picture_ = drawPicture();
+    stale_ = false;
+  }
+  QPainter painter(this);
+  if (HasOverlay(editor_, view_)) {
+    QImage shown = picture_;
+    QtCanvas canvas(shown, ShownText(editor_.settings().velk_font));
+    drawOverlay(canvas);
+    painter.drawImage(0, 0, shown);
+  } else {
+    painter.drawImage(0, 0, picture_);
+  }
+  drawOnTop(painter);
+}
+
+void ViewWindow::resizeEvent(QResizeEvent*) {
+  editor_.views().resize(view_, width(), height());
+  markStale();
+}
+
+// Another highlight, and the shape of the cursor, where they became others.
+void ViewWindow::showCursor() {
+  const FacePick pick = editor_.input().hovered(view_);
+  const std::pair<const void*, int> hovered{pick.hit, pick.face};
+  if (hovered != std::exchange(hovered_, hovered)) update();
+  const CursorShape shape = editor_.input().cursor(view_);
+  if (shape == std::exchange(cursor_, shape)) return;
+  setCursor(QtCursorOf(shape, editor_.settings().use_crosshair && view_ != kCameraView, devicePixelRatioF()));
+}
+
+void ViewWindow::leaveEvent(QEvent*) {
+  editor_.input().left(view_);
+  showCursor();
+}
+
+void ViewWindow::mousePressEvent(QMouseEvent* event) {
+  if (IsEditorButton(event->button())) editor_.input().press(view_, PointerEventOf(*event));
+  showCursor();
+}
+
+void ViewWindow::mouseMoveEvent(QMouseEvent* event) {
+  editor_.input().move(view_, PointerEventOf(*event));
+  showCursor();
+}
+
+void ViewWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (!IsEditorButton(event->button())) return;
+  const PointerEvent released = PointerEventOf(*event);
+  const bool asksForMenu = editor_.input().release(view_, released);
+  showCursor();
+  if (asksForMenu) ShowViewMenu(editor_, view_, *this, released.at);
+}
+
+void ViewWindow::wheelEvent(QWheelEvent* event) {
+  const int steps = wheel_.notches(*event);
+  if (steps != 0) {
+    editor_.input().wheel(view_, PointerEventOf(event->position(), Qt::NoButton, event->modifiers()), steps);
+  }
+  event->accept();
+}
+
+}  // namespace velk
