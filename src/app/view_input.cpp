@@ -120,12 +120,14 @@ void ViewInput::begin(int view, const PointerEvent& event) {
   const Busy busy(busy_);
   bool claimed = false;
   centreBefore_ = views_.plans.planCenter;
+  statusBefore_ = documents_.status();
+  hint_.clear();
   const auto start = [&] {
     Outcome outcome = pointer_.press(context(view), event);
     claimed = pointer_.claimed();
     const Drag* drag = pointer_.drag();
     const MouseOperation* running = drag ? OperationOf(OperationsOf(view), drag->code()) : nullptr;
-    if (running && outcome.status.empty()) outcome.status = HintOf(*running, services_.settings);
+    if (running && outcome.status.empty()) outcome.status = hint_ = HintOf(*running, services_.settings);
     return outcome;
   };
   const bool done = door_.press(
@@ -182,6 +184,13 @@ void ViewInput::drop(const PointerEvent& event) {
   const std::string name = pointer_.drag()->undoName();
   if (!door_.drop(name, [&] { return pointer_.release(dragged, event); })) pointer_.cancel(dragged);
   stopDragMotions();
+  takeHintBack();
+}
+
+// What the drag itself said stays.
+void ViewInput::takeHintBack() {
+  if (!hint_.empty() && documents_.status() == hint_) documents_.post(statusBefore_);
+  hint_.clear();
 }
 
 bool ViewInput::isClick(const PointerEvent& event) const {
@@ -231,6 +240,7 @@ void ViewInput::cancel() {
   views_.plans.planCenter = centreBefore_;
   stopDragMotions();
   door_.cancelDrag();
+  takeHintBack();
 }
 
 void ViewInput::focusLost() {

@@ -18,6 +18,15 @@ double Wrapped(double angle) {
   return rest < 0 ? rest + 2 * kPi : rest;
 }
 
+// Axes of an eye on a quarter turn miss those of the world by a hair.
+vec3 WithoutHair(vec3 axis) {
+  constexpr float kHair = 1e-6f;
+  for (int i = 0; i < 3; ++i) {
+    if (std::fabs(axis[i]) < kHair) axis[i] = 0;
+  }
+  return axis;
+}
+
 void Shift(camera& eye, double x, double y, double z) {
   eye.origin = {float(eye.origin.x + x), float(eye.origin.y + y), float(eye.origin.z + z)};
 }
@@ -41,9 +50,9 @@ void LookAlong(camera& eye, const vec3& direction) {
 
 void MoveBy(camera& eye, double right, double up, double forward) {
   const Eye axes = MakeEye(eye);
-  vec3 at = MultiplyAdd(eye.origin, right, axes.right);
-  at = MultiplyAdd(at, up, axes.up);
-  eye.origin = MultiplyAdd(at, forward, axes.forward);
+  vec3 at = MultiplyAdd(eye.origin, right, WithoutHair(axes.right));
+  at = MultiplyAdd(at, up, WithoutHair(axes.up));
+  eye.origin = MultiplyAdd(at, forward, WithoutHair(axes.forward));
 }
 
 vec3 PointBefore(const camera& eye, int width, int height, double x, double y, double distance) {
