@@ -240,7 +240,9 @@ void ViewInput::cancel() {
   views_.plans.planCenter = centreBefore_;
   stopDragMotions();
   door_.cancelDrag();
-  takeHintBack();
+  // Nor does what it said along the way hold any more.
+  if (!statusBefore_.empty()) documents_.post(statusBefore_);
+  hint_.clear();
 }
 
 void ViewInput::focusLost() {

@@ -10,8 +10,7 @@ namespace velk {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
-constexpr double kLevel = 3 * kPi / 2;
-constexpr double kStraightUp = 2 * kPi - 1e-4;  // a full turn is straight down again
+constexpr double kSteepest = kPi / 2 - 0.01;  // up and down
 
 double Wrapped(double angle) {
   const double rest = std::fmod(angle, 2 * kPi);
@@ -27,25 +26,45 @@ vec3 WithoutHair(vec3 axis) {
   return axis;
 }
 
+// Of its forward on the ground, from the x axis, radians; of its up where it looks straight up or down.
+double HeadingOf(const camera& eye) {
+  const Eye axes = MakeEye(eye);
+  const bool steep = std::hypot(double(axes.forward.x), double(axes.forward.y)) < 1e-4;
+  const vec3& way = steep ? axes.up : axes.forward;
+  const double sign = steep && axes.forward.z > 0 ? -1 : 1;
+  return std::atan2(sign * way.y, sign * way.x);
+}
+
 void Shift(camera& eye, double x, double y, double z) {
   eye.origin = {float(eye.origin.x + x), float(eye.origin.y + y), float(eye.origin.z + z)};
 }
 
 }  // namespace
 
-void LookBy(camera& eye, double left, double up) {
-  eye.yaw = float(Wrapped(eye.yaw + left));
-  const double before = Wrapped(eye.pitch);
-  const bool upright = before >= kPi;  // else a command turned it over, and it is free to go on
-  eye.pitch = float(upright ? std::clamp(before + up, kPi, kStraightUp) : before + up);
+// The pitch turns about the world's x axis, whatever the yaw; so an upright eye that looks up or down has
+// some of all three angles. The eye's up is (-sin roll, cos roll cos pitch, cos roll sin pitch); the x of its
+// forward and right are cos roll times the cosine and sine of the yaw and a quarter turn.
+void LookAlong(camera& eye, const vec3& direction) {
+  vec3 forward = direction;
+  normalize(forward);
+  const double flat = std::hypot(double(forward.x), double(forward.y));
+  const double heading = flat > 0 ? std::atan2(double(forward.y), double(forward.x)) : HeadingOf(eye);
+  const double height = std::clamp(std::atan2(double(forward.z), flat), -kSteepest, kSteepest);
+  const double upX = -std::sin(height) * std::cos(heading);
+  const double upY = -std::sin(height) * std::sin(heading);
+  eye.roll = float(kPi + std::asin(upX));
+  eye.pitch = float(Wrapped(std::atan2(-std::cos(height), -upY)));
+  const double forwardX = std::cos(height) * std::cos(heading);
+  eye.yaw = float(Wrapped(std::atan2(-std::sin(heading), -forwardX) - kPi / 2));
 }
 
-void LookAlong(camera& eye, const vec3& direction) {
-  const double flat = std::hypot(direction.x, direction.y);
-  const camera level;
-  eye.roll = level.roll;
-  eye.pitch = float(kLevel + std::atan2(double(direction.z), flat));
-  if (flat > 0) eye.yaw = float(Wrapped(std::atan2(double(direction.x), -double(direction.y))));
+void LookBy(camera& eye, double left, double up) {
+  const Eye axes = MakeEye(eye);
+  const double heading = HeadingOf(eye) + left;
+  const double height =
+      std::clamp(std::asin(std::clamp(double(axes.forward.z), -1.0, 1.0)) + up, -kSteepest, kSteepest);
+  LookAlong(eye, {float(std::cos(height) * std::cos(heading)), float(std::cos(height) * std::sin(heading)),
+                  float(std::sin(height))});
 }
 
 void MoveBy(camera& eye, double right, double up, double forward) {
@@ -71,8 +90,9 @@ int Flight::between(Motion one, Motion other) const {
 void Flight::turn(camera& eye, double by) const {
   const int left = between(Motion::TurnLeft, Motion::TurnRight);
   const int up = between(Motion::PitchUp, Motion::PitchDown);
-  if (left != 0 || up != 0) LookBy(eye, left * by, up * by);
   const int roll = between(Motion::RollUp, Motion::RollDown);
+  if (left != 0) eye.yaw = float(Wrapped(eye.yaw + left * by));
+  if (up != 0) eye.pitch = float(Wrapped(eye.pitch + up * by));
   if (roll != 0) eye.roll = float(Wrapped(eye.roll + roll * by));
 }
 
