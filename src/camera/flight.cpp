@@ -35,6 +35,11 @@ double HeadingOf(const camera& eye) {
   return std::atan2(sign * way.y, sign * way.x);
 }
 
+bool IsUpright(const camera& eye) {
+  const Eye axes = MakeEye(eye);
+  return std::fabs(axes.right.z) < 1e-3 && axes.up.z > 0;
+}
+
 void Shift(camera& eye, double x, double y, double z) {
   eye.origin = {float(eye.origin.x + x), float(eye.origin.y + y), float(eye.origin.z + z)};
 }
@@ -87,13 +92,16 @@ int Flight::between(Motion one, Motion other) const {
   return (going_[static_cast<size_t>(one)] ? 1 : 0) - (going_[static_cast<size_t>(other)] ? 1 : 0);
 }
 
+// An eye that stands upright stays so; one that a command tilted turns about its own axes.
 void Flight::turn(camera& eye, double by) const {
   const int left = between(Motion::TurnLeft, Motion::TurnRight);
   const int up = between(Motion::PitchUp, Motion::PitchDown);
   const int roll = between(Motion::RollUp, Motion::RollDown);
-  if (left != 0) eye.yaw = float(Wrapped(eye.yaw + left * by));
-  if (up != 0) eye.pitch = float(Wrapped(eye.pitch + up * by));
   if (roll != 0) eye.roll = float(Wrapped(eye.roll + roll * by));
+  if (left == 0 && up == 0) return;
+  if (IsUpright(eye)) return LookBy(eye, left * by, up * by);
+  eye.yaw = float(Wrapped(eye.yaw + left * by));
+  eye.pitch = float(Wrapped(eye.pitch + up * by));
 }
 
 Outcome Flight::step(map& m, const Settings& settings, double seconds, bool fast) const {
