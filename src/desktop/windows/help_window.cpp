@@ -41,16 +41,19 @@ QString KeysPage() {
   return page + "</table><p><a href='index.md'>Contents</a></p>";
 }
 
-// Each operation on a line of its own, in the order in which they are tried.
-QString MouseRow(const MouseBinding& binding, std::span<const MouseOperation> operations) {
-  QString names;
-  QString helps;
+// A row for each operation, in the order in which they are tried.
+QString MouseRows(const MouseBinding& binding, std::span<const MouseOperation> operations) {
+  QString rows;
   for (const std::string& name : binding.names) {
     const MouseOperation* operation = OperationOf(operations, lookupOperation(operations, name));
-    names += QString::fromStdString(name).toHtmlEscaped() + "<br>";
-    if (operation) helps += QString(operation->help).toHtmlEscaped() + "<br>";
+    rows += "<tr>";
+    if (&name == &binding.names.front()) {
+      rows += QString("<td rowspan='%1'>").arg(binding.names.size()) +
+              QString::fromStdString(ButtonText(binding)) + "</td>";
+    }
+    rows += Cell(name) + Cell(operation ? operation->help : "") + "</tr>";
   }
-  return "<tr>" + Cell(ButtonText(binding)) + "<td>" + names + "</td><td>" + helps + "</td></tr>";
+  return rows;
 }
 
 // The bindings as Velk comes with them; the user's own may be others.
@@ -63,7 +66,7 @@ QString MouseTables(const char* heading, const QString& file, std::span<const Mo
     page += "<h3>" + QString::fromStdString(setup.name).toHtmlEscaped() +
             "</h3><table border='1' cellspacing='0' cellpadding='3'>"
             "<tr><th>button</th><th>operation</th><th>what it does</th></tr>";
-    for (const MouseBinding& binding : setup.bindings) page += MouseRow(binding, operations);
+    for (const MouseBinding& binding : setup.bindings) page += MouseRows(binding, operations);
     page += "</table>";
   }
   return page;
