@@ -127,12 +127,14 @@ void ViewInput::begin(int view, const PointerEvent& event) {
   const Busy busy(busy_);
   bool claimed = false;
   centreBefore_ = views_.plans.planCenter;
+  statusBefore_ = documents_.status();
+  hint_.clear();
   const auto start = [&] {
     Outcome outcome = pointer_.press(context(view), event);
     claimed = pointer_.claimed();
     const Drag* drag = pointer_.drag();
     const MouseOperation* running = drag ? OperationOf(OperationsOf(view), drag->code()) : nullptr;
-    if (running && outcome.status.empty()) outcome.status = HintOf(*running, services_.settings);
+    if (running && outcome.status.empty()) outcome.status = hint_ = HintOf(*running, services_.settings);
     return outcome;
   };
   const bool done = door_.press(
@@ -185,6 +187,13 @@ void ViewInput::drop(const PointerEvent& event) {
   const std::string name = pointer_.drag()->undoName();
   door_.drop(name, [&] { return pointer_.release(dragged, event); });
   stopDragMotions();
+  takeHintBack();
+}
+
+// What the drag itself said stays.
+void ViewInput::takeHintBack() {
+  if (!hint_.empty() && documents_.status() == hint_) documents_.post(statusBefore_);
+  hint_.clear();
 }
 
 bool ViewInput::isClick(const PointerEvent& event) const {
@@ -234,6 +243,9 @@ void ViewInput::cancel() {
   views_.plans.planCenter = centreBefore_;
   stopDragMotions();
   door_.cancelDrag();
+  // Nor does what it said along the way hold any more.
+  if (!statusBefore_.empty()) documents_.post(statusBefore_);
+  hint_.clear();
 }
 
 void ViewInput::focusLost() {

@@ -113,6 +113,7 @@ class ViewInput {
   void dragAlong(const Door::Action& action);
   void drop(const PointerEvent& event);
   void stopDragMotions();
+  void takeHintBack();
   bool scrolls() const;
   void scroll(double seconds);
   void fly(double seconds, bool fast);
@@ -131,6 +132,8 @@ class ViewInput {
   std::optional<Press> press_;
   std::vector<HeldKey> held_;
   std::array<Pixel, kPlanViews + 1> at_{};  // where the mouse was last in each view
+  std::string hint_;                        // that the status line shows while a drag runs
+  std::string statusBefore_;                // and what it said before
   vec3 centreBefore_;                       // of the plan views before the drag
   bool busy_ = false;                       // an event is being worked on, which may ask the user something
   std::array<std::optional<PointerEvent>, kPlanViews + 1> mouse_;  // where it was last in each view

@@ -30,10 +30,11 @@ bool ViewInput::flies() const {
 void ViewInput::hold(int key, Motion motion) {
   if (busy_ || !documents_.currentMap()) return;
   if (std::ranges::find(held_, key, &HeldKey::key) != held_.end()) return;
+  const bool first = !flight_.going();
   held_.push_back({key, motion, flies()});
   flight_.begin(motion);
   if (press_) press_->moved = true;
-  tick(kFirstTick);
+  if (first) tick(kFirstTick);
   ticksWanted();
 }
 

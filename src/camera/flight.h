@@ -8,9 +8,9 @@
 
 namespace velk {
 
-// Turns the eye, radians: to the left and up. Pitch stops at straight up and straight down.
+// Turns the eye, radians: to the left and up, to just short of straight up and down. It is upright then.
 void LookBy(camera& eye, double left, double up);
-// Has the eye, upright, look along a direction of any length but 0. Straight up or down keeps the yaw.
+// Has the eye, upright, look along a direction of any length but 0.
 void LookAlong(camera& eye, const vec3& direction);
 // Moves the eye along its own axes, world units.
 void MoveBy(camera& eye, double right, double up, double forward);

@@ -101,6 +101,12 @@ const MouseBinding* MouseBindings::find(MouseButton button, int modifiers) const
   return nullptr;
 }
 
+std::string ButtonText(const MouseBinding& binding) {
+  constexpr const char* kButtons[] = {"LEFT", "MIDDLE", "RIGHT"};
+  constexpr const char* kModifiers[] = {"", "SHIFT+", "CTRL+", "CTRL+SHIFT+"};
+  return std::string(kModifiers[binding.modifiers & 3]) + kButtons[static_cast<int>(binding.button)];
+}
+
 MouseBindings ParseMouseBindings(std::string_view text) {
   Tokenizer tokens(text);
   return Parse(tokens);

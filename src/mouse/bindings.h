@@ -34,6 +34,9 @@ struct MouseBindings {
   const MouseBinding* find(MouseButton button, int modifiers) const;
 };
 
+// "CTRL+SHIFT+LEFT"
+std::string ButtonText(const MouseBinding& binding);
+
 // 1 for SHIFT plus 2 for CTRL.
 inline int ModifiersOf(const PointerEvent& event) { return (event.shift ? 1 : 0) + (event.ctrl ? 2 : 0); }
 

@@ -60,7 +60,9 @@ Outcome AddOrRemoveFirst(const MouseContext& context, const PointerEvent& event,
   if (under.empty()) return {};
   brush& b = *under.front();
   AddOrRemove(context.model, b);
-  Outcome outcome = Outcome::Drawn(Redraw::All);
+  const int count = context.model.totalSelected();
+  Outcome outcome =
+      Outcome::Drawn(Redraw::All, b.selected() ? Format(kClickAdded, count) : Format(kClickRemoved, count));
   if (b.selected()) outcome.textures = TakeFace(context, b, event.at);
   return outcome;
 }
@@ -97,10 +99,8 @@ Outcome Clicks::select(const MouseContext& context, const PointerEvent& event) {
   at_ = event.at;
   SelectOnly(m, under[index]);
   if (index < HitList::kMax) m.hits.current = static_cast<int>(index);
-  Outcome outcome = Outcome::Drawn(Redraw::All);
-  if (under.size() > 1) {
-    outcome.status = Format(kClickDeeper, static_cast<int>(index) + 1, static_cast<int>(under.size()));
-  }
+  Outcome outcome = Outcome::Drawn(
+      Redraw::All, Format(kClickTook, static_cast<int>(index) + 1, static_cast<int>(under.size())));
   outcome.textures = TakeFace(context, *under[index], event.at);
   return outcome;
 }

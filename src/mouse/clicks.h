@@ -5,7 +5,9 @@
 
 namespace velk {
 
-inline constexpr char kClickDeeper[] = "Selected brush %i of %i under the cursor...";
+inline constexpr char kClickTook[] = "Selected brush %i of %i under the cursor...";
+inline constexpr char kClickAdded[] = "Added to the selection, %i selected...";
+inline constexpr char kClickRemoved[] = "Taken out of the selection, %i selected...";
 
 // Within so many pixels a press and its release are in one place.
 inline constexpr int kClickSlack = 3;

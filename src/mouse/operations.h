@@ -15,6 +15,7 @@ struct MouseOperation {
   const char* name;
   int code;  // above 0
   ToolStart (*start)(const MouseContext&, const PointerEvent&);
+  const char* help = "";   // what it does, for the manual
   const char* doing = "";  // what the status line says while it runs
   const char* keys = "";   // and what keys do meanwhile
 };

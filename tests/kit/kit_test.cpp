@@ -12,6 +12,7 @@
 #include "commands/files/named_files.h"
 #include "entities/entity_class.h"
 #include "mapfile/map_reader.h"
+#include "mouse/operations.h"
 #include "support/declining_prompts.h"
 #include "support/temp_folder.h"
 #include "textures/texture_manager.h"
@@ -44,6 +45,22 @@ TEST_F(Kit, SettingsPointAtTheKit) {
   EXPECT_TRUE(std::filesystem::exists(kFolder + settings.badtex));
   EXPECT_TRUE(settings.wheel_zoom && settings.middle_drag && settings.window_quality);
   EXPECT_EQ(settings.undo_levels, 100);
+}
+
+// Every operation is on some button, and no binding names what there is not.
+TEST_F(Kit, BindingsNameEveryOperation) {
+  for (const auto& [file, operations] :
+       {std::pair{"velkmouse.ini", PlanOperations()}, std::pair{"velkmou3D.ini", CameraOperations()}}) {
+    const MouseBindings bindings = loadMouseBindings(file, {kFolder});
+    std::set<int> bound;
+    for (const MouseSetup& setup : bindings.setups) {
+      for (const MouseBinding& binding : setup.bindings) {
+        for (const std::string& name : binding.names) bound.insert(lookupOperation(operations, name));
+      }
+    }
+    EXPECT_EQ(bound.count(0), 0u) << file;
+    EXPECT_EQ(bound.size(), operations.size()) << file;
+  }
 }
 
 TEST_F(Kit, NoClassIsMalformedOrTwice) {

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/error.h"
 #include "mouse/operations.h"
 #include "support/fatal.h"
+#include "support/temp_folder.h"
 
 namespace velk {
 namespace {
@@ -50,6 +52,18 @@ TEST(MouseBindingsTest, DamagedTexts) {
   for (const auto& c : cases) EXPECT_FATAL(ParseMouseBindings(c.text), c.message);
   EXPECT_FATAL(loadMouseBindings("nofile.ini", {"/nowhere"}),
                "Error opening nofile.ini: No such file or directory");
+}
+
+TEST(MouseBindingsTest, DamagedFilesNameTheirLine) {
+  const test::TempFolder folder;
+  folder.write("mouse.ini", "1 1\n// A comment\n{ N\n{ SELECT LEFT }\n{ SELECT UP }\n}\n");
+  const ErrorTrap trap;
+  try {
+    loadMouseBindings("mouse.ini", {"/nowhere", folder.path()});
+    FAIL();
+  } catch (const TrappedError& error) {
+    EXPECT_NE(std::string(error.what()).find("mouse.ini], line 5"), std::string::npos) << error.what();
+  }
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "mouse/operations.h"
 #include "mouse/pointer.h"
 #include "support/plan_fixture.h"
@@ -52,6 +54,22 @@ TEST_F(PlanToolsTest, ChangeTheSelectedBrushInEveryView) {
         set.views[size_t(view)].flip();
       }
     }
+  }
+}
+
+// A box whose right side leans outwards with height: by the letter that side looks at a press inside.
+TEST_F(PlanToolsTest, WithCareAPressInsideALeaningBrushMovesIt) {
+  settings.face_drag_percent = 0.5f;
+  for (const bool careful : {false, true}) {
+    settings.careful_tools = careful;
+    brush& b = selectedBox({0, 0, 0}, {32, 32, 32});
+    face& side =
+        *std::ranges::find_if(b.editFaces(), [](const face& f) { return f.facePlane.normal.x > 0.9; });
+    for (vec3& p : side.planepts) p.x -= p.z / 4;
+    b.buildWindings();
+    drag("FACEDRAG;BRUSHDRAG", 0, {16, 16}, {24, 16});
+    EXPECT_EQ(test::Bounds(b), careful ? "8..40 0..32 0..32" : "0..40 0..32 0..32");
+    DestroyBrush(b);
   }
 }
 

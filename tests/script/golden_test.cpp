@@ -34,9 +34,9 @@ class WorkingIn {
 };
 
 std::string RunCase(const fs::path& folder) {
-  test::Session session;
-  fs::copy_file(fs::path(GOLDEN_FOLDER) / "small.map", session.home.path() / "small.map");
-  fs::copy(folder, session.home.path(), fs::copy_options::overwrite_existing | fs::copy_options::recursive);
+  test::Session session({folder});
+  fs::copy_file(fs::path(GOLDEN_FOLDER) / "small.map", session.home.path() / "small.map",
+                fs::copy_options::skip_existing);
   const WorkingIn home(session.home.path());
   std::ostringstream out;
   const ScriptResult result = ScriptRunner(session.editor, session.prompts, nullptr, out).runFile("script");

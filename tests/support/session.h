@@ -59,8 +59,13 @@ inline void FurnishHome(const TempFolder& home) {
 
 class Session {
  public:
-  Session()
+  // The files of the folders go to the editor's own, over those that every session has.
+  explicit Session(const std::vector<std::filesystem::path>& folders = {})
       : editor(EditorPlace{(FurnishHome(home), home.path()), home.path() / "drives"}, prompts, observer) {
+    using Copy = std::filesystem::copy_options;
+    for (const auto& folder : folders) {
+      std::filesystem::copy(folder, home.path(), Copy::overwrite_existing | Copy::recursive);
+    }
     editor.start();
   }
 

@@ -1,6 +1,7 @@
 #include "commands/views/view_menu.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/text.h"
 #include "commands/dispatch.h"
@@ -20,10 +21,24 @@ constexpr const char* kOnPlace[] = {kLine, "CM_FLIP_VIEW", "CM_CENTER"};
 constexpr const char* kInCamera[] = {kLine, "CM_RESET_ANGLES", "CM_CAMERA_TURN_AROUND"};
 constexpr const char* kWithPoints[] = {kLine, "CM_CARVE", "CM_CLIPSPLIT", "CM_FLIPCLIPPER"};
 
+// Labels that say too little without the menu that they are from.
+constexpr std::pair<const char*, const char*> kLabels[] = {
+    {"CM_SELECT_ALL", "Select All"},       {"CM_MAKE_ENTITY", "Make Entity..."},
+    {"CM_CARVE", "Carve by Clip Plane"},   {"CM_CLIPSPLIT", "Split by Clip Plane"},
+    {"CM_FLIPCLIPPER", "Flip Clip Plane"}, {"CM_CENTER", "Center Camera"}};
+
+std::string LabelFor(const Editor& editor, const Command& command) {
+  for (const auto& [name, label] : kLabels) {
+    if (EqualNoCase(name, command.name)) return label;
+  }
+  std::string label = LabelOf(editor, command);
+  std::erase(label, '&');
+  return label;
+}
+
 MenuItem ItemOf(Editor& editor, const Command& command) {
   MenuItem item;
-  item.label = LabelOf(editor, command);
-  std::erase(item.label, '&');
+  item.label = LabelFor(editor, command);
   if (*command.keyText) item.label += std::string("\t") + command.keyText;
   item.enabled = CanRun(editor, command);
   if (command.checked) {

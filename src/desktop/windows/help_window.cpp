@@ -1,11 +1,13 @@
 #include "desktop/windows/help_window.h"
 
 #include <QEvent>
+#include <QFile>
 #include <QKeyEvent>
 #include <string>
 
 #include "base/text.h"
 #include "commands/command.h"
+#include "mouse/operations.h"
 
 namespace velk {
 namespace {
@@ -37,6 +39,45 @@ QString KeysPage() {
             Cell(command.hint) + "</tr>";
   }
   return page + "</table><p><a href='index.md'>Contents</a></p>";
+}
+
+// A row for each operation, in the order in which they are tried.
+QString MouseRows(const MouseBinding& binding, std::span<const MouseOperation> operations) {
+  QString rows;
+  for (const std::string& name : binding.names) {
+    const MouseOperation* operation = OperationOf(operations, lookupOperation(operations, name));
+    rows += "<tr>";
+    if (&name == &binding.names.front()) {
+      rows += QString("<td rowspan='%1'>").arg(binding.names.size()) +
+              QString::fromStdString(ButtonText(binding)) + "</td>";
+    }
+    rows += Cell(name) + Cell(operation ? operation->help : "") + "</tr>";
+  }
+  return rows;
+}
+
+// The bindings as Velk comes with them; the user's own may be others.
+QString MouseTables(const char* heading, const QString& file, std::span<const MouseOperation> operations) {
+  QFile kit(":/manual/" + file);
+  if (!kit.open(QIODevice::ReadOnly)) return {};
+  const QByteArray text = kit.readAll();
+  QString page = QString("<h2>%1</h2><p>%2</p>").arg(heading, file);
+  for (const MouseSetup& setup : ParseMouseBindings({text.data(), static_cast<size_t>(text.size())}).setups) {
+    page += "<h3>" + QString::fromStdString(setup.name).toHtmlEscaped() +
+            "</h3><table border='1' cellspacing='0' cellpadding='3'>"
+            "<tr><th>button</th><th>operation</th><th>what it does</th></tr>";
+    for (const MouseBinding& binding : setup.bindings) page += MouseRows(binding, operations);
+    page += "</table>";
+  }
+  return page;
+}
+
+QString BindingsPage() {
+  return "<h1>Mouse bindings</h1><p>As they come with Velk. A press tries the operations of a line in order "
+         "until one can begin. <a href='mouse.md'>The mouse</a> says how to change them.</p>" +
+         MouseTables("Plan views", "velkmouse.ini", PlanOperations()) +
+         MouseTables("Camera view", "velkmou3D.ini", CameraOperations()) +
+         "<p><a href='index.md'>Contents</a></p>";
 }
 
 }  // namespace
@@ -73,6 +114,7 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
 
 QVariant HelpWindow::loadResource(int type, const QUrl& name) {
   if (name.fileName() == "keys.html") return KeysPage();
+  if (name.fileName() == "bindings.html") return BindingsPage();
   return QTextBrowser::loadResource(type, name);
 }
 
