@@ -57,24 +57,8 @@ TEST_F(SeedTest, ReplacedInTheWorldOrWhereItWas) {
         ReplaceSeed(t.m, seed, Boxes(SeedOf(seed), 2), {.owner = c.owner, .status = "done..."});
     EXPECT_EQ(t.summary(), c.summary);
     EXPECT_EQ(outcome.status, "done...");
-    EXPECT_EQ(outcome.redraw, Redraw::All);
     EXPECT_EQ(t.m.workHigh().z, 32) << "the seed leaves its depth";
   }
-}
-
-TEST_F(SeedTest, GivesItsGroupAndMakesRoomInTheOrderOfTheList) {
-  replace(cube(1), 2, MadeFor::World);
-  EXPECT_EQ(summary(), "worldspawn -** func_door ");
-  EXPECT_TRUE(m.modified);
-  brush& made = *world().at(1);
-  EXPECT_EQ(made.group(), 4);
-  EXPECT_EQ(made.owner, &world());
-  EXPECT_TRUE(VecEqual(made.color(), ClassColour(world())));
-  EXPECT_EQ(made.mins.x, 0);
-  world().at(2)->select(false);
-
-  replace(made, 3, MadeFor::Current);
-  EXPECT_EQ(world().at(1)->mins.x, 8) << "the last one takes the seed's slot";
 }
 
 TEST_F(SeedTest, WithCareIsKeptWhenNothingWasMadeAndLossesAreCounted) {

@@ -137,7 +137,13 @@ Outcome ShortBrush(Editor& editor, map& m) { return MakeShort(m, Careful(editor)
 
 Outcome SnapToGrid(Editor& editor, map& m) { return SnapSelectionToGrid(m, Careful(editor)); }
 
-Outcome Subtract(Editor& editor, map& m) { return subtractSelection(m, Careful(editor)); }
+// Only careful tools can be stopped.
+Outcome Subtract(Editor& editor, map& m) {
+  const bool careful = Careful(editor);
+  return subtractSelection(m, careful, [&](const std::string& text, int top) {
+    return editor.services().observer.progress(text, kProgressLeft, top) || !careful;
+  });
+}
 
 Outcome FlipClipPlane(Editor&, map& m) { return FlipClipper(m.clip); }
 

@@ -22,7 +22,7 @@ constexpr double kStep = 0.9;   // of the distance
 constexpr double kNearest = 0.2;
 constexpr double kFarthest = 10;
 constexpr int kDragStep = 8;  // pixels of a drag in and out a step
-constexpr double kRoomAround = 1.15;
+constexpr double kRoomAround = 1;
 
 int Wrapped(int degrees) { return (degrees % 360 + 360) % 360; }
 

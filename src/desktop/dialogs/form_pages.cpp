@@ -16,7 +16,7 @@ namespace {
 constexpr int kColourRows = 7;
 constexpr int kBetweenColumns = 24;
 constexpr int kBetweenRows = 8;
-constexpr size_t kFewFields = 6;  // stand in one column, check boxes among them
+constexpr size_t kFewFields = 6;  // stand in one column, check boxes among them, as do all beside a picture
 
 using Indices = std::vector<size_t>;
 
@@ -97,7 +97,7 @@ QWidget* FormPages::page(const Form& form, const std::string& name) {
   }
   Indices left = fields;
   Indices flags;
-  if (fields.size() > kFewFields) {
+  if (fields.size() > kFewFields && !form.picture) {
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(flags), kindIs(FormField::Kind::Flag));
     std::erase_if(left, kindIs(FormField::Kind::Flag));
   }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kNotch = 120;  // units of a wheel's event
 constexpr std::uint32_t kBlack = 0xff000000;
-constexpr int kButtonsInARow = 5;
+constexpr int kButtonsInARow = 3;
 constexpr int kCaptionMargin = 4;
 constexpr QColor kCaptionGround(0, 0, 0, 160);
 

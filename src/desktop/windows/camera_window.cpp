@@ -87,7 +87,24 @@ TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : QWidget(parent),
 
 void TCameraWindow::markStale() {
   stale_ = true;
+  progress_.clear();
   update();
+}
+
+void TCameraWindow::keepProgress(const std::string& text, int left, int top) {
+  progress_[{top, left}] = text;
+}
+
+// The picture with the lines on it.
+QImage TCameraWindow::pictureInProgress() const {
+  constexpr int kHeight = 12;
+  const ViewColours& colours = editor_.settings().colours;
+  QImage image = picture_.copy();
+  QtCanvas canvas(image, FontFamily(editor_));
+  for (const auto& [place, text] : progress_) {
+    canvas.text(text, {place.second, place.first}, kHeight, colours.fgcolor, &colours.bgcolor);
+  }
+  return image;
 }
 
 void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor_, ToolWindow::Camera))); }
@@ -98,7 +115,7 @@ void TCameraWindow::paintEvent(QPaintEvent*) {
     stale_ = false;
   }
   QPainter painter(this);
-  painter.drawImage(0, 0, picture_);
+  painter.drawImage(0, 0, progress_.empty() ? picture_ : pictureInProgress());
 }
 
 void TCameraWindow::resizeEvent(QResizeEvent*) {

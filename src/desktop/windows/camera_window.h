@@ -2,6 +2,8 @@
 
 #include <QImage>
 #include <QWidget>
+#include <map>
+#include <utility>
 
 #include "app/editor.h"
 
@@ -17,6 +19,10 @@ class TCameraWindow : public QWidget {
 
   // The next repaint draws a new picture.
   void markStale();
+  // A line over the picture from the next repaint on; the next picture is without it.
+  void keepProgress(const std::string& text, int left, int top);
+  // Lines are shown.
+  bool showsProgress() const { return !progress_.empty(); }
   // Takes the current map's name into the caption.
   void showTitle();
 
@@ -28,9 +34,12 @@ class TCameraWindow : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  QImage pictureInProgress() const;
+
   Editor& editor_;
   QImage picture_;
   bool stale_ = true;
+  std::map<std::pair<int, int>, std::string> progress_;  // lines by place: top, left
 };
 
 // The picture of the camera view at the size it has in the editor.
