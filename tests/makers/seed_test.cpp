@@ -118,23 +118,5 @@ TEST_F(LightsTest, StandInRowsWithinTheSeed) {
   EXPECT_EQ(LightTypes(classes), (std::vector<std::string>{"light", "Lightning"}));
 }
 
-TEST_F(LightsTest, TakeTheSeedsPlaceAndGroup) {
-  brush& seed = box({-20, 0, 0}, {20, 10, 10});
-  seed.select();
-  seed.setGroup(4);
-  EXPECT_EQ(MakeLights(m, seed, {.counts = {2, 1, 1}, .type = ""}).status, "");
-  EXPECT_EQ(summary(), "worldspawn *");
-  EXPECT_EQ(MakeLights(m, seed, {.counts = {2, 1, 1}, .value = 77}).status,
-            "Made selected brush into lights...");
-  EXPECT_EQ(summary(), "worldspawn  light * light *");
-  const entity& light = *m.at(1);
-  std::string pairs;
-  for (const KeyPair& pair : light.pairsInOrder()) pairs += pair.key + "=" + pair.value + " ";
-  EXPECT_EQ(pairs, "classname=light origin=-20 5 5 light=77 ");
-  EXPECT_EQ(light.at(0)->mins.x, -28);
-  EXPECT_EQ(light.at(0)->group(), 4);
-  EXPECT_FALSE(light.isModel);
-}
-
 }  // namespace
 }  // namespace velk
