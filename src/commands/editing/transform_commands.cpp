@@ -128,7 +128,10 @@ Outcome ExtrudeBrush(Editor& editor, map& m) {
   if (m.totalSelected() != 1) return Outcome::Said(kMustHaveOneSelected);
   const auto thickness =
       WallThickness(editor, [&](int wanted) { return ExtrudedSlabs(m, wanted, Careful(editor)); });
-  return thickness ? ExtrudeSelection(m, *thickness, Careful(editor)) : Outcome{};
+  if (!thickness) return {};
+  return RunRepeatably(editor, m, [&editor, wanted = *thickness](map& now) {
+    return ExtrudeSelection(now, wanted, Careful(editor));
+  });
 }
 
 Outcome TallBrush(Editor& editor, map& m) { return MakeTall(m, Careful(editor)); }
