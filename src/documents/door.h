@@ -31,6 +31,9 @@ class Door {
   // a box; unattended, the error is reported. What an action itself performs belongs to its own level.
   bool perform(const Change& change, const Action& action);
 
+  // Something that was let in has not come out yet.
+  bool busy() const { return depth_ > 0; }
+
   // A drag: a change that goes on over several events. Everything else is refused meanwhile.
   bool dragRuns() const { return drag_.has_value(); }
   // The press. The drag goes on when `runs` says so afterwards; otherwise the change is complete. False as

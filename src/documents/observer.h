@@ -30,6 +30,9 @@ class Observer {
   virtual void changed(const Changes& /*what*/) {}
   // Start-up loads `total` lumps of a wad and has done so many of them; no text: it is over.
   virtual void loadProgress(const std::string& /*text*/, int /*done*/, int /*total*/) {}
+  // Something long says how far it is, to be written over the camera view's picture from that pixel on.
+  // False: the user wants it to stop.
+  virtual bool progress(const std::string& /*text*/, int /*left*/, int /*top*/) { return true; }
   // The user asked for the manual.
   virtual void helpRequested() {}
   // The user asked for the build window, or started a build that it is to show.

@@ -57,24 +57,8 @@ TEST_F(SeedTest, ReplacedInTheWorldOrWhereItWas) {
         ReplaceSeed(t.m, seed, Boxes(SeedOf(seed), 2), {.owner = c.owner, .status = "done..."});
     EXPECT_EQ(t.summary(), c.summary);
     EXPECT_EQ(outcome.status, "done...");
-    EXPECT_EQ(outcome.redraw, Redraw::All);
     EXPECT_EQ(t.m.workHigh().z, 32) << "the seed leaves its depth";
   }
-}
-
-TEST_F(SeedTest, GivesItsGroupAndMakesRoomInTheOrderOfTheList) {
-  replace(cube(1), 2, MadeFor::World);
-  EXPECT_EQ(summary(), "worldspawn -** func_door ");
-  EXPECT_TRUE(m.modified);
-  brush& made = *world().at(1);
-  EXPECT_EQ(made.group(), 4);
-  EXPECT_EQ(made.owner, &world());
-  EXPECT_TRUE(VecEqual(made.color(), ClassColour(world())));
-  EXPECT_EQ(made.mins.x, 0);
-  world().at(2)->select(false);
-
-  replace(made, 3, MadeFor::Current);
-  EXPECT_EQ(world().at(1)->mins.x, 8) << "the last one takes the seed's slot";
 }
 
 TEST_F(SeedTest, WithCareIsKeptWhenNothingWasMadeAndLossesAreCounted) {
@@ -132,24 +116,6 @@ TEST_F(LightsTest, StandInRowsWithinTheSeed) {
   EXPECT_EQ(LightBoxes(seed, {{1, 1, 1}}, classes).brushes[0]->maxs.z, 58);
   classes.scanText("/*QUAKED Lightning (0 1 0) ?\n*/\n/*QUAKED lamp_light (0 1 0) ?\n*/\n");
   EXPECT_EQ(LightTypes(classes), (std::vector<std::string>{"light", "Lightning"}));
-}
-
-TEST_F(LightsTest, TakeTheSeedsPlaceAndGroup) {
-  brush& seed = box({-20, 0, 0}, {20, 10, 10});
-  seed.select();
-  seed.setGroup(4);
-  EXPECT_EQ(MakeLights(m, seed, {.counts = {2, 1, 1}, .type = ""}).status, "");
-  EXPECT_EQ(summary(), "worldspawn *");
-  EXPECT_EQ(MakeLights(m, seed, {.counts = {2, 1, 1}, .value = 77}).status,
-            "Made selected brush into lights...");
-  EXPECT_EQ(summary(), "worldspawn  light * light *");
-  const entity& light = *m.at(1);
-  std::string pairs;
-  for (const KeyPair& pair : light.pairsInOrder()) pairs += pair.key + "=" + pair.value + " ";
-  EXPECT_EQ(pairs, "classname=light origin=-20 5 5 light=77 ");
-  EXPECT_EQ(light.at(0)->mins.x, -28);
-  EXPECT_EQ(light.at(0)->group(), 4);
-  EXPECT_FALSE(light.isModel);
 }
 
 }  // namespace

@@ -35,28 +35,6 @@ TEST_F(LeakSearchTest, FindsFacesAtATinyAngle) {
   }
 }
 
-TEST_F(LeakSearchTest, AsksPairByPair) {
-  box({0, 0, 0}, {64, 640, 640});
-  leaning(11);
-  leaning(11);
-  addPoint("light", {64, 0, 0});
-  m.modified = false;
-  LeakSearch search(m, false);
-  const std::optional<LeakPair> first = search.next();
-  ASSERT_TRUE(first);
-  EXPECT_TRUE(first->a == world().at(0) && first->b == world().at(1));
-  EXPECT_EQ(first->question(),
-            "Conform merging brush faces:\nNormal Epsilon 0.017186\nDistance Epsilon 0.009453");
-  EXPECT_TRUE(VecEqual(first->centre(), {64, 320, 320}));
-  EXPECT_FALSE(m.modified);
-  const std::optional<LeakPair> second = search.next();
-  ASSERT_TRUE(second && second->b == world().at(2));
-  search.conformPair();
-  EXPECT_TRUE(m.modified);
-  EXPECT_FALSE(search.next());
-  EXPECT_EQ(search.summary(), "1 pairs conformed, 0 became invalid");
-}
-
 TEST_F(LeakSearchTest, CarefulToolsCompareFacesThatLieOverOneAnother) {
   for (const bool careful : {false, true}) {
     world().destroyBrushes();

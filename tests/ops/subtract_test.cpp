@@ -1,6 +1,5 @@
 #include "ops/subtract.h"
 
-#include "ops/solids/solid.h"
 #include "support/builders.h"
 
 namespace velk {
@@ -16,22 +15,6 @@ std::string Order(const entity& e) {
 }
 
 typedef test::MapTest SubtractTest;
-
-TEST_F(SubtractTest, ACubeInACubeLeavesSixPieces) {
-  box({0, 0, 0}, {64, 64, 64}, "rock");
-  brush& inner = selectedBox({16, 16, 16}, {48, 48, 48}, "air");
-  m.modified = false;
-  EXPECT_EQ(subtractSelection(m, false).status, "Subtracting selection...");
-  EXPECT_TRUE(m.modified);
-  EXPECT_EQ(summary(), "worldspawn ------*");
-  EXPECT_EQ(world().at(6), &inner);
-  double volume = 0;
-  for (const brush& b : world().brushes()) volume += Volume(b);
-  EXPECT_EQ(volume, 64.0 * 64 * 64);
-  for (const face& f : world().at(0)->faces()) EXPECT_EQ(f.texture.name, "rock");
-  subtractSelection(m, true);
-  EXPECT_EQ(Order(world()), "0 16 48 16 16 16 *16 ") << "what only touches is not cut";
-}
 
 TEST_F(SubtractTest, OrderAndWhatIsNotCut) {
   for (int i = 0; i < 4; ++i) cube(i);

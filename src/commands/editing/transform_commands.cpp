@@ -128,7 +128,10 @@ Outcome ExtrudeBrush(Editor& editor, map& m) {
   if (m.totalSelected() != 1) return Outcome::Said(kMustHaveOneSelected);
   const auto thickness =
       WallThickness(editor, [&](int wanted) { return ExtrudedSlabs(m, wanted, Careful(editor)); });
-  return thickness ? ExtrudeSelection(m, *thickness, Careful(editor)) : Outcome{};
+  if (!thickness) return {};
+  return RunRepeatably(editor, m, [&editor, wanted = *thickness](map& now) {
+    return ExtrudeSelection(now, wanted, Careful(editor));
+  });
 }
 
 Outcome TallBrush(Editor& editor, map& m) { return MakeTall(m, Careful(editor)); }
@@ -137,7 +140,13 @@ Outcome ShortBrush(Editor& editor, map& m) { return MakeShort(m, Careful(editor)
 
 Outcome SnapToGrid(Editor& editor, map& m) { return SnapSelectionToGrid(m, Careful(editor)); }
 
-Outcome Subtract(Editor& editor, map& m) { return subtractSelection(m, Careful(editor)); }
+// Only careful tools can be stopped.
+Outcome Subtract(Editor& editor, map& m) {
+  const bool careful = Careful(editor);
+  return subtractSelection(m, careful, [&](const std::string& text, int top) {
+    return editor.services().observer.progress(text, kProgressLeft, top) || !careful;
+  });
+}
 
 Outcome FlipClipPlane(Editor&, map& m) { return FlipClipper(m.clip); }
 

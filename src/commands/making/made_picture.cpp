@@ -22,7 +22,7 @@ constexpr double kStep = 0.9;   // of the distance
 constexpr double kNearest = 0.2;
 constexpr double kFarthest = 10;
 constexpr int kDragStep = 8;  // pixels of a drag in and out a step
-constexpr double kRoomAround = 1.15;
+constexpr double kRoomAround = 1.05;
 
 int Wrapped(int degrees) { return (degrees % 360 + 360) % 360; }
 
@@ -117,7 +117,8 @@ std::string MadePicture::hint() const { return kPictureHint; }
 void MadePicture::aim(int pictureWidth, int pictureHeight) {
   const Projection projection = MakeProjection(pictureWidth, pictureHeight);
   const double least = std::min(pictureWidth, pictureHeight) / 2.0;
-  const double distance = radius_ * kRoomAround * std::max(projection.halfWidth / least, 1.0) * distance_;
+  const double whole = radius_ * std::hypot(1.0, projection.halfWidth / least);
+  const double distance = whole * kRoomAround * distance_;
   const double raised = (pictureHeight / 2.0 - projection.centerY) * distance / projection.halfWidth;
   const Axes axes(roll_, pitch_, yaw_);
   const vec3 origin = add(centre_, Sum(axes.forward, -distance, axes.up, raised));

@@ -174,8 +174,8 @@ bool ShowsItsLabel(const FormField& field) {
 }
 
 // A label in front of an editor that has none of its own.
-void AddLabel(FieldEditor& editor) {
-  auto* label = new QLabel;
+void AddLabel(FieldEditor& editor, const std::string& text) {
+  auto* label = new QLabel(ShownText(text));
   label->setBuddy(editor.focus);
   editor.label = label;
   editor.show = [label, show = editor.show](const FormField& now) {
@@ -188,7 +188,7 @@ void AddLabel(FieldEditor& editor) {
 
 FieldEditor MakeFieldEditor(const FormField& field, const Paths* paths, const Edited& edited) {
   FieldEditor editor = BareEditor(field, paths, edited);
-  if (!editor.label && !ShowsItsLabel(field)) AddLabel(editor);
+  if (!editor.label && !ShowsItsLabel(field)) AddLabel(editor, field.label);
   editor.widget->setObjectName(ShownText(field.name));
   editor.show = [label = editor.label, widget = editor.widget, show = editor.show](const FormField& now) {
     widget->setEnabled(now.enabled);

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <algorithm>
 
 #include "desktop/dialogs/number_box.h"
@@ -16,7 +17,8 @@ namespace {
 constexpr int kColourRows = 7;
 constexpr int kBetweenColumns = 24;
 constexpr int kBetweenRows = 8;
-constexpr size_t kFewFields = 6;  // stand in one column, check boxes among them
+constexpr int kWidestLabel = 190;  // beside its field in a narrow column
+constexpr size_t kFewFields = 6;   // stand in one column, check boxes among them, as do all beside a picture
 
 using Indices = std::vector<size_t>;
 
@@ -35,7 +37,13 @@ void MakeAlike(const std::vector<QWidget*>& widgets) {
   for (QWidget* widget : widgets) widget->setMinimumWidth(width);
 }
 
-QLayout* Column(const std::vector<FieldEditor>& editors, const Indices& fields) {
+// A narrow one has radio buttons, and what a long label is for, below the label.
+bool StandsBelow(const FieldEditor& editor) {
+  if (qobject_cast<QRadioButton*>(editor.focus)) return true;
+  return editor.label && editor.label->sizeHint().width() > kWidestLabel;
+}
+
+QLayout* Column(const std::vector<FieldEditor>& editors, const Indices& fields, bool narrow = false) {
   auto* layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   layout->setVerticalSpacing(kBetweenRows);
@@ -45,7 +53,12 @@ QLayout* Column(const std::vector<FieldEditor>& editors, const Indices& fields) 
     const FieldEditor& editor = editors[i];
     if (qobject_cast<NumberBox*>(editor.focus)) numbers.push_back(editor.focus);
     if (qobject_cast<QPushButton*>(editor.label)) buttons.push_back(editor.label);
-    editor.label ? layout->addRow(editor.label, editor.widget) : layout->addRow(editor.widget);
+    if (narrow && StandsBelow(editor)) {
+      layout->addRow(editor.label);
+      layout->addRow(editor.widget);
+    } else {
+      editor.label ? layout->addRow(editor.label, editor.widget) : layout->addRow(editor.widget);
+    }
   }
   MakeAlike(numbers);
   MakeAlike(buttons);
@@ -97,11 +110,11 @@ QWidget* FormPages::page(const Form& form, const std::string& name) {
   }
   Indices left = fields;
   Indices flags;
-  if (fields.size() > kFewFields) {
+  if (fields.size() > kFewFields && !form.picture) {
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(flags), kindIs(FormField::Kind::Flag));
     std::erase_if(left, kindIs(FormField::Kind::Flag));
   }
-  columns->addLayout(Column(editors_, left), 1);
+  columns->addLayout(Column(editors_, left, form.picture != nullptr), 1);
   if (!flags.empty()) columns->addLayout(Column(editors_, flags));
   return widget;
 }

@@ -16,7 +16,8 @@ namespace {
 
 constexpr int kNotch = 120;  // units of a wheel's event
 constexpr std::uint32_t kBlack = 0xff000000;
-constexpr int kButtonsInARow = 5;
+constexpr int kButtonsInARow = 3;
+constexpr int kHintLines = 2;
 constexpr int kCaptionMargin = 4;
 constexpr QColor kCaptionGround(0, 0, 0, 160);
 
@@ -101,6 +102,8 @@ PicturePanel::PicturePanel(const std::shared_ptr<FormPicture>& picture) {
   if (const QString hint = ShownText(picture->hint()); !hint.isEmpty()) {
     auto* label = new QLabel(hint);
     label->setWordWrap(true);
+    // The dialog's height does not follow from wrapped text.
+    label->setMinimumHeight(kHintLines * label->fontMetrics().lineSpacing());
     column->addWidget(label);
   }
 }

@@ -290,6 +290,14 @@ void TVelkWindow::loadProgress(const std::string& text, int done, int total) {
   progress_->repaint();
 }
 
+bool TVelkWindow::progress(const std::string& text, int left, int top) {
+  if (!camera_) return true;
+  if (!camera_->showsProgress()) escape_.begin();
+  camera_->keepProgress(text, left, top);
+  if (escape_.due()) camera_->repaint();
+  return !escape_.pressed();
+}
+
 void TVelkWindow::mapsChanged() {
   setWindowTitle(ShownText(FrameTitle(editor_)));
   if (tabs_) tabs_->refresh();

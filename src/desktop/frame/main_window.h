@@ -12,6 +12,7 @@
 #include "desktop/frame/child_windows.h"
 #include "desktop/frame/map_tabs.h"
 #include "desktop/frame/status_bar.h"
+#include "desktop/system/escape_watch.h"
 #include "desktop/system/file_watch.h"
 #include "desktop/system/qt_programs.h"
 #include "desktop/views/camera_window.h"
@@ -56,6 +57,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   void statusChanged(const std::string& text) override;
   void changed(const Changes& what) override;
   void loadProgress(const std::string& text, int done, int total) override;
+  bool progress(const std::string& text, int left, int top) override;
   void helpRequested() override;
   void buildRequested() override;
   void exitRequested() override;
@@ -89,6 +91,7 @@ class TVelkWindow : public QMainWindow, private Observer {
   std::vector<TVelkControlBar*> bars_;
   QtPrograms programs_;
   QTimer ticks_;
+  EscapeWatch escape_;
   bool arranged_ = false;
   bool keepsState_ = false;
   bool leaving_ = false;

@@ -57,7 +57,7 @@ bool FileWatch::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FileWatch::check() {
-  if (IsBusy()) {
+  if (IsBusy() || editor_.door().busy()) {
     delay_.start();
   } else if (frame_.isActiveWindow()) {  // otherwise coming back starts the delay
     editor_.checkDisk();

@@ -1,5 +1,6 @@
 #include "desktop/views/camera_window.h"
 
+#include <QPainter>
 #include <vector>
 
 #include "app/view_overlay.h"
@@ -13,6 +14,8 @@ namespace velk {
 namespace {
 
 constexpr int kWireMode = 0;
+
+QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 QString FontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
 
@@ -87,6 +90,31 @@ TCameraWindow::TCameraWindow(Editor& editor, QWidget* parent) : ViewWindow(edito
 void TCameraWindow::showTitle() { setWindowTitle(ShownText(WindowTitle(editor(), ToolWindow::Camera))); }
 
 QImage TCameraWindow::drawPicture() { return LastingPicture(editor(), devicePixelRatioF()); }
+
+void TCameraWindow::markStale() {
+  progress_.clear();
+  ViewWindow::markStale();
+}
+
+void TCameraWindow::keepProgress(const std::string& text, int left, int top) {
+  progress_[{top, left}] = text;
+}
+
+void TCameraWindow::drawOnTop(QPainter& painter) {
+  constexpr int kHeight = 12;  // pixels
+  const ViewColours& colours = editor().settings().colours;
+  QFont font(FontFamily(editor()));
+  font.setPixelSize(kHeight);
+  painter.setFont(font);
+  painter.setPen(QtColour(colours.fgcolor));
+  for (const auto& [place, text] : progress_) {
+    const QString line = ShownText(text);
+    const QSize size = painter.fontMetrics().size(Qt::TextSingleLine, line);
+    const QRect area(QPoint(place.second, place.first), size);
+    painter.fillRect(area, QtColour(colours.bgcolor));
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, line);
+  }
+}
 
 void TCameraWindow::drawOverlay(QtCanvas& canvas) { DrawCameraOverlay(canvas, editor()); }
 

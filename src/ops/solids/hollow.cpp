@@ -63,7 +63,7 @@ Shells ShellsOf(map& m, int thickness) {
 }  // namespace
 
 Outcome HollowSelection(map& m, int thickness) {
-  if (!IsWallThickness(thickness)) return {};
+  if (!IsWallThickness(thickness)) return Outcome::Said(kBadThickness);
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
   Shells shells = ShellsOf(m, thickness);
   std::string status = Format(kHollowed, int(shells.made.size()));

@@ -10,9 +10,10 @@
 namespace velk {
 
 inline constexpr char kHollowed[] = "Hollowed %i brushes...";
+inline constexpr char kBadThickness[] = "Bad thickness...";
 inline constexpr char kTooThinToHollow[] = " %i too thin";  // added to that
 
-// Puts walls of that thickness (world units, kThinnestWall to kThickestWall; otherwise nothing happens)
+// Puts walls of that thickness (world units, kThinnestWall to kThickestWall; otherwise it says so)
 // inside the selected brushes of visible groups, in place of them, selected. Brushes that leave no room
 // inside, and boxes of point entities, stay as they are.
 Outcome HollowSelection(map& m, int thickness);
