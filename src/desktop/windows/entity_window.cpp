@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMargin = 4;
 constexpr int kButtonRoom = 8;  // of a button above and below its basis
-constexpr int kLinkLines = 3;
+constexpr int kLinkLines = 2;
 constexpr const char* kAngles[] = {"0", "45", "90", "135", "180", "225", "270", "315", "Up", "Dn"};
 
 // As it stands, without a mnemonic.
@@ -179,6 +179,7 @@ QBoxLayout* EntityView::angleRow() {
 
 void EntityView::buildLinks() {
   links_->setFocusPolicy(Qt::NoFocus);
+  links_->setSelectionMode(QAbstractItemView::NoSelection);
   links_->setToolTip("A click selects the entity at the other end");
   links_->setFixedHeight(kLinkLines * (fontMetrics().height() + 2) + 4);
   connect(links_, &QListWidget::itemClicked, this,

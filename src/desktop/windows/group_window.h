@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLabel>
 #include <QToolButton>
 
 #include "app/editor.h"
@@ -28,7 +27,6 @@ class TGroupWindow : public QWidget {
   Editor& editor_;
   TVelkGroupListBox* list_;
   QToolButton* swatch_;
-  QLabel* name_;
   SelectionHandle* selection_;
 };
 

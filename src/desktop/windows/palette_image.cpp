@@ -3,7 +3,7 @@
 namespace velk {
 namespace {
 
-QList<QRgb> ColourTable(const Wad* wad) {
+QList<QRgb> PaletteOf(const Wad* wad) {
   QList<QRgb> table(256, qRgb(0, 0, 0));
   for (int i = 0; i < 256 && wad; ++i) {
     const unsigned char* entry = wad->palette.data() + i * 3;
@@ -17,7 +17,7 @@ QList<QRgb> ColourTable(const Wad* wad) {
 QImage PaletteImage(const Renderer& renderer, const Wad* palette) {
   QImage image(renderer.frameBuffer().data(), renderer.width(), renderer.height(), renderer.width(),
                QImage::Format_Indexed8);
-  image.setColorTable(ColourTable(palette));
+  image.setColorTable(PaletteOf(palette));
   return image;
 }
 
