@@ -38,6 +38,7 @@ TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
   QFont small = font();
   small.setPixelSize(kFontHeight);
   setFont(small);
+  setFocusPolicy(Qt::ClickFocus);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 2, 0, 0);
   column->setSpacing(2);

@@ -44,6 +44,8 @@ EntityView::EntityView(Editor& editor, QWidget* parent)
   small.setPixelSize(settings.entity_font_size);
   setFont(small);
   setMinimumWidth(settings.entity_window_width);
+  // A click that goes to nothing that is typed into leaves the keys to commands.
+  setFocusPolicy(Qt::ClickFocus);
   comment_->setReadOnly(true);
   comment_->setFocusPolicy(Qt::NoFocus);
   comment_->setMinimumHeight(settings.entity_comment_size);

@@ -23,11 +23,22 @@ TGroupWindow::TGroupWindow(Editor& editor, QWidget* parent)
   QFont small("Arial");
   small.setPixelSize(settings.group_font_size);
   setFont(small);
+  setFocusPolicy(Qt::ClickFocus);
   if (!settings.group_resize) list_->setFixedHeight(settings.group_list_size);
   list_->setMinimumHeight(20);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(3);
+  column->addWidget(list_, 1);
+  column->addLayout(buttonRow());
+  if (!settings.group_resize) column->addStretch();
+  refresh();
+}
+
+QBoxLayout* TGroupWindow::buttonRow() {
   swatch_ = button("", "");
   swatch_->setFixedWidth(swatch_->height());
-  selection_->setMaximumWidth(settings.group_field_size);
+  selection_->setMaximumWidth(editor_.settings().group_field_size);
   QToolButton* add = button("New...", "Makes a group of the selection");
   QToolButton* isolate = button("Isolate", "Shows the current group alone");
   QToolButton* all = button("Show All", "Makes all groups visible");
@@ -36,17 +47,11 @@ TGroupWindow::TGroupWindow(Editor& editor, QWidget* parent)
   row->addWidget(swatch_);
   row->addWidget(selection_, 1);
   for (QToolButton* tool : {add, isolate, all}) row->addWidget(tool);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(3);
-  column->addWidget(list_, 1);
-  column->addLayout(row);
-  if (!settings.group_resize) column->addStretch();
   connect(swatch_, &QToolButton::clicked, this, [this] { panel().setColour(panel().current()); });
   connect(add, &QToolButton::clicked, this, [this] { panel().addGroup(); });
   connect(isolate, &QToolButton::clicked, this, [this] { panel().isolate(panel().current()); });
   connect(all, &QToolButton::clicked, this, [this] { panel().showAll(); });
-  refresh();
+  return row;
 }
 
 QToolButton* TGroupWindow::button(const QString& text, const QString& hint) {

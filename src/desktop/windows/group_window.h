@@ -6,6 +6,8 @@
 #include "desktop/windows/group_list.h"
 #include "desktop/windows/selection_handle.h"
 
+class QBoxLayout;
+
 namespace velk {
 
 // The group window: the list of groups, the colour of the current one, and what is often done with them.
@@ -22,11 +24,12 @@ class TGroupWindow : public QWidget {
 
  private:
   GroupPanel& panel() { return editor_.panels().groups; }
+  QBoxLayout* buttonRow();
   QToolButton* button(const QString& text, const QString& hint);
 
   Editor& editor_;
   TVelkGroupListBox* list_;
-  QToolButton* swatch_;
+  QToolButton* swatch_ = nullptr;
   SelectionHandle* selection_;
 };
 
