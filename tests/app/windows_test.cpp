@@ -56,6 +56,8 @@ TEST(Windows, SavesASlotAndGoesRoundTheSlots) {
   EXPECT_EQ(session.editor.documents().status(), "Window arrangement 2 saved...");
   EXPECT_EQ(session.home.read("velk.pos").size(), Arrangements::kFileSize);
   EXPECT_EQ(session.editor.windows().arrangements().current, 0);
+  session.run("CM_S1");
+  EXPECT_EQ(session.editor.documents().status(), "Window arrangement 1 was never saved...");
   session.run("CM_WDOWN");
   EXPECT_EQ(session.editor.windows().arrangements().current, 3);
   session.run("CM_WUP");

@@ -1,7 +1,6 @@
-#include "panels/entities/entity_facts.h"
-
 #include <gtest/gtest.h>
 
+#include "panels/entities/entity_facts.h"
 #include "support/builders.h"
 
 namespace velk {

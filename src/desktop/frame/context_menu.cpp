@@ -14,7 +14,8 @@ void ShowMenu(const Menu& menu, QWidget& owner, const QPoint& at) {
       popup.addSeparator();
       continue;
     }
-    QAction* action = popup.addAction(ShownText(item.label));
+    // Names within a label have no mnemonics.
+    QAction* action = popup.addAction(ShownText(item.label).replace('&', "&&"));
     action->setEnabled(item.enabled);
     action->setCheckable(item.check != MenuItem::Check::None);
     action->setChecked(item.check == MenuItem::Check::On);

@@ -18,6 +18,12 @@ constexpr int kLineHeight = 15;
 
 QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
+// A quarter of the way from one to the other.
+QColor Between(const QColor& from, const QColor& to) {
+  return {(3 * from.red() + to.red()) / 4, (3 * from.green() + to.green()) / 4,
+          (3 * from.blue() + to.blue()) / 4};
+}
+
 }  // namespace
 
 TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
@@ -32,6 +38,7 @@ TSelectedBrushWindow::TSelectedBrushWindow(Editor& editor, QWidget* parent)
   QFont small = font();
   small.setPixelSize(kFontHeight);
   setFont(small);
+  setFocusPolicy(Qt::ClickFocus);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 2, 0, 0);
   column->setSpacing(2);
@@ -92,6 +99,9 @@ void TSelectedBrushWindow::useColours() {
   }
   palette.setColor(QPalette::Base, QtColour(colours.bgcolor));
   palette.setColor(QPalette::Text, QtColour(colours.fgcolor));
+  // The line chosen is the current face's.
+  palette.setColor(QPalette::HighlightedText, QtColour(colours.color_curfacecolor));
+  palette.setColor(QPalette::Highlight, Between(QtColour(colours.bgcolor), QtColour(colours.fgcolor)));
   faces_->setPalette(palette);
 }
 

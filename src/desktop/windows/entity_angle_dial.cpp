@@ -47,7 +47,9 @@ void EntityAngleDial::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF ring = QRectF(rect()).adjusted(5, 5, -5, -5);
-  painter.setPen(QPen(palette().color(QPalette::Mid), 1.5));
+  QColor line = palette().color(QPalette::WindowText);
+  line.setAlphaF(0.45F);
+  painter.setPen(QPen(line, 1.5));
   painter.setBrush(palette().color(QPalette::Base));
   painter.drawEllipse(ring);
   painter.setPen(palette().color(QPalette::Text));

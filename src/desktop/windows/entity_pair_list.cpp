@@ -66,7 +66,7 @@ QWidget* EntityPairDelegate::createEditor(QWidget* parent, const QStyleOptionVie
     auto* part = new QLineEdit(editor);
     part->setObjectName(name);
     part->setFont(option.font);
-    part->setTextMargins(0, 0, 0, 0);
+    part->setFrame(false);
     part->setMaxLength(name == std::string_view("key") ? MAX_KEY - 1 : MAX_VALUE - 1);
     part->installEventFilter(const_cast<EntityPairDelegate*>(this));
     row->addWidget(part, 1);

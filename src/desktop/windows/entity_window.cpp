@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMargin = 4;
 constexpr int kButtonRoom = 8;  // of a button above and below its basis
-constexpr int kLinkLines = 3;
+constexpr int kLinkLines = 2;
 constexpr const char* kAngles[] = {"0", "45", "90", "135", "180", "225", "270", "315", "Up", "Dn"};
 
 // As it stands, without a mnemonic.
@@ -44,6 +44,8 @@ EntityView::EntityView(Editor& editor, QWidget* parent)
   small.setPixelSize(settings.entity_font_size);
   setFont(small);
   setMinimumWidth(settings.entity_window_width);
+  // A click that goes to nothing that is typed into leaves the keys to commands.
+  setFocusPolicy(Qt::ClickFocus);
   comment_->setReadOnly(true);
   comment_->setFocusPolicy(Qt::NoFocus);
   comment_->setMinimumHeight(settings.entity_comment_size);
@@ -179,6 +181,7 @@ QBoxLayout* EntityView::angleRow() {
 
 void EntityView::buildLinks() {
   links_->setFocusPolicy(Qt::NoFocus);
+  links_->setSelectionMode(QAbstractItemView::NoSelection);
   links_->setToolTip("A click selects the entity at the other end");
   links_->setFixedHeight(kLinkLines * (fontMetrics().height() + 2) + 4);
   connect(links_, &QListWidget::itemClicked, this,

@@ -17,40 +17,41 @@ TGroupWindow::TGroupWindow(Editor& editor, QWidget* parent)
     : QWidget(parent),
       editor_(editor),
       list_(new TVelkGroupListBox(editor.panels().groups)),
-      name_(new QLabel),
       selection_(new SelectionHandle) {
   const Settings& settings = editor.settings();
   setWindowTitle(ShownText(WindowTitle(editor, ToolWindow::Groups)));
   QFont small("Arial");
   small.setPixelSize(settings.group_font_size);
   setFont(small);
+  setFocusPolicy(Qt::ClickFocus);
   if (!settings.group_resize) list_->setFixedHeight(settings.group_list_size);
   list_->setMinimumHeight(20);
-  swatch_ = button("", "The current group's colour");
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  column->setSpacing(3);
+  column->addWidget(list_, 1);
+  column->addLayout(buttonRow());
+  if (!settings.group_resize) column->addStretch();
+  refresh();
+}
+
+QBoxLayout* TGroupWindow::buttonRow() {
+  swatch_ = button("", "");
   swatch_->setFixedWidth(swatch_->height());
-  name_->setMinimumWidth(1);
-  name_->setMaximumWidth(settings.group_field_size);
-  name_->setToolTip("The group that new brushes join");
+  selection_->setMaximumWidth(editor_.settings().group_field_size);
   QToolButton* add = button("New...", "Makes a group of the selection");
   QToolButton* isolate = button("Isolate", "Shows the current group alone");
   QToolButton* all = button("Show All", "Makes all groups visible");
   auto* row = new QHBoxLayout;
   row->setSpacing(3);
   row->addWidget(swatch_);
-  row->addWidget(name_, 1);
+  row->addWidget(selection_, 1);
   for (QToolButton* tool : {add, isolate, all}) row->addWidget(tool);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  column->setSpacing(3);
-  column->addWidget(list_, 1);
-  column->addLayout(row);
-  column->addWidget(selection_);
-  if (!settings.group_resize) column->addStretch();
   connect(swatch_, &QToolButton::clicked, this, [this] { panel().setColour(panel().current()); });
   connect(add, &QToolButton::clicked, this, [this] { panel().addGroup(); });
   connect(isolate, &QToolButton::clicked, this, [this] { panel().isolate(panel().current()); });
   connect(all, &QToolButton::clicked, this, [this] { panel().showAll(); });
-  refresh();
+  return row;
 }
 
 QToolButton* TGroupWindow::button(const QString& text, const QString& hint) {
@@ -71,7 +72,8 @@ void TGroupWindow::refresh() {
   swatch.setDevicePixelRatio(2);
   swatch.fill(QColor(colour.red, colour.green, colour.blue));
   swatch_->setIcon(swatch);
-  name_->setText(ShownText(panel().currentName()));
+  swatch_->setToolTip(
+      ShownText("New brushes join " + panel().currentName() + "; a click changes its colour"));
   showSelection();
 }
 

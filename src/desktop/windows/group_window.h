@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QLabel>
 #include <QToolButton>
 
 #include "app/editor.h"
 #include "desktop/windows/group_list.h"
 #include "desktop/windows/selection_handle.h"
+
+class QBoxLayout;
 
 namespace velk {
 
@@ -23,12 +24,12 @@ class TGroupWindow : public QWidget {
 
  private:
   GroupPanel& panel() { return editor_.panels().groups; }
+  QBoxLayout* buttonRow();
   QToolButton* button(const QString& text, const QString& hint);
 
   Editor& editor_;
   TVelkGroupListBox* list_;
-  QToolButton* swatch_;
-  QLabel* name_;
+  QToolButton* swatch_ = nullptr;
   SelectionHandle* selection_;
 };
 

@@ -124,7 +124,6 @@ void EntityPanel::askPair(const KeyPair& filled) {
 void EntityPanel::editPair(const std::string& oldKey, std::string key, std::string value) {
   const KeyPair pair{WithoutQuotes(std::move(key)), WithoutQuotes(std::move(value))};
   if (pair.key.empty() || pair.value.empty() || isTooLong(pair)) return;
-  last_ = pair;
   clearFields();
   change("Set " + pair.key, [&](entity& e) {
     if (pair.key != oldKey) RemovePair(e, oldKey);
