@@ -134,6 +134,7 @@ void TVelkWindow::keepState() {
   RestoreFrame(*this, editor_.place().stateFile());
   editor_.attend();
   watch_ = new FileWatch(editor_, *this);
+  watch_->follow();
   // The session may end the program without closing the frame.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
 }
