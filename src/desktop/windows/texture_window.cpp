@@ -50,6 +50,7 @@ TTextureWindow::TTextureWindow(Editor& editor, QWidget* parent)
   search_->installEventFilter(this);
   // Keys stay the editor's until the box is clicked.
   search_->setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(view_);
   names_->setFont(SmallFont(*this));
   names_->setMinimumWidth(40);
