@@ -123,8 +123,7 @@ std::string FrameTitle(const Editor& editor) {
 std::string WindowTitle(const Editor& editor, ToolWindow window) {
   switch (window) {
     case ToolWindow::Textures:
-      return editor.textures().current() ? Format("[Texture - %s]", editor.textures().current()->path.c_str())
-                                         : "Textures";
+      return "Textures";
     case ToolWindow::SelectedBrush:
       return "Selected Brush";
     case ToolWindow::Entities:

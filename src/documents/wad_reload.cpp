@@ -30,7 +30,8 @@ void ReloadWads(Documents& documents, Door& door, TextureManager& textures, cons
     ++read;
   }
   if (read == 0) return;
-  Outcome outcome = Outcome::Drawn(Redraw::Camera, Format("%i wads read again...", read));
+  Outcome outcome =
+      Outcome::Drawn(Redraw::Camera, read == 1 ? "Wad read again..." : Format("%i wads read again...", read));
   outcome.textures = true;
   door.show(outcome);
 }

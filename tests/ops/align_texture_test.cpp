@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "geometry/texture_fit.h"
 #include "ops/move_selection.h"
 #include "ops/transform.h"

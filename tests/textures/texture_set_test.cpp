@@ -61,6 +61,14 @@ TEST_F(TextureSetTest, FramesStandBehindTheHeadOfTheirAnimation) {
   EXPECT_EQ(set.makeTextureRef("+1lava")->name, "+0LAVA");
 }
 
+TEST_F(TextureSetTest, LongNamesLeadToTheirFirstFifteenLetters) {
+  wad("a.wad", {"abcdefghijklmno", "short"});
+  open("a.wad");
+  EXPECT_EQ(set.indexOf("abcdefghijklmnop"), set.find("ABCDEFGHIJKLMNO"));
+  EXPECT_EQ(set.find("abcdefghijklmnxp"), -1);
+  EXPECT_EQ(set.find("shorter"), -1);
+}
+
 TEST_F(TextureSetTest, ReferencesShareThePixels) {
   EXPECT_EQ(set.makeTextureRef("wall"), nullptr);
   wad("a.wad", {"wall"}, 100);
@@ -99,9 +107,10 @@ TEST_F(TextureSetTest, FavouritesAreTheMapsOrTheFirstOfTheSet) {
   EXPECT_EQ(m.favourites, (Names{"A", "B"}));
   m.favourites = {"none", "+1c", "d", "a"};
   open("a.wad");
-  EXPECT_EQ(m.favourites, (Names{"+0C", "D"}));
-  EXPECT_EQ(FavouriteAt(m, set, 1), set.find("d"));
-  m.favourites = {"none", "d"};
+  EXPECT_EQ(m.favourites, (Names{"none", "+0C"}));  // a missing one keeps its place
+  EXPECT_EQ(FavouriteAt(m, set, 0), -1);
+  EXPECT_EQ(FavouriteAt(m, set, 1), set.find("+0c"));
+  m.favourites = {"", "d"};
   open("a.wad");
   EXPECT_EQ(m.favourites, (Names{"D", ""}));
   EXPECT_EQ(FavouriteAt(m, set, 2), -1);

@@ -155,6 +155,7 @@ void TVelkWindow::keepState() {
   editor_.attend();
   editor_.input().readBindings();
   watch_ = new FileWatch(editor_, *this);
+  watch_->follow();
   // The session may end the program without closing the frame.
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { rememberState(); });
 }

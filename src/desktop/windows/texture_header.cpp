@@ -33,6 +33,7 @@ TextureNumber::TextureNumber(TexturePanel& panel, TextureField field, QWidget* p
   setRange(-kLargest, kLargest);
   setButtonSymbols(NoButtons);
   setKeyboardTracking(false);
+  setFocusPolicy(Qt::ClickFocus);
   setFrame(true);
   setFont(FontOf(*this, kNumberFont));
   setToolTip(QString::fromLatin1(kMeanings[static_cast<size_t>(field)]));

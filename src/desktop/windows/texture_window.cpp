@@ -28,7 +28,7 @@ TTextureWindow::TTextureWindow(Editor& editor, QWidget* parent)
       view_(new TextureView(editor)),
       line_(new QLabel),
       magnified_(new QLabel(this)) {
-  setWindowTitle(ShownText(WindowTitle(editor, ToolWindow::Textures)));
+  setWindowTitle(ShownText(panel().caption()));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -48,6 +48,10 @@ TTextureWindow::TTextureWindow(Editor& editor, QWidget* parent)
   search_->setToolTip(tr("Words in any order; #used, #wad:NAME"));
   search_->setStatusTip(search_->toolTip());
   search_->installEventFilter(this);
+  // Keys stay the editor's until the box is clicked.
+  search_->setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
+  setFocusProxy(view_);
   names_->setFont(SmallFont(*this));
   names_->setMinimumWidth(40);
   names_->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -91,7 +95,7 @@ void TTextureWindow::runTimer() {
 }
 
 void TTextureWindow::refresh() {
-  setWindowTitle(ShownText(WindowTitle(editor_, ToolWindow::Textures)));
+  setWindowTitle(ShownText(panel().caption()));
   if (ShownText(panel().search()) != search_->text()) search_->setText(ShownText(panel().search()));
   names_->refresh();
   header_->refresh();

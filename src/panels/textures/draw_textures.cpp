@@ -80,10 +80,10 @@ class Painter {
   }
 
   void outline(const PixelRect& at, Colour colour) {
-    const int right = at.left + at.width;
-    const int bottom = at.top + at.height;
+    const int right = at.left + at.width - 1;
+    const int bottom = at.top + at.height - 1;
     const std::array<Pixel, 4> corners{
-        Pixel{at.left - 1, at.top - 1}, {right, at.top - 1}, {right, bottom}, {at.left - 1, bottom}};
+        Pixel{at.left, at.top}, {right, at.top}, {right, bottom}, {at.left, bottom}};
     drawing_.canvas.polygon({colour, 1}, corners);
   }
 
@@ -130,13 +130,13 @@ void DrawTextureHeader(TexturePanel& panel, const Settings& settings, Canvas& ca
 }
 
 PixelRect MagnifierArea(TexturePanel& panel, const Settings& settings) {
-  int height = panel.layout().headerHeight;
-  if (settings.careful_tools && panel.dragged() >= 0) {
-    const Texture& texture = *panel.set().at(panel.dragged()).texture;
-    height = std::clamp(Truncate(texture.height * panel.magnification()), height,
-                        std::max(height, panel.height()));
-  }
-  return {0, 0, panel.width(), height};
+  const int header = panel.layout().headerHeight;
+  if (!settings.careful_tools || panel.dragged() < 0) return {0, 0, panel.width(), header};
+  const Texture& texture = *panel.set().at(panel.dragged()).texture;
+  const auto within = [&](int side, int room) {
+    return std::clamp(Truncate(side * panel.magnification()), 1, std::max(1, room));
+  };
+  return {0, 0, within(texture.width, panel.width()), within(texture.height, panel.height())};
 }
 
 void DrawMagnified(TexturePanel& panel, const Settings& settings, const TextureDrawing& drawing) {

@@ -18,7 +18,7 @@ struct TextureDrawing {
 void DrawTextures(TexturePanel& panel, const Settings& settings, const TextureDrawing& drawing);
 // The label and the five numbers, for pictures without the window's own fields.
 void DrawTextureHeader(TexturePanel& panel, const Settings& settings, Canvas& canvas);
-// The room of a magnified texture: the header; careful tools let it reach down as far as the texture does.
+// The room of a magnified texture: the header; with careful tools as much as the texture takes.
 PixelRect MagnifierArea(TexturePanel& panel, const Settings& settings);
 void DrawMagnified(TexturePanel& panel, const Settings& settings, const TextureDrawing& drawing);
 

@@ -15,6 +15,11 @@ void TexturePanel::resize(int width, int height) {
   height_ = height;
 }
 
+std::string TexturePanel::caption() const {
+  const Wad* wad = context_.textures.current();
+  return wad ? Format("[Texture - %s]", wad->path.c_str()) : "Textures";
+}
+
 TextureSet& TexturePanel::set() {
   if (MapDocument* document = context_.documents.current()) return document->textures;
   if (looseGeneration_ != context_.textures.generation()) {

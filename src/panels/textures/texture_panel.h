@@ -22,6 +22,9 @@ class TexturePanel : public Panel {
   int width() const { return width_; }
   int height() const { return height_; }
 
+  // "[Texture - <path>]" of the wad loaded last; its name before the first one.
+  std::string caption() const;
+
   // What is shown: the textures of the current map, without one those of all wads.
   TextureSet& set();
   // Brings what follows up to date with map, settings, search and choice. To be called before drawing.

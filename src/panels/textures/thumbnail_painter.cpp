@@ -10,23 +10,50 @@ namespace {
 constexpr std::uint32_t kOpaque = 0xff000000u;
 constexpr int kLongestSide = 8192;  // of a thumbnail on the screen, pixels
 
-// One axis of the picture: which source pixels each target pixel covers.
+// One axis of the picture: `size` target pixels for `source` source pixels.
 struct Axis {
-  int from;    // first target pixel, may be negative
-  int size;    // of the target
-  int source;  // of the source
-  int begin;   // what is drawn of the target
-  int end;
+  int from = 0;  // first target pixel, may be negative
+  int size = 1;
+  int source = 1;
+  int begin = 0;  // what is drawn of the target
+  int end = 0;
+};
 
-  int first(int i) const { return static_cast<int>(std::int64_t{i - from} * source / size); }
-  int last(int i) const {
-    return std::max(first(i), static_cast<int>((std::int64_t{i - from + 1} * source - 1) / size));
+// The source pixels that a target pixel covers, from `first` to `last`; goes on to the next without dividing.
+class Step {
+ public:
+  explicit Step(const Axis& axis)
+      : size_(axis.size), whole_(axis.source / axis.size), part_(axis.source % axis.size) {
+    const std::int64_t place = std::int64_t{axis.begin - axis.from} * axis.source;
+    next_ = static_cast<int>(place / size_);
+    rest_ = static_cast<int>(place % size_);
+    advance();
   }
+  void advance() {
+    first = next_;
+    next_ += whole_;
+    rest_ += part_;
+    if (rest_ >= size_) {
+      rest_ -= size_;
+      ++next_;
+    }
+    last = std::max(first, rest_ > 0 ? next_ : next_ - 1);
+  }
+
+  int first = 0;
+  int last = 0;
+
+ private:
+  int size_;
+  int whole_;
+  int part_;
+  int next_ = 0;
+  int rest_ = 0;
 };
 
 Axis AxisOf(int at, int size, int source, int clipFrom, int clipSize, double scale, int limit) {
   const auto device = [scale](int position) { return Truncate(RoundHalfAway(position * scale)); };
-  Axis axis{};
+  Axis axis;
   axis.from = device(at);
   axis.size = std::clamp(device(at + size) - axis.from, 1, kLongestSide);
   axis.source = source;
@@ -35,27 +62,23 @@ Axis AxisOf(int at, int size, int source, int clipFrom, int clipSize, double sca
   return axis;
 }
 
-std::uint32_t Averaged(const Texture& texture, const ColourTable& colours, const Axis& across,
-                       const Axis& down, int x, int y) {
+std::uint32_t Averaged(const Texture& texture, const ColourTable& colours, const Step& across,
+                       const Step& down) {
   std::uint32_t red = 0;
   std::uint32_t green = 0;
   std::uint32_t blue = 0;
-  std::uint32_t count = 0;
-  for (int row = down.first(y); row <= down.last(y); ++row) {
+  for (int row = down.first; row <= down.last; ++row) {
     const unsigned char* texels = texture.pixels.data() + static_cast<std::ptrdiff_t>(row) * texture.width;
-    for (int column = across.first(x); column <= across.last(x); ++column, ++count) {
+    for (int column = across.first; column <= across.last; ++column) {
       const std::uint32_t colour = colours[texels[column]];
       red += colour >> 16 & 255;
       green += colour >> 8 & 255;
       blue += colour & 255;
     }
   }
+  const auto count =
+      static_cast<std::uint32_t>((down.last - down.first + 1) * (across.last - across.first + 1));
   return kOpaque | red / count << 16 | green / count << 8 | blue / count;
-}
-
-void DrawRow(std::uint32_t* out, const ColourTable& colours, const Axis& across,
-             const unsigned char* texels) {
-  for (int x = across.begin; x < across.end; ++x) out[x] = kOpaque | colours[texels[across.first(x)]];
 }
 
 }  // namespace
@@ -67,13 +90,14 @@ void DrawThumbnail(const PicturePixels& picture, const Texture& texture, const C
   const Axis down = AxisOf(at.y, size.height, std::min(size.sourceHeight, texture.height), clip.top,
                            clip.height, picture.scale, picture.height);
   const bool shrinks = across.size < across.source || down.size < down.source;
-  for (int y = down.begin; y < down.end; ++y) {
+  Step row(down);
+  for (int y = down.begin; y < down.end; ++y, row.advance()) {
     std::uint32_t* out = picture.pixels + y * picture.stride;
-    if (shrinks) {
-      for (int x = across.begin; x < across.end; ++x) out[x] = Averaged(texture, colours, across, down, x, y);
-    } else {
-      DrawRow(out, colours, across,
-              texture.pixels.data() + static_cast<std::ptrdiff_t>(down.first(y)) * texture.width);
+    const unsigned char* texels =
+        texture.pixels.data() + static_cast<std::ptrdiff_t>(row.first) * texture.width;
+    Step column(across);
+    for (int x = across.begin; x < across.end; ++x, column.advance()) {
+      out[x] = shrinks ? Averaged(texture, colours, column, row) : kOpaque | colours[texels[column.first]];
     }
   }
 }
