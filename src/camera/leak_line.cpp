@@ -10,8 +10,8 @@ namespace {
 
 constexpr Colour kLine{255, 0, 0};
 constexpr Colour kStart{0, 200, 0};
-constexpr int kMark = 9;    // pixels a side
-constexpr double kNear = 1; // view depth
+constexpr int kMark = 9;     // pixels a side
+constexpr double kNear = 1;  // view depth
 
 // Where a view direction falls on the window: x = centreX + X / Z * perX.
 struct Lens {

@@ -29,8 +29,8 @@ Outcome WriteMerge(Editor& editor, map& from, const std::string& path, bool need
     return {};
   }
   if (!written.ok()) {
-    editor.services().tell(
-        "Velk - Save", Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()));
+    editor.services().tell("Velk - Save",
+                           Format("Couldn't write map file %s: %s", path.c_str(), written.reason.c_str()));
     return {};
   }
   Outcome outcome = Outcome::Said(Format("%s [%s] saved...", what, path.c_str()));
@@ -56,8 +56,8 @@ Outcome LoadBrushes(Editor& editor, map& m) {
 
 Outcome LoadBrushFile(Editor& editor, map& m, const std::string& path) {
   editor.documents().post(Format("Loading [%s]", path.c_str()));
-  auto brushes = ReadBrushFile(m, editor.services().paths, path,
-                               {.group = 0, .whole = editor.settings().careful_tools});
+  auto brushes =
+      ReadBrushFile(m, editor.services().paths, path, {.group = 0, .whole = editor.settings().careful_tools});
   m.world()->requireRoom(static_cast<int>(brushes.size()));
   for (auto& read : brushes) m.world()->addobject(std::move(read));
   m.modified = true;
