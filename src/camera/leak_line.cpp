@@ -89,7 +89,7 @@ class LinePlotter {
  private:
   double x(const vec3& p) const { return lens_.centreX + p.x * lens_.perX / p.z; }
   double y(const vec3& p) const { return lens_.centreY - p.y * lens_.perY / p.z; }
-  static Pixel PixelOf(double x, double y) { return {Truncate(x), Truncate(y)}; }
+  static Pixel PixelOf(double x, double y) { return {Truncate(OnGrid(x)), Truncate(OnGrid(y))}; }
 
   Canvas& canvas_;
   RenderSize window_;

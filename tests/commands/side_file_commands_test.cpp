@@ -35,6 +35,7 @@ TEST(SideFiles, AClipboardOfPointEntitiesIsWorthSaving) {
     session.editor.settings().careful_tools = careful;
     session.open();
     session.current().at(1)->at(0)->select();
+    session.current().setCurrentEntity(session.current().at(1));
     session.run("CM_EDITCOPY");
     const std::string file = (session.home.path() / "clip.mrg").string();
     session.answer(file);
@@ -78,6 +79,7 @@ TEST(SideFiles, FilesGoByTheirEnding) {
 
   // What is damaged changes nothing, and says why.
   session.editor.attend();
+  session.editor.settings().careful_tools = true;
   for (const char* name : {"bad.mrg", "bad.bru"}) {
     session.answer("ok");
     ShowNamed(session.editor, session.home.write(name, "{ ( 0"));

@@ -66,7 +66,7 @@ TEST_F(Programs, WhatHangsIsStoppedWithItsChildren) {
 }
 
 TEST_F(Programs, AFloodIsKeptWithinBounds) {
-  start("yes 'a line of a flood that goes on and on' | head -c 30000000; echo end");
+  start("yes 'a line of a flood that goes on and on' | head -c 30000000; echo; echo end");
   ASSERT_TRUE(ends());
   EXPECT_EQ(job.lastLine(), "end");
   EXPECT_LE(job.bytes(), BuildJob::kMostBytes);
