@@ -9,7 +9,7 @@ packages+=(clang)
 seconds=${1:-30}
 shift
 targets=("$@")
-((${#targets[@]} > 0)) || targets=(settings entities mapfile textures)
+((${#targets[@]} > 0)) || targets=(settings entities mapfile sidefiles textures)
 corpus=$root/build/fuzz/corpus
 
 # number N: as four bytes of a file, the lowest first.
@@ -35,7 +35,15 @@ small_wad() {
 }
 
 # Groups of keys as the settings file may have them.
-settings_seeds() {
+settings_# Behind the byte that chooses the reader: brushes, leak points, a profile, a compiler's output.
+side_seeds() {
+  { printf '0' && printf '{\n( 0 64 0 ) ( 0 0 64 ) ( 0 0 0 ) wall 0 0 0 1 1\n}\n'; } >"$1/a.bru"
+  printf '10 0 32\n64 0 -32.5\n' >"$1/a.pts"
+  printf '22\n0 0\n16 64\n' >"$1/a.rev"
+  printf '3ERROR: line 12\r\nentity 3 brush 4 at (1 2 3)\nLEAK\n' >"$1/a.log"
+}
+
+seeds() {
   sed -nE 's/^ *\{"([A-Za-z_>-]+)",.*/\1=7 8 9/p' "$root/src/settings/key_table.cpp" | split -l 8 - "$1/keys."
   local file
   for file in "$1"/keys.*; do sed -i '1i [Velk]' "$file"; done
@@ -60,6 +68,7 @@ seeds() {
     settings) settings_seeds "$folder" && cp "$root/kit/velk.ini" "$folder" ;;
     entities) cp "$root/kit/ents.qc" "$folder" && head -c 800 "$root/kit/ents.qc" >"$folder/head.qc" ;;
     mapfile) map_seeds "$folder" ;;
+    sidefiles) side_seeds "$folder" ;;
     textures) texture_seeds "$folder" ;;
   esac
 }

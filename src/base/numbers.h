@@ -12,8 +12,8 @@ namespace velk {
 // none.
 std::optional<int> TakeWhole(std::string_view& text);
 
-// Whether the whole text is a plain decimal number (digits, a minus sign, a fraction) that can be read without
-// rounding twice; the value is then the nearest double. For long files of short numbers.
+// Whether the whole text is a plain decimal number (digits, a minus sign, a fraction) that can be read
+// without rounding twice; the value is then the nearest double. For long files of short numbers.
 bool PlainNumber(std::string_view text, double& value);
 
 }  // namespace velk

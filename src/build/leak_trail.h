@@ -31,7 +31,9 @@ class LeakTrail {
 
   bool shown() const { return shown_; }
   // Empty when they are not shown.
-  std::span<const vec3> points() const { return shown_ ? std::span<const vec3>(points_) : std::span<const vec3>(); }
+  std::span<const vec3> points() const {
+    return shown_ ? std::span<const vec3>(points_) : std::span<const vec3>();
+  }
   const std::string& file() const { return file_; }
 
   // The point a camera that flies along the trail is at; -1 before its first step. A step goes round at the

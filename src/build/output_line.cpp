@@ -1,5 +1,6 @@
 #include "build/output_line.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -66,12 +67,12 @@ std::optional<vec3> PointIn(std::string_view lower) {
 // Words first that mean more. "0 errors" says that there are none.
 Kind KindOf(std::string_view lower) {
   constexpr std::array<std::pair<const char*, Kind>, 7> kWords{{{"leak", Kind::Leak},
-                                                               {"leaked", Kind::Leak},
-                                                               {"error", Kind::Error},
-                                                               {"errors", Kind::Error},
-                                                               {"not found", Kind::Error},
-                                                               {"warning", Kind::Warning},
-                                                               {"warnings", Kind::Warning}}};
+                                                                {"leaked", Kind::Leak},
+                                                                {"error", Kind::Error},
+                                                                {"errors", Kind::Error},
+                                                                {"warning", Kind::Warning},
+                                                                {"warnings", Kind::Warning},
+                                                                {"not found", Kind::Error}}};
   for (const auto& [word, kind] : kWords) {
     const auto rest = After(lower, word);
     if (!rest) continue;
@@ -82,6 +83,43 @@ Kind KindOf(std::string_view lower) {
   }
   return Kind::Plain;
 }
+
+// Where in a map's text the lines passed so far end.
+class MapLines {
+ public:
+  // Quoted braces are text; comments end with their line.
+  void pass(std::string_view line) {
+    bool quoted = false;
+    for (size_t i = 0; i < line.size(); ++i) {
+      if (line[i] == '"') quoted = !quoted;
+      if (quoted) continue;
+      if (line.substr(i, 2) == "//") return;
+      if (line[i] == '{') open();
+      if (line[i] == '}' && depth_ > 0) --depth_;
+    }
+  }
+  MapPlace place(int line) const {
+    MapPlace place;
+    place.line = line;
+    place.entity = depth_ > 0 ? entity_ : -1;
+    place.brush = depth_ > 1 ? brush_ : -1;
+    return place;
+  }
+
+ private:
+  void open() {
+    if (++depth_ == 1) {
+      ++entity_;
+      brush_ = -1;
+    } else if (depth_ == 2) {
+      ++brush_;
+    }
+  }
+
+  int depth_ = 0;
+  int entity_ = -1;
+  int brush_ = -1;
+};
 
 }  // namespace
 
@@ -97,36 +135,15 @@ OutputLine ReadOutputLine(std::string_view text) {
   return line;
 }
 
-// Over the bytes: quoted braces are text, comments end with their line.
 MapPlace PlaceOfLine(std::string_view mapText, int line) {
-  MapPlace place;
-  int depth = 0, at = 1, entity = -1, brush = -1;
-  bool quoted = false;
-  for (size_t i = 0; i <= mapText.size(); ++i) {
-    const char c = i < mapText.size() ? mapText[i] : '\n';
-    if (c == '\n') {
-      if (at == line) {
-        place.line = line;
-        place.entity = depth > 0 ? entity : -1;
-        place.brush = depth > 1 ? brush : -1;
-        return place;
-      }
-      ++at;
-      quoted = false;
-    } else if (c == '"') {
-      quoted = !quoted;
-    } else if (quoted) {
-      continue;
-    } else if (c == '/' && mapText.substr(i, 2) == "//") {
-      i = std::min(mapText.find('\n', i), mapText.size()) - 1;
-    } else if (c == '{') {
-      if (++depth == 1) ++entity, brush = -1;
-      if (depth == 2) ++brush;
-    } else if (c == '}' && depth > 0) {
-      --depth;
-    }
+  MapLines lines;
+  for (int at = 1; !mapText.empty(); ++at) {
+    const std::string_view text = mapText.substr(0, mapText.find('\n'));
+    mapText.remove_prefix(std::min(text.size() + 1, mapText.size()));
+    lines.pass(text);
+    if (at == line) return lines.place(line);
   }
-  return place;
+  return {};
 }
 
 }  // namespace velk

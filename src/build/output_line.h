@@ -16,7 +16,6 @@ struct MapPlace {
   int brush = -1;   // of that entity; -1 for none
   std::optional<vec3> point;
   bool any() const { return line > 0 || entity >= 0 || point.has_value(); }
-  friend bool operator==(const MapPlace&, const MapPlace&) = default;
 };
 
 struct OutputLine {
@@ -26,8 +25,8 @@ struct OutputLine {
   MapPlace place{};
 };
 
-// Reads one line, without its end: marked by the words "error", "warning" and "leak", and linked by "line 12",
-// "entity 3", "brush 4" and a point such as "(16 -32 8)" or "at 16 -32 8".
+// Reads one line, without its end: marked by the words "error", "warning" and "leak", and linked by "line
+// 12", "entity 3", "brush 4" and a point such as "(16 -32 8)" or "at 16 -32 8".
 OutputLine ReadOutputLine(std::string_view text);
 
 // Entity and brush of a line of a map's text, counted as the text lists them; neither when it is outside.

@@ -10,8 +10,8 @@ namespace {
 
 constexpr Colour kLine{255, 0, 0};
 constexpr Colour kStart{0, 200, 0};
-constexpr int kMark = 9;    // pixels a side
-constexpr double kNear = 1; // view depth
+constexpr int kMark = 9;     // pixels a side
+constexpr double kNear = 1;  // view depth
 
 // Where a view direction falls on the window: x = centreX + X / Z * perX.
 struct Lens {
@@ -89,7 +89,7 @@ class LinePlotter {
  private:
   double x(const vec3& p) const { return lens_.centreX + p.x * lens_.perX / p.z; }
   double y(const vec3& p) const { return lens_.centreY - p.y * lens_.perY / p.z; }
-  static Pixel PixelOf(double x, double y) { return {Truncate(x), Truncate(y)}; }
+  static Pixel PixelOf(double x, double y) { return {Truncate(OnGrid(x)), Truncate(OnGrid(y))}; }
 
   Canvas& canvas_;
   RenderSize window_;

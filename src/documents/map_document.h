@@ -25,7 +25,7 @@ struct MapDocument {
   FileStamp seenOnDisk;      // the last state of the file that the user knows of
   bool fileDiffers = false;  // the file is gone or holds something else
   int invalidAccepted = 0;   // so many brushes may be left out of the file without a question
-  LeakWatch leakFiles;  // those beside the map's file
+  LeakWatch leakFiles;       // those beside the map's file
   std::filesystem::path rescueFile;  // the copy that stands in for unsaved changes; empty without one
 
   // Whether the map was changed: by its modified flag, or with ask_when_changed by what it holds.

@@ -22,8 +22,8 @@ struct BrushReadOptions {
 };
 
 // The valid brushes of a file, selected and owned by the world of `m`, which they are not in yet. Fatal:
-// "ReadBrushFile:  Couldn't read [%s]...", "parsing brush file, ( expected", "parsing brush file, ) expected",
-// what the tokenizer finds wrong, a brush of more than MAX_FACES faces.
+// "ReadBrushFile:  Couldn't read [%s]...", "parsing brush file, ( expected", "parsing brush file, )
+// expected", what the tokenizer finds wrong, a brush of more than MAX_FACES faces.
 std::vector<std::unique_ptr<brush>> ReadBrushFile(map& m, const Paths& paths, const std::string& name,
                                                   const BrushReadOptions& options);
 std::vector<std::unique_ptr<brush>> ReadBrushText(map& m, std::string_view text, const std::string& name,

@@ -274,9 +274,7 @@ void ScriptRunner::print(const Words& words) {
   out_.flush();
 }
 
-void ScriptRunner::checkDisk(const Words&) {
-  editor_.checkDisk();
-}
+void ScriptRunner::checkDisk(const Words&) { editor_.checkDisk(); }
 
 void ScriptRunner::startPrograms(const Words& words) {
   const bool on = EqualNoCase(words[0].text, "on");

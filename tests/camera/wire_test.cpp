@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "camera/compass.h"
+#include "camera/leak_line.h"
 #include "scene_builder.h"
 #include "support/recording_canvas.h"
 
@@ -35,6 +36,21 @@ TEST_F(WireTest, DrawsEveryFaceFromBothSidesAndShowsTheSelection) {
   EXPECT_EQ(faces[0], "polygon #040506 1 30 10 70 50");  // front
   EXPECT_EQ(faces[2], "polygon #040506 1 40 25 60 45");  // back
   EXPECT_TRUE(canvas.strokes[0].starts_with("fill #010203"));
+}
+
+TEST_F(WireTest, TheLeakLineIsCutAndMarked) {
+  const vec3 points[] = {{100, 0, 0}, {100, -20, 0}, {-100, -20, 0}};
+  DrawLeakLine(canvas, kWindow, {}, m, settings, kLens, points);
+  EXPECT_EQ(canvas.starting("line"),
+            (std::vector<std::string>{"line #ff0000 2 50 40 - 70 40", "line #ff0000 2 70 40 - 100 40"}));
+  // The end is behind the eye.
+  EXPECT_EQ(canvas.starting("fill"),
+            (std::vector<std::string>{"fill #ff0000 46 36 9 9", "fill #00c800 47 37 7 7"}));
+  // In the other modes, over a picture of twice the size.
+  canvas = {};
+  settings.drawmode = 1;
+  DrawLeakLine(canvas, kWindow, {202, 162}, m, settings, kLens, points);
+  EXPECT_EQ(canvas.starting("fill")[1], "fill #00c800 47 24 7 7");
 }
 
 TEST_F(WireTest, CutsInDepthAndAtTheWindow) {

@@ -39,7 +39,7 @@ Outcome OutcomeOf(const std::string& line, Read&& read) {
 
 // What the line reads as, token by token; the fast way gives the same or declines.
 Outcome ReadBothWays(const std::string& line, bool* fast = nullptr) {
-  Outcome expected = OutcomeOf(line, ReadFaceTokens);
+  Outcome expected = OutcomeOf(line, [](Tokenizer& tokens, face& f) { return ReadFaceTokens(tokens, f); });
   const Outcome straight = OutcomeOf(line, ReadFaceLine);
   if (fast != nullptr) *fast = straight.cut >= 0;
   if (straight.cut < 0) return expected;

@@ -159,6 +159,14 @@ TEST_F(Drawing, GridLabelsStandAtEvenSteps) {
   }
 }
 
+TEST_F(Drawing, LeakPathsHaveAStartAndAnEnd) {
+  const vec3 leak[] = {{0, 0, 0}, {5000, 0, 0}, {50, 0, 0}};
+  scene.leakPoints = leak;
+  EXPECT_EQ(draw().starting("polygon #ff0000 1 100 100").size(), 1u);
+  EXPECT_EQ(draw().starting("fill #00c800"), Strokes{"fill #00c800 96 96 9 9"});
+  EXPECT_EQ(draw().starting("fill #ff0000"), Strokes{"fill #ff0000 146 96 9 9"});
+}
+
 TEST(ClipPolygon, CutsAtEveryBorderWithoutOverflow) {
   const ClipRect rect{0, 0, 100, 100};
   Pixel corners[kMaxClipped] = {{INT_MIN, 50}, {50, INT_MIN}, {INT_MAX, 50}, {50, INT_MAX}};

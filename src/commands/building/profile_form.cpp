@@ -22,8 +22,8 @@ Form FormOf(const BuildProfile& profile, const BuildProfiles& profiles) {
   for (const BuildProfile& own : profiles.own) name.choices.push_back(own.name);
   form.fields = {name, TextField("before", "Before", profile.before)};
   for (size_t i = 0; i < BuildProfile::kMostSteps; ++i) {
-    form.fields.push_back(TextField(StepName(i), Format("Step %zu", i + 1),
-                                    i < profile.steps.size() ? profile.steps[i] : ""));
+    form.fields.push_back(
+        TextField(StepName(i), Format("Step %zu", i + 1), i < profile.steps.size() ? profile.steps[i] : ""));
   }
   form.fields.push_back(TextField("after", "After", profile.after));
   form.fields.push_back(TextField("play", "Play with", profiles.play));

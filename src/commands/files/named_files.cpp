@@ -20,9 +20,8 @@ std::string EndingOf(const std::string& file) {
 void Add(Editor& editor, const Change& change, const std::string& file,
          Outcome (*add)(Editor&, map&, const std::string&)) {
   if (editor.documents().count() == 0) {
-    editor.door().perform({.name = "New"}, [&] {
-      return OpenNewMap(editor.services(), editor.documents(), editor.door());
-    });
+    editor.door().perform({.name = "New"},
+                          [&] { return OpenNewMap(editor.services(), editor.documents(), editor.door()); });
   }
   map* m = editor.documents().currentMap();
   if (m) editor.door().perform(change, [&] { return add(editor, *m, file); });

@@ -31,9 +31,7 @@ TBuildWindow::TBuildWindow(Editor& editor, QWidget* parent)
   delay_.setInterval(kDelay);
   connect(&delay_, &QTimer::timeout, this, &TBuildWindow::refresh);
   connect(&seconds_, &QTimer::timeout, this, &TBuildWindow::tick);
-  editor_.panels().build.changed = [this] {
-    if (!delay_.isActive()) delay_.start();
-  };
+  connectContents();
   fillProfiles();
   refresh();
 }
@@ -48,13 +46,8 @@ QPushButton* TBuildWindow::addButton(QWidget* row, const QString& label, const c
   return button;
 }
 
-QWidget* TBuildWindow::buildContents() {
-  auto* contents = new QWidget(this);
-  auto* column = new QVBoxLayout(contents);
-  column->setContentsMargins(kGap, kGap, kGap, kGap);
-  column->setSpacing(kGap);
-
-  auto* row = new QWidget(contents);
+QWidget* TBuildWindow::buildButtons() {
+  auto* row = new QWidget;
   auto* line = new QHBoxLayout(row);
   line->setContentsMargins(0, 0, 0, 0);
   profiles_ = new QComboBox(row);
@@ -68,16 +61,21 @@ QWidget* TBuildWindow::buildContents() {
   mend_ = new QPushButton("Mend", row);
   mend_->setFocusPolicy(Qt::NoFocus);
   mend_->setToolTip("Mend what the line found, where there is one sure way");
-  connect(mend_, &QPushButton::clicked, this,
-          [this] { editor_.panels().build.mend(list_->currentIndex().row()); });
   line->addWidget(mend_);
   headline_ = new QLabel(row);
   headline_->setTextFormat(Qt::PlainText);
   headline_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   headline_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   line->addWidget(headline_, 1);
-  column->addWidget(row);
+  return row;
+}
 
+QWidget* TBuildWindow::buildContents() {
+  auto* contents = new QWidget(this);
+  auto* column = new QVBoxLayout(contents);
+  column->setContentsMargins(kGap, kGap, kGap, kGap);
+  column->setSpacing(kGap);
+  column->addWidget(buildButtons());
   pages_ = new QTabBar(contents);
   pages_->setExpanding(false);
   pages_->addTab("Output");
@@ -92,29 +90,36 @@ QWidget* TBuildWindow::buildContents() {
   list_->setContextMenuPolicy(Qt::CustomContextMenu);
   list_->setMinimumHeight(60);
   column->addWidget(list_, 1);
+  return contents;
+}
 
-  connect(pages_, &QTabBar::currentChanged, this, [this](int page) {
-    if (!filling_) editor_.panels().build.showPage(static_cast<BuildPanel::Page>(page));
+void TBuildWindow::connectContents() {
+  BuildPanel& panel = editor_.panels().build;
+  connect(mend_, &QPushButton::clicked, this, [this, &panel] { panel.mend(list_->currentIndex().row()); });
+  connect(pages_, &QTabBar::currentChanged, this, [this, &panel](int page) {
+    if (!filling_) panel.showPage(static_cast<BuildPanel::Page>(page));
   });
-  connect(profiles_, &QComboBox::activated, this, [this](int number) {
-    editor_.door().show(ChooseProfile(editor_, number));
-  });
-  connect(list_, &QListView::clicked, this,
-          [this](const QModelIndex& index) { editor_.panels().build.pick(index.row()); });
+  connect(profiles_, &QComboBox::activated, this,
+          [this](int number) { editor_.door().show(ChooseProfile(editor_, number)); });
+  connect(list_, &QListView::clicked, this, [&panel](const QModelIndex& index) { panel.pick(index.row()); });
   connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { refresh(); });
   connect(list_, &QListView::customContextMenuRequested, this, &TBuildWindow::showMenu);
-  return contents;
+  panel.changed = [this] {
+    if (!delay_.isActive()) delay_.start();
+  };
 }
 
 void TBuildWindow::showMenu(const QPoint& at) {
   QMenu menu;
-  menu.addAction("Copy Lines", this, [this] {
-    QStringList texts;
-    QModelIndexList rows = list_->selectionModel()->selectedRows();
-    std::ranges::sort(rows, {}, &QModelIndex::row);
-    for (const QModelIndex& row : rows) texts << row.data().toString();
-    QGuiApplication::clipboard()->setText(texts.join('\n'));
-  })->setEnabled(list_->selectionModel()->hasSelection());
+  menu.addAction("Copy Lines", this,
+                 [this] {
+                   QStringList texts;
+                   QModelIndexList rows = list_->selectionModel()->selectedRows();
+                   std::ranges::sort(rows, {}, &QModelIndex::row);
+                   for (const QModelIndex& row : rows) texts << row.data().toString();
+                   QGuiApplication::clipboard()->setText(texts.join('\n'));
+                 })
+      ->setEnabled(list_->selectionModel()->hasSelection());
   for (const MenuItem& item : editor_.panels().build.contextMenu()) {
     menu.addAction(ShownText(item.label), this, item.run)->setEnabled(item.enabled);
   }
@@ -157,6 +162,7 @@ void TBuildWindow::refresh() {
   filling_ = false;
   lines_->refresh(panel.page() == BuildPanel::Page::Output ? job.dropped() : 0);
   if (atEnd && panel.page() == BuildPanel::Page::Output) list_->scrollToBottom();
+  if (!job.running()) fillProfiles();
   headline_->setText(ShownText(panel.headline()));
   start_->setEnabled(!job.running() && IsEnabled(editor_, *FindCommand("CM_BUILD_START")));
   play_->setEnabled(IsEnabled(editor_, *FindCommand("CM_PLAY")));

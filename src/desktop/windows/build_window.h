@@ -28,6 +28,8 @@ class TBuildWindow : public QDockWidget {
 
  private:
   QWidget* buildContents();
+  QWidget* buildButtons();
+  void connectContents();
   QPushButton* addButton(QWidget* row, const QString& label, const char* command);
   void showMenu(const QPoint& at);
   void fillProfiles();

@@ -87,10 +87,12 @@ void BuildPanel::buildEnded() {
   const Services& services = context_.services;
   const auto file = leakWatch_.changed(services.paths, tools_.builtMap());
   std::vector<vec3> points = file ? ReadLeakFile(services.paths, *file) : std::vector<vec3>();
-  Outcome outcome = Outcome::Said(Format("Build %s: %s...", job.name().c_str(), job.lines().back().text.c_str()));
+  Outcome outcome =
+      Outcome::Said(Format("Build %s: %s...", job.name().c_str(), job.lines().back().text.c_str()));
   if (!points.empty()) {
     showLeaks(std::move(points), *file);
-    outcome = Outcome::Drawn(Redraw::All, Format("The map leaks. Leak file [%s] processed...", file->c_str()));
+    outcome =
+        Outcome::Drawn(Redraw::All, Format("The map leaks. Leak file [%s] processed...", file->c_str()));
   }
   context_.door.show(outcome);
   changed();
@@ -142,8 +144,8 @@ Outcome BuildPanel::select(map& m, entity& e, brush* one) {
   }
   m.setCurrentEntity(&e);
   centreOn(at);
-  return Outcome::Drawn(Redraw::All, Format("Entity %i (%s) selected...", m.indexOf(&e),
-                                            e.valueOfKey("classname").c_str()));
+  return Outcome::Drawn(
+      Redraw::All, Format("Entity %i (%s) selected...", m.indexOf(&e), e.valueOfKey("classname").c_str()));
 }
 
 Outcome BuildPanel::goTo(map& m, const MapPlace& place) {

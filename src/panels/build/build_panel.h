@@ -49,7 +49,7 @@ class BuildPanel : public Panel {
   std::function<void(const vec3&)> centreOn = [](const vec3&) {};
   // Leak points to be shown, and the file they are from.
   std::function<void(std::vector<vec3>, const std::string&)> showLeaks = [](std::vector<vec3>,
-                                                                          const std::string&) {};
+                                                                            const std::string&) {};
   // What it shows is out of date.
   std::function<void()> changed = [] {};
 

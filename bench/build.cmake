@@ -1,0 +1,1 @@
+velk_bench(build SOURCES build_bench.cpp USES mapfile)

@@ -1,0 +1,1 @@
+velk_fuzz(sidefiles SOURCES sidefiles.cpp USES build)
