@@ -9,10 +9,10 @@ namespace velk {
 namespace {
 
 constexpr double kSmallest = 1e-9;
-constexpr double kShear = 0.02;         // of an axis's length, that counts as none
+constexpr double kShear = 0.02;        // of an axis's length, that counts as none
 constexpr double kPartOfDegree = 0.4;  // that counts as none
-constexpr double kNearlyEqual = 1e-4;   // of scales
-constexpr double kNearlyWhole = 1e-3;   // of shifts, texels
+constexpr double kNearlyEqual = 1e-4;  // of scales
+constexpr double kNearlyWhole = 1e-3;  // of shifts, texels
 
 // On the two axes of a face: value = across * a + down * b + offset.
 struct Slope {

@@ -63,7 +63,8 @@ Outcome CopyToClipboard(Editor& editor, map& m) {
 
 Outcome Paste(Editor& editor, map& m) {
   if (!editor.documents().clipboard()) return {};
-  PasteClipboard(m, *editor.documents().clipboard(), editor.panels().groups.current(), PasteOffset(editor.settings()));
+  PasteClipboard(m, *editor.documents().clipboard(), editor.panels().groups.current(),
+                 PasteOffset(editor.settings()));
   return Outcome::Drawn(Redraw::All, "Selection pasted...");
 }
 

@@ -2,9 +2,9 @@
 #include "commands/command_tables.h"
 #include "commands/editing/transform_commands.h"
 #include "commands/making/maker_commands.h"
+#include "commands/objects/entity_commands.h"
 #include "ops/reshape.h"
 #include "ops/transform.h"
-#include "commands/objects/entity_commands.h"
 
 namespace velk {
 namespace {
