@@ -111,7 +111,7 @@ const Command kRows[] = {
      .label = "Subtract", .keyText = "F12",
      .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,
      .run = Subtract},
-    {.id = 1331, .name = "CM_HOLLOW", .menu = "&Edit", .label = "&Hollow",
+    {.id = 1331, .name = "CM_HOLLOW", .menu = "&Edit", .label = "&Hollow...",
      .hint = "Make shells of the selected brushes, walls inwards", .enabled = MapOpen, .run = Hollow},
     {.id = 1332, .name = "CM_MERGE_BRUSHES", .menu = "&Edit", .label = "Mer&ge",
      .hint = "Make one brush of selected brushes that are convex together", .enabled = MapOpen, .run = Merge},
