@@ -232,7 +232,8 @@ void TVelkWindow::changed(const Changes& what) {
 
 // The entities that are edited together are those selected.
 void TVelkWindow::toolWindowsChanged(const Changes& what) {
-  if (brush_ && (what.selectedBrush || what.maps)) brush_->refresh();
+  // Its picture holds textures: it must not outlive theirs.
+  if (brush_ && (what.selectedBrush || what.maps || what.textures)) brush_->refresh();
   if (entities_ && what.maps) entities_->reloadClasses();
   if (entities_ && (what.entity || what.selectedBrush)) entities_->refresh();
   if (!groups_) return;
