@@ -258,7 +258,8 @@ void TVelkWindow::changed(const Changes& what) {
 
 // The entities that are edited together are those selected.
 void TVelkWindow::toolWindowsChanged(const Changes& what) {
-  if (brush_ && (what.selectedBrush || what.maps)) brush_->refresh();
+  // Its picture holds textures: it must not outlive theirs.
+  if (brush_ && (what.selectedBrush || what.maps || what.textures)) brush_->refresh();
   if (textures_ && what.textures) textures_->refresh();
   if (textures_ && what.entity) textures_->contentsChanged();
   if (entities_ && what.maps) entities_->reloadClasses();
