@@ -31,7 +31,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
 }
 
 void Editor::start() {
-  settings_ = LoadSettings(IniFile::Load(place_.home / "velk.ini"));
+  loadSettings();
   ResolvePaths(settings_, place_.home);
   checkBadtex();
   classes_.setSorted(settings_.sort_entities);
@@ -39,6 +39,16 @@ void Editor::start() {
   startTextures();
   windows_.load();
   documents_.post("Welcome to Velk...");
+}
+
+void Editor::loadSettings() {
+  const std::filesystem::path file = place_.home / "velk.ini";
+  const IniFile ini = IniFile::Load(file);
+  settings_ = LoadSettings(ini);
+  if (ini.unreadable().empty()) return;
+  services_.tell("Velk - Settings",
+                 file.string() + " could not be read: " + ini.unreadable() +
+                     ".\nVelk goes on with its built-in settings and leaves the file as it is.");
 }
 
 void Editor::checkBadtex() {

@@ -58,6 +58,7 @@ class Editor {
   const WindowPlaces& windows() const { return windows_; }
 
  private:
+  void loadSettings();
   void checkBadtex();
   void startTextures();
 

@@ -53,7 +53,12 @@ std::string WithValue(std::string_view line, std::string_view value) {
 
 }  // namespace
 
-IniFile IniFile::Load(const std::filesystem::path& file) { return Parse(ReadFile(file).contents); }
+IniFile IniFile::Load(const std::filesystem::path& file) {
+  const ReadResult read = ReadFile(file);
+  IniFile ini = Parse(read.contents);
+  if (!read.ok && StampOf(file).exists) ini.unreadable_ = read.reason;
+  return ini;
+}
 
 IniFile IniFile::Parse(std::string_view text) {
   IniFile ini;
@@ -127,6 +132,9 @@ std::string IniFile::text() const {
   return text;
 }
 
-WriteResult IniFile::save(const std::filesystem::path& file) const { return ReplaceFile(file, text()); }
+WriteResult IniFile::save(const std::filesystem::path& file) const {
+  if (!unreadable_.empty()) return {false, false, "it could not be read: " + unreadable_};
+  return ReplaceFile(file, text());
+}
 
 }  // namespace velk

@@ -14,7 +14,8 @@ namespace velk {
 
 class IniFile {
  public:
-  // An unreadable or missing file is an empty one.
+  // A missing file is an empty one. So is one that is there and cannot be read, which save() then refuses to
+  // replace by what little is known of it.
   static IniFile Load(const std::filesystem::path& file);
   static IniFile Parse(std::string_view text);
 
@@ -31,6 +32,9 @@ class IniFile {
   // the end of the file. A value ends at its first line break.
   void set(std::string_view section, std::string_view key, std::string_view value);
 
+  // Why the file could not be read; empty when it could, or was missing.
+  const std::string& unreadable() const { return unreadable_; }
+
   std::string text() const;
   WriteResult save(const std::filesystem::path& file) const;
 
@@ -41,7 +45,8 @@ class IniFile {
   void insertLine(size_t index, std::string line);
 
   std::vector<std::string> lines_;  // with their line ends
-  bool crLf_ = false;               // of lines that are added
+  std::string unreadable_;
+  bool crLf_ = false;  // of lines that are added
 };
 
 }  // namespace velk

@@ -76,7 +76,11 @@ TEST(IniFileTest, ValuesReadBackAsTheyWereSet) {
 TEST(IniFileTest, MissingAndUnreadableFilesAreEmpty) {
   const test::TempFolder folder;
   EXPECT_EQ(IniFile::Load(folder.path() / "velk.ini").text(), "");
-  EXPECT_EQ(IniFile::Load(folder.path()).text(), "");
+  EXPECT_EQ(IniFile::Load(folder.path() / "velk.ini").unreadable(), "");
+  const IniFile unreadable = IniFile::Load(folder.path());
+  EXPECT_EQ(unreadable.text(), "");
+  EXPECT_NE(unreadable.unreadable(), "");
+  EXPECT_FALSE(unreadable.save(folder.path() / "other.ini").ok);
   EXPECT_TRUE(IniFile::Parse(kText).save(folder.path() / "velk.ini").ok);
   EXPECT_EQ(IniFile::Load(folder.path() / "velk.ini").text(), kText);
 }

@@ -91,6 +91,8 @@ TEST(SettingsTest, EveryKeyIsItsOwn) {
     SetSettingText(settings, key.name, before);
     settings.granularity = Settings().granularity;
     for (const SettingKey& other : SettingKeys()) {
+      // An empty text keeps what there is.
+      if (&other == &key && before.empty()) continue;
       EXPECT_EQ(SettingText(settings, other.name), SettingText(Settings(), other.name))
           << key.name << ", " << other.name;
     }
