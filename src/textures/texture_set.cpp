@@ -141,7 +141,7 @@ void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
   for (const std::string& name : m.favourites) {
     if (name.empty() || std::ssize(favourites) >= slots) continue;
     const Texture* texture = set.findTexture(name);
-    favourites.push_back(texture ? texture->name : name);
+    if (texture || m.settings().careful_tools) favourites.push_back(texture ? texture->name : name);
   }
   if (m.favourites.empty()) {
     for (int i = 0; i < std::min(slots, set.count()); ++i) favourites.push_back(set.at(i).texture->name);

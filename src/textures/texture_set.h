@@ -75,10 +75,10 @@ class TextureSet {
   bool built_ = false;
 };
 
-// Builds the map's set and settles its favourites: the ones it names, of which those that no wad has now keep
-// their places for the day when it does; or, when it has no slots yet, the first textures. Afterwards it has
-// numfav slots, the free ones empty. Face caches are dropped. No memory is fatal "Couldn't allocate
-// favorites...".
+// Builds the map's set and settles its favourites: the ones it names, of which those that are in the set
+// count, with careful_tools also the others, until their wad is there again; or, when it has no slots yet,
+// the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are dropped. No memory
+// is fatal "Couldn't allocate favorites...".
 void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
 
 // Favourites are kept in the map, by name. The place in the set of the one in a slot, -1 for a free slot.

@@ -212,6 +212,7 @@ TEST_F(TextureBrowser, ControlsAndNamesWithCarefulTools) {
 }
 
 TEST_F(TextureBrowser, ReloadedWadsKeepFavouritesAndSpareWhatIsDamaged) {
+  session.editor.settings().careful_tools = true;
   session.current().favourites = {"gone", "wall1"};
   session.home.write("test.wad", test::WadBuilder()
                                      .palette()

@@ -107,10 +107,14 @@ TEST_F(TextureSetTest, FavouritesAreTheMapsOrTheFirstOfTheSet) {
   EXPECT_EQ(m.favourites, (Names{"A", "B"}));
   m.favourites = {"none", "+1c", "d", "a"};
   open("a.wad");
-  EXPECT_EQ(m.favourites, (Names{"none", "+0C"}));  // a missing one keeps its place
+  EXPECT_EQ(m.favourites, (Names{"+0C", "D"}));
+  EXPECT_EQ(FavouriteAt(m, set, 1), set.find("d"));
+  settings.careful_tools = true;
+  m.favourites = {"none", "d"};
+  open("a.wad");
+  EXPECT_EQ(m.favourites, (Names{"none", "D"}));
   EXPECT_EQ(FavouriteAt(m, set, 0), -1);
-  EXPECT_EQ(FavouriteAt(m, set, 1), set.find("+0c"));
-  m.favourites = {"", "d"};
+  settings.careful_tools = false;
   open("a.wad");
   EXPECT_EQ(m.favourites, (Names{"D", ""}));
   EXPECT_EQ(FavouriteAt(m, set, 2), -1);

@@ -161,33 +161,31 @@ bool TexturePanel::advance(SetTexture& texture) {
 }
 
 // Only what the grid shows moves; careful tools keep what the map's faces show moving, too.
+std::vector<int> TexturePanel::movingPlaces() {
+  const TextureLayout& at = layout();
+  const int first = std::min(scroll_ / at.cellHeight * at.columns, at.count);
+  const int last = std::min(first + (at.visibleRows + 1) * at.columns, at.count);
+  std::vector<int> places(shown_.begin() + first, shown_.begin() + last);
+  const TextureSet& all = set();
+  for (int i = 0; i < all.count() && settings().careful_tools; ++i) {
+    if (all.at(i).referenced && std::ranges::find(places, i) == places.end()) places.push_back(i);
+  }
+  std::erase_if(places, [&](int place) { return !all.at(place).animated() && !all.at(place).isSky(); });
+  return places;
+}
+
 bool TexturePanel::tick() {
   if (!currentMap() || minimised()) return false;
-  const TextureLayout& at = layout();
-  const int first = scroll_ / at.cellHeight * at.columns;
-  const int last = std::min(first + (at.visibleRows + 1) * at.columns, at.count);
-  TextureSet& moving = set();
-  std::vector<int> places(shown_.begin() + std::min(first, last), shown_.begin() + last);
-  if (settings().careful_tools) {
-    for (int i = 0; i < moving.count(); ++i) {
-      if (moving.at(i).referenced && std::ranges::find(places, i) == places.end()) places.push_back(i);
-    }
-  }
-  bool changed = false;
+  const std::vector<int> places = movingPlaces();
   bool inCamera = false;
-  for (const int place : places) {
-    SetTexture& texture = moving.at(place);
-    if (!texture.animated() && !texture.isSky()) continue;
-    changed = true;
-    inCamera |= advance(texture);
-  }
+  for (const int place : places) inCamera |= advance(set().at(place));
   constexpr int kTextured = 2;
   if (inCamera && settings().drawmode == kTextured) {
     Changes changes;
     changes.camera = true;
     context_.services.observer.changed(changes);
   }
-  return changed;
+  return !places.empty();
 }
 
 }  // namespace velk

@@ -103,6 +103,7 @@ class TexturePanel : public Panel {
   std::string labelOf(const TexturePlace& place);
   void magnify(Pixel at);
   void dropOn(const TexturePlace& place, const DragState& drag);
+  std::vector<int> movingPlaces();
   bool advance(SetTexture& texture);
   std::string rowLine(const char* title, TexturePlace::Kind kind, int cells);
 
