@@ -9,8 +9,8 @@ std::span<const Command> Commands() {
   static const std::vector<Command> kAll = [] {
     std::vector<Command> rows;
     for (const auto piece :
-         {FileCommands(), EditCommands(), SelectCommands(), MakeCommands(), TextureCommands(), ExportCommands(), MapCommands(),
-          DisplayCommands(), WindowCommands(), KeyCommands()}) {
+         {FileCommands(), EditCommands(), SelectCommands(), MakeCommands(), TextureCommands(),
+          ExportCommands(), MapCommands(), DisplayCommands(), WindowCommands(), KeyCommands()}) {
       rows.insert(rows.end(), piece.begin(), piece.end());
     }
     return rows;
