@@ -35,15 +35,7 @@ small_wad() {
 }
 
 # Groups of keys as the settings file may have them.
-settings_# Behind the byte that chooses the reader: brushes, leak points, a profile, a compiler's output.
-side_seeds() {
-  { printf '0' && printf '{\n( 0 64 0 ) ( 0 0 64 ) ( 0 0 0 ) wall 0 0 0 1 1\n}\n'; } >"$1/a.bru"
-  printf '10 0 32\n64 0 -32.5\n' >"$1/a.pts"
-  printf '22\n0 0\n16 64\n' >"$1/a.rev"
-  printf '3ERROR: line 12\r\nentity 3 brush 4 at (1 2 3)\nLEAK\n' >"$1/a.log"
-}
-
-seeds() {
+settings_seeds() {
   sed -nE 's/^ *\{"([A-Za-z_>-]+)",.*/\1=7 8 9/p' "$root/src/settings/key_table.cpp" | split -l 8 - "$1/keys."
   local file
   for file in "$1"/keys.*; do sed -i '1i [Velk]' "$file"; done
@@ -59,6 +51,14 @@ texture_seeds() {
   local texture
   for texture in wall water sky1 +0button; do small_wad "$texture" >"$1/$texture.wad"; done
   seq -f '0 0x%g 07' 256 >"$1/quake.pal"
+}
+
+# Behind the byte that chooses the reader: brushes, leak points, a profile, a compiler's output.
+side_seeds() {
+  { printf '0' && printf '{\n( 0 64 0 ) ( 0 0 64 ) ( 0 0 0 ) wall 0 0 0 1 1\n}\n'; } >"$1/a.bru"
+  printf '10 0 32\n64 0 -32.5\n' >"$1/a.pts"
+  printf '22\n0 0\n16 64\n' >"$1/a.rev"
+  printf '3ERROR: line 12\r\nentity 3 brush 4 at (1 2 3)\nLEAK\n' >"$1/a.log"
 }
 
 seeds() {

@@ -46,7 +46,8 @@ struct CommandLine {
     parser.addOption(picture);
     timeStart.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(timeStart);
-    parser.addPositionalArgument("map", "Maps to open.", "[map...]");
+    parser.addPositionalArgument("map", "Maps to open; .mrg, .bru and .pts files go to the map before them.",
+                                 "[map...]");
   }
 
   bool isUnattended() const { return parser.isSet(script) || parser.isSet(picture); }

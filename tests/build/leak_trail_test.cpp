@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "build/leak_watch.h"
-#include "support/temp_folder.h"
-
 namespace velk {
 namespace {
 
@@ -22,21 +19,6 @@ TEST(LeakTrail, ReadsTriplesUpToTheFirstThatFailsAndTheLimit) {
   const auto points = ReadLeakPoints(many);
   ASSERT_EQ(points.size(), 2001u);
   EXPECT_EQ(points.back().x, 2000);
-}
-
-TEST(LeakWatch, TellsOfFilesThatAppearOrChange) {
-  test::TempFolder home;
-  const Paths paths;
-  const std::string map = home.path().string() + "/e1.m1.map";
-  LeakWatch watch;
-  home.write("e1.m1.pts", "old");
-  EXPECT_FALSE(watch.changed(paths, map));
-  EXPECT_FALSE(watch.changed(paths, map));
-  home.write("e1.m1.lin", "1 2 3");
-  EXPECT_EQ(watch.changed(paths, map), home.path().string() + "/e1.m1.lin");
-  EXPECT_FALSE(watch.changed(paths, map));
-  std::filesystem::remove(home.path() / "e1.m1.lin");
-  EXPECT_FALSE(watch.changed(paths, map));
 }
 
 }  // namespace
