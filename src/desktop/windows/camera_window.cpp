@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "app/view_overlay.h"
-#include "camera/wire.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -62,9 +61,7 @@ QImage LastingPicture(Editor& editor, double devicePixelRatio) {
     DrawEmpty(editor, canvas, width, height);
     return image;
   }
-  if (editor.settings().drawmode == kWireMode) {
-    DrawWire(canvas, {width, height}, editor.views().cameraScene());
-  }
+  if (editor.settings().drawmode == kWireMode) editor.views().drawWire(canvas);
   DrawCameraMarks(canvas, editor);
   return image;
 }
