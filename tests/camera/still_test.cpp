@@ -63,6 +63,7 @@ TEST_F(StillTest, MovingBrushesAreDrawnAsInTheWholePicture) {
     for (entity& e : m.entities()) {
       for (brush& b : e.brushes()) b.select(random() % 12 == 0);
     }
+    world().at(round)->select();
     const MapSnapshot before = TakeSnapshot(m);
     brush cut(*m.firstSelected());
     for (int move = 0; move < 6; ++move) {
