@@ -1,6 +1,7 @@
 // What a user feels while dragging: a step of moving brushes with every view drawn anew, and what a resting
 // mouse and a click pay for looking under the cursor. Generated maps of boxes; text is not drawn, since its
 // cost is the font engine's.
+#include <array>
 #include <memory>
 #include <random>
 
@@ -22,7 +23,8 @@ constexpr int kMostInEntity = 4000;
 class SilentCanvas : public RasterCanvas {
  public:
   explicit SilentCanvas(std::vector<std::uint32_t>& pixels)
-      : RasterCanvas(pixels.data(), kPlanSize.width, kPlanSize.height, kPlanSize.width) {}
+      : RasterCanvas((pixels.resize(size_t(kPlanSize.width) * kPlanSize.height), pixels.data()),
+                     kPlanSize.width, kPlanSize.height, kPlanSize.width) {}
   void text(const std::string&, Pixel, int, Colour, const Colour*) override {}
   int textWidth(const std::string& text, int height) const override {
     return static_cast<int>(text.size()) * height / 2;
@@ -76,22 +78,22 @@ struct Desk {
       SilentCanvas canvas(pixels[static_cast<size_t>(view)]);
       editor.views().drawPlan(canvas, view, {});
     }
-    editor.views().renderCamera();
+    if (editor.settings().drawmode != 0) return editor.views().renderCamera();
+    SilentCanvas canvas(pixels[kPlanViews]);
+    editor.views().drawWire(canvas);
   }
 
-  std::vector<std::uint32_t> pixels[kPlanViews] = {
-      std::vector<std::uint32_t>(kPlanSize.width * kPlanSize.height),
-      std::vector<std::uint32_t>(kPlanSize.width* kPlanSize.height),
-      std::vector<std::uint32_t>(kPlanSize.width* kPlanSize.height)};
+  std::array<std::vector<std::uint32_t>, kPlanViews + 1> pixels;  // the last for the wire picture
   test::TempFolder home;
   test::DecliningPrompts prompts;
   Observer observer;
   Editor editor;
 };
 
-// Arguments: brushes, and whether all of them move or one.
+// Arguments: brushes, whether all of them move or one, and the draw mode of the camera view.
 void MoveStep(benchmark::State& state) {
   Desk desk(static_cast<int>(state.range(0)));
+  desk.editor.settings().drawmode = static_cast<int>(state.range(2));
   for (entity& e : desk.m().entities()) {
     for (brush& b : e.brushes()) b.select(state.range(1) != 0);
   }
@@ -119,11 +121,12 @@ void MoveStep(benchmark::State& state) {
 }
 BENCHMARK(MoveStep)
     ->Unit(benchmark::kMillisecond)
-    ->ArgNames({"brushes", "all"})
-    ->Args({4000, 0})
-    ->Args({15000, 0})
-    ->Args({60000, 0})
-    ->Args({4000, 1});
+    ->ArgNames({"brushes", "all", "mode"})
+    ->Args({4000, 0, 2})
+    ->Args({15000, 0, 2})
+    ->Args({60000, 0, 2})
+    ->Args({4000, 1, 2})
+    ->Args({15000, 0, 0});
 
 // What a resting mouse pays to show what a click would take, in a plan view or in the camera's.
 void HoverPick(benchmark::State& state) {

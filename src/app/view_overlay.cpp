@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "camera/camera_marks.h"
+#include "camera/live/camera_marks.h"
 #include "camera/compass.h"
 #include "model/visit.h"
 #include "mouse/operations.h"

@@ -103,6 +103,19 @@ void Views::renderCamera() {
   renderer.renderFrame(scene, renderSize());
 }
 
+void Views::drawWire(RasterCanvas& canvas) {
+  RenderScene scene = cameraScene();
+  const RenderSize size{cameraWidth, cameraHeight};
+  if (!dragRuns()) {
+    wire_ = {};
+    DrawWire(canvas, size, scene);
+    return;
+  }
+  still_.look(*documents_.currentMap());
+  scene.still = &still_;
+  DrawWire(canvas, size, scene, wire_);
+}
+
 FacePick Views::pickInCamera(Pixel at) {
   if (!documents_.currentMap()) return {};
   const RenderSize size = renderSize();

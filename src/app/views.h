@@ -6,6 +6,7 @@
 #include <string>
 
 #include "build/leak_trail.h"
+#include "camera/live/wire_layer.h"
 #include "camera/movement.h"
 #include "camera/renderer.h"
 #include "documents/documents.h"
@@ -58,6 +59,8 @@ class Views {
   RenderSize renderSize() const;
   // Draws the picture of the flat and textured modes. Without a map nothing happens.
   void renderCamera();
+  // Draws the wire picture; a map must be open.
+  void drawWire(RasterCanvas& canvas);
   // The brush and face at a pixel of the camera view; none without a map.
   FacePick pickInCamera(Pixel at);
   // The same in the wire picture: the brush with an edge within so many pixels.
@@ -84,6 +87,7 @@ class Views {
   ClipPreview clip_;
   StillBrushes still_;  // while a drag runs
   std::array<PlanLayer, kPlanViews> layers_;
+  WireLayer wire_;
 };
 
 }  // namespace velk

@@ -4,7 +4,7 @@
 
 #include "camera/pick.h"
 #include "camera/picture.h"
-#include "camera/still_picture.h"
+#include "camera/live/still_picture.h"
 
 namespace velk {
 

@@ -4,11 +4,19 @@
 
 #include <gtest/gtest.h>
 
+#include "camera/live/wire_layer.h"
 #include "model/snapshot.h"
 #include "scene_builder.h"
 
 namespace velk {
 namespace {
+
+class PlainCanvas : public RasterCanvas {
+ public:
+  explicit PlainCanvas(std::vector<std::uint32_t>& pixels) : RasterCanvas(pixels.data(), 97, 61, 97) {}
+  void text(const std::string&, Pixel, int, Colour, const Colour*) override {}
+  int textWidth(const std::string&, int) const override { return 0; }
+};
 
 struct StillTest : testing::Test, test::TestScene {
   StillTest() {
@@ -31,18 +39,31 @@ struct StillTest : testing::Test, test::TestScene {
     boxIn(kind == 0 ? door : world(), low, high, kind == 1 ? "a" : "b");
   }
 
+  static std::vector<std::uint32_t> wirePicture(const RenderScene& scene, WireLayer* layer) {
+    std::vector<std::uint32_t> pixels(97 * 61);
+    PlainCanvas canvas(pixels);
+    if (layer) {
+      DrawWire(canvas, {97, 61}, scene, *layer);
+    } else {
+      DrawWire(canvas, {97, 61}, scene);
+    }
+    return pixels;
+  }
+
   std::mt19937 random{7};
   StillBrushes still;
 };
 
 TEST_F(StillTest, MovingBrushesAreDrawnAsInTheWholePicture) {
   Renderer layered, whole;
+  WireLayer wire;
   for (int round = 0; round < 12; ++round) {
     settings.drawmode = 1 + round % 2;
     settings.solid_entities = settings.window_quality = round % 3 == 0;
     for (entity& e : m.entities()) {
       for (brush& b : e.brushes()) b.select(random() % 12 == 0);
     }
+    world().at(round)->select();
     const MapSnapshot before = TakeSnapshot(m);
     brush cut(*m.firstSelected());
     for (int move = 0; move < 6; ++move) {
@@ -65,6 +86,7 @@ TEST_F(StillTest, MovingBrushesAreDrawnAsInTheWholePicture) {
       whole.renderFrame(scene(), {97, 61});
       ASSERT_TRUE(std::ranges::equal(layered.frameBuffer(), whole.frameBuffer())) << round << ' ' << move;
       ASSERT_TRUE(std::ranges::equal(layered.depthBuffer(), whole.depthBuffer())) << round << ' ' << move;
+      ASSERT_EQ(wirePicture(shown, &wire), wirePicture(shown, nullptr)) << round << ' ' << move;
       if (move == 2) {
         EXPECT_LT(layered.statistics().facesDrawn, whole.statistics().facesDrawn / 2);
       }

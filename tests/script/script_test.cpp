@@ -78,6 +78,21 @@ TEST(Script, FilesThatCannotBeRead) {
   }
 }
 
+TEST(Script, PrintsWhatTheMouseRestsOn) {
+  test::Session session;
+  session.home.write("velkmouse.ini", "1 1\n{ Test\n{ NEWBRUSH LEFT }\n}\n");
+  session.editor.settings().hover_pick = session.editor.settings().tool_cursors = true;
+  session.open();
+  session.current().setCurrentEntity(session.current().world());
+  session.editor.views().plans.planCenter = {};
+  std::ostringstream out;
+  ScriptRunner(session.editor, session.prompts, nullptr, out)
+      .run(
+          "size XY 400 300\nprint hover XY\nmove XY 210 100\nprint hover XY\nprint cursor XY\n"
+          "move XY 20 290\nprint hover XY\nprint cursor 3D\n");
+  EXPECT_EQ(out.str(), "none\n0 0 4\ndraw\nnone\nidle\n");
+}
+
 struct RecordedPictures : ScriptPictures {
   bool savePicture(int view, const std::string& file) override {
     saved = std::to_string(view) + " " + file;

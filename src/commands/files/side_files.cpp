@@ -61,7 +61,7 @@ Outcome LoadBrushes(Editor& editor, map& m) {
 Outcome LoadBrushFile(Editor& editor, map& m, const std::string& path) {
   editor.documents().post(Format("Loading [%s]", path.c_str()));
   auto brushes =
-      ReadBrushFile(m, editor.services().paths, path, {.group = 0, .whole = editor.settings().careful_tools});
+      ReadBrushFile(m, editor.services().paths, path, {.group = editor.panels().groups.current(), .whole = editor.settings().careful_tools});
   m.world()->requireRoom(static_cast<int>(brushes.size()));
   for (auto& read : brushes) m.world()->addobject(std::move(read));
   m.modified = true;

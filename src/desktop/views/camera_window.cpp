@@ -60,9 +60,7 @@ QImage LastingPicture(Editor& editor, double devicePixelRatio) {
     DrawEmpty(editor, canvas, width, height);
     return image;
   }
-  if (editor.settings().drawmode == kWireMode) {
-    DrawWire(canvas, {width, height}, editor.views().cameraScene());
-  }
+  if (editor.settings().drawmode == kWireMode) editor.views().drawWire(canvas);
   const Views& views = editor.views();
   if (!views.ghosts.empty()) {
     DrawWireGhosts(canvas, {width, height}, views.renderSize(), editor.views().cameraScene(), views.ghosts,

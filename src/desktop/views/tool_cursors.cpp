@@ -58,19 +58,19 @@ QPainterPath TurnPath() {
   path.arcMoveTo(3, 3, 16, 16, 60);
   path.arcTo(3, 3, 16, 16, 60, 280);
   const QPointF end = path.currentPosition();
-  path.moveTo(end + QPointF(-5, -1));
+  path.moveTo(end + QPointF(-4, 3));
   path.lineTo(end);
-  path.lineTo(end + QPointF(1, -5));
+  path.lineTo(end + QPointF(1.5, 5));
   path.addEllipse(QPointF(kMiddle), 1, 1);
   return path;
 }
 
 QPainterPath ClipPath() {
   QPainterPath path = Cross();
-  path.moveTo(15, 22);
-  path.lineTo(22, 15);
-  path.addRect(14, 21, 2, 2);
-  path.addRect(21, 14, 2, 2);
+  path.moveTo(14, 20);
+  path.lineTo(20, 14);
+  path.addRect(13, 19, 2, 2);
+  path.addRect(19, 13, 2, 2);
   return path;
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/views/view_window.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "app/view_overlay.h"
@@ -53,6 +55,26 @@ void ViewWindow::showCursor() {
   const CursorShape shape = editor_.input().cursor(view_);
   if (shape == std::exchange(cursor_, shape)) return;
   setCursor(QtCursorOf(shape, editor_.settings().use_crosshair && view_ != kCameraView, devicePixelRatioF()));
+}
+
+// A modifier key changes what a press would begin where the mouse rests. The event says what was held before.
+void ViewWindow::takeModifiers(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers modifiers = QGuiApplication::queryKeyboardModifiers();
+  const bool counts =
+      event.key() == Qt::Key_Shift || event.key() == Qt::Key_Control || event.key() == Qt::Key_Alt;
+  if (!counts || !underMouse() || editor_.input().pointer().drag()) return;
+  editor_.input().move(view_, PointerEventOf(mapFromGlobal(QCursor::pos()), Qt::NoButton, modifiers));
+  showCursor();
+}
+
+void ViewWindow::keyPressEvent(QKeyEvent* event) {
+  takeModifiers(*event);
+  QWidget::keyPressEvent(event);
+}
+
+void ViewWindow::keyReleaseEvent(QKeyEvent* event) {
+  takeModifiers(*event);
+  QWidget::keyReleaseEvent(event);
 }
 
 void ViewWindow::leaveEvent(QEvent*) {

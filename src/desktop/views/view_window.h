@@ -33,6 +33,8 @@ class ViewWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -40,6 +42,7 @@ class ViewWindow : public QWidget {
 
  private:
   void showCursor();
+  void takeModifiers(const QKeyEvent& event);
 
   Editor& editor_;
   int view_;

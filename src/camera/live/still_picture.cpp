@@ -1,4 +1,4 @@
-#include "camera/still_picture.h"
+#include "camera/live/still_picture.h"
 
 #include <algorithm>
 

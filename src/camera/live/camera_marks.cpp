@@ -1,4 +1,4 @@
-#include "camera/camera_marks.h"
+#include "camera/live/camera_marks.h"
 
 #include <algorithm>
 
