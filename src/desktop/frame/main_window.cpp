@@ -35,17 +35,6 @@ constexpr int kProgressDrop = 78;  // pixels below the middle of the screen
 constexpr std::chrono::seconds kTick{10};
 constexpr std::chrono::milliseconds kMaximising{200};
 
-// Holds a window's place until its contents are built.
-QLabel* Placeholder(const std::string& title, const char* line) {
-  auto* label = new QLabel(QString::fromLatin1(line));
-  label->setWindowTitle(ShownText(title));
-  label->setAlignment(Qt::AlignCenter);
-  label->setWordWrap(true);
-  label->setEnabled(false);
-  label->setMinimumSize(80, 40);
-  return label;
-}
-
 // A list that can be edited in place keeps the key for it.
 bool KeepsKey(const QAbstractItemView& list, const QKeyEvent& key) {
   return list.editTriggers().testFlag(QAbstractItemView::EditKeyPressed) && key.key() == Qt::Key_F2;
@@ -111,9 +100,6 @@ void TVelkWindow::buildCentre() {
 void TVelkWindow::buildWindows() {
   children_ = new ChildWindows(*area_);
   brush_ = new TSelectedBrushWindow(editor_);
-  const auto await = [this](ToolWindow window, const char* line) {
-    children_->add(window, Placeholder(WindowTitle(editor_, window), line));
-  };
   textures_ = new TTextureWindow(editor_);
   children_->add(ToolWindow::Textures, textures_);
   children_->add(ToolWindow::SelectedBrush, brush_);

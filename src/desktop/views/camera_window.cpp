@@ -53,7 +53,7 @@ QImage LastingPicture(Editor& editor, double devicePixelRatio) {
   const int height = editor.views().cameraHeight;
   editor.views().deviceScale = devicePixelRatio;
   QImage image = MakeCanvasImage(width, height, devicePixelRatio);
-  const bool shown = editor.documents().currentMap() != nullptr;
+  const map* shown = editor.documents().currentMap();
   if (shown && editor.settings().drawmode != kWireMode) DrawRendered(editor, image);
   QtCanvas canvas(image, FontFamily(editor));
   if (!shown) {
