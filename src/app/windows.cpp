@@ -119,8 +119,8 @@ Arrangement FirstLayout(int width, int height) {
   const int middle = column / 2;
   const int half = height / 2;
   const int third = column / 3;
-  const int entities = height - std::clamp(height * 9 / 20, std::min(366, height * 3 / 5), 560);
-  const int groups = entities - std::max(height / 7, 112);
+  const int entities = height - std::clamp(height * 9 / 20, std::min(346, height * 3 / 5), 560);
+  const int groups = entities - std::max(height / 8, 106);
   Arrangement layout;
   layout[indexOf(ToolWindow::Plan1)] = PlacedAt(0, 0, middle, half);
   layout[indexOf(ToolWindow::Camera)] = PlacedAt(middle, 0, column, half);

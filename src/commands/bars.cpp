@@ -78,33 +78,13 @@ std::string ButtonTip(const Command& command) {
   return tip;
 }
 
-std::vector<std::string> TextureListNames(const Editor& editor) {
+std::vector<std::string> TextureListNames(Editor& editor) {
   std::vector<std::string> names;
-  if (const MapDocument* document = editor.documents().current()) {
-    for (int i = 0; i < document->textures.count(); ++i) {
-      names.push_back(document->textures.at(i).texture->name);
-    }
-  } else if (const Wad* wad = editor.textures().current()) {
-    for (const auto& texture : wad->textures) names.push_back(texture->name);
-  }
+  TextureSet& set = editor.panels().textures.set();
+  for (int i = 0; i < set.count(); ++i) names.push_back(set.at(i).texture->name);
   return names;
 }
 
-void ChooseTexture(Editor& editor, const std::string& name) {
-  const std::vector<std::string> names = TextureListNames(editor);
-  const auto found = std::find(names.begin(), names.end(), name);
-  if (found == names.end()) return;
-  TextureChoice& choice = editor.texture();
-  if (MapDocument* document = editor.documents().current()) {
-    choice.selectTexture(document->textures, static_cast<int>(found - names.begin()));
-  } else {
-    texturedef chosen = choice.current();
-    chosen.name = name;
-    choice.setCurrent(chosen);
-  }
-  Outcome outcome;
-  outcome.textures = true;
-  editor.door().show(outcome);
-}
+void ChooseTexture(Editor& editor, const std::string& name) { editor.panels().textures.chooseName(name); }
 
 }  // namespace velk

@@ -34,7 +34,7 @@ std::vector<ButtonBar> LoadButtonBars(const std::filesystem::path& folder);
 std::string ButtonTip(const Command& command);
 
 // The names to choose from: the textures of the current map or, while none is open, of the wad last loaded.
-std::vector<std::string> TextureListNames(const Editor& editor);
+std::vector<std::string> TextureListNames(Editor& editor);
 // Makes the texture current. Names that are not in the list are ignored.
 void ChooseTexture(Editor& editor, const std::string& name);
 

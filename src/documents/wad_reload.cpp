@@ -13,7 +13,7 @@ void RebuildSets(Documents& documents) {
     MapDocument& document = *documents.at(i);
     const bool counted = !document.textures.frequents.empty();
     std::vector<Wad*> wads = document.textures.wads();
-    buildMapTextures(document.model, document.textures, std::move(wads));
+    buildMapTextures(document.model, document.textures, std::move(wads), true);
     if (counted) recalculateFrequents(document.model, document.textures);
   }
 }

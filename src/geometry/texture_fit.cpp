@@ -93,6 +93,10 @@ FittedTexture FitTexture(const texturedef& like, const TextureAxes& axes,
   fitted.exact = rest.length() < kShear * t.length() && Apart(degrees, made.rotate) < kPartOfDegree;
   made.shift[0] = Shift(points[0].texel.s - Coordinate(made, 0, turn, a[0], b[0]));
   made.shift[1] = Shift(points[0].texel.t - Coordinate(made, 1, turn, a[0], b[0]));
+  // A file holds whole shifts.
+  for (const float shift : made.shift) {
+    fitted.exact = fitted.exact && std::fabs(shift - std::round(shift)) < kNearlyWhole;
+  }
   return fitted;
 }
 

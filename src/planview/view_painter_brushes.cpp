@@ -177,7 +177,7 @@ void DrawHits(ViewPainter& painter) {
   const Pen pen{painter.colours.color_hitcolor, 1};
   for (int i = 0; i < m.hits.count; ++i) {
     const brush* hit = m.hits.brushes[static_cast<size_t>(i)];
-    if (!hit || !painter.sees(hit->mins, hit->maxs)) continue;
+    if (!hit || !IsShown(m, *hit) || !painter.sees(hit->mins, hit->maxs)) continue;
     for (const face& f : hit->faces()) {
       if (f.polygon) painter.outline(pen, f.polygon->points(), f.polygon->count);
     }

@@ -255,7 +255,7 @@ void ScriptRunner::releaseInView(int view) {
   if (editor_.panels().textures.drag() == TexturePanel::Drag::None) {
     editor_.input().release(view, held_);
   } else if (view == kCameraView) {
-    DropTexture(editor_, held_.at, held_.ctrl);
+    DropTexture(editor_, held_.at, held_.ctrl || held_.shift);
   } else {
     editor_.panels().textures.cancel();
   }

@@ -129,7 +129,7 @@ std::unique_ptr<TextureRef> TextureSet::makeTextureRef(std::string_view name) co
   return ref;
 }
 
-void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
+void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads, bool keepSlots) {
   DropTextureCaches(m);
   try {
     set.build(std::move(wads));
@@ -139,9 +139,10 @@ void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads) {
   const int slots = std::max(0, m.settings().numfav);
   std::vector<std::string> favourites;
   for (const std::string& name : m.favourites) {
-    if (name.empty() || std::ssize(favourites) >= slots) continue;
+    if ((name.empty() && !keepSlots) || std::ssize(favourites) >= slots) continue;
     const Texture* texture = set.findTexture(name);
-    if (texture || m.settings().careful_tools) favourites.push_back(texture ? texture->name : name);
+    if (texture || keepSlots || m.settings().careful_tools)
+      favourites.push_back(texture ? texture->name : name);
   }
   if (m.favourites.empty()) {
     for (int i = 0; i < std::min(slots, set.count()); ++i) favourites.push_back(set.at(i).texture->name);

@@ -78,8 +78,9 @@ class TextureSet {
 // Builds the map's set and settles its favourites: the ones it names, of which those that are in the set
 // count, with careful_tools also the others, until their wad is there again; or, when it has no slots yet,
 // the first textures. Afterwards it has numfav slots, the free ones empty. Face caches are dropped. No memory
-// is fatal "Couldn't allocate favorites...".
-void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads);
+// is fatal "Couldn't allocate favorites...". keepSlots: of a map that is open already, whose favourites stay
+// where they are, whether found or not.
+void buildMapTextures(map& m, TextureSet& set, std::vector<Wad*> wads, bool keepSlots = false);
 
 // Favourites are kept in the map, by name. The place in the set of the one in a slot, -1 for a free slot.
 int FavouriteAt(const map& m, const TextureSet& set, int slot);

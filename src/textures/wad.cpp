@@ -73,6 +73,8 @@ Palette loadPalette(std::string_view contents, const std::string& path, const Wa
   for (const WadLump& lump : ReadWadDirectory(file)) {
     if (lump.name != "PALETTE") continue;
     Palette palette;
+    // A user goes on with the palette file.
+    if (services.forgiving && !file.holds(lump.offset, std::ssize(palette))) continue;
     const std::string_view bytes = file.at(lump.offset, static_cast<std::int64_t>(palette.size()));
     std::copy(bytes.begin(), bytes.end(), palette.begin());
     return palette;

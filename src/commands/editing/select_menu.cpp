@@ -28,8 +28,9 @@ Outcome SelectPartial(Editor&, map& m) {
 }
 
 Outcome SelectByTextureName(Editor& editor, map& m) {
+  const std::string& ofMap = editor.documents().current()->textures.currentName;
   const auto answer = editor.services().prompts.input(
-      {"Select", "Select Brushes by Texture:", editor.documents().current()->textures.currentName, 80});
+      {"Select", "Select Brushes by Texture:", ofMap.empty() ? editor.texture().current().name : ofMap, 80});
   if (!answer || answer->empty()) return {};
   const std::string name = UpperCase(*answer);
   SelectByTexture(m, name);

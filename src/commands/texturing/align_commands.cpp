@@ -28,6 +28,7 @@ Outcome Changed(Editor& editor, map& m, const TextureChange& change, const char*
 }  // namespace
 
 Outcome AskFitTexture(Editor& editor, map& m) {
+  if (!m.firstSelected()) return Outcome::Said("No face to texture...");
   TextureRepeats& kept = editor.remembered().textureRepeats;
   Form form;
   form.title = "Velk - Fit Texture";
@@ -72,7 +73,14 @@ Outcome ReloadAllWads(Editor& editor) {
     if (editor.services().paths.exists(wad->path)) wads.push_back(wad.get());
   }
   ReloadWads(editor.documents(), editor.door(), editor.textures(), wads);
-  return {};
+  // The map may name others by now.
+  MapDocument* document = editor.documents().current();
+  if (!document) return {};
+  editor.door().attempt("Velk - Reload Wads", "",
+                        [&] { editor.textures().openMapWads(document->model, document->textures, {}); });
+  Outcome outcome = Outcome::Drawn(Redraw::Camera);
+  outcome.textures = true;
+  return outcome;
 }
 
 }  // namespace velk

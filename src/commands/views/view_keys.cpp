@@ -63,14 +63,27 @@ int NumberOf(const KeyStroke& stroke) {
          (stroke.numPad ? 1 : 0);
 }
 
+// Esc ends what is dragged out of or magnified in the texture browser.
+bool EndsTextureDrag(Editor& editor, const KeyStroke& stroke) {
+  return stroke.key == Key::Escape && editor.panels().textures.drag() != TexturePanel::Drag::None;
+}
+
 }  // namespace
 
-bool ViewsWantKey(const Editor& editor, const KeyStroke& stroke) {
+bool ViewsWantKey(Editor& editor, const KeyStroke& stroke) {
+  if (EndsTextureDrag(editor, stroke)) return true;
   if (!editor.input().pointer().drag()) return MotionOf(editor, stroke).has_value();
   return Looked(kDragKeys, stroke.key) || (editor.input().flies() && MotionOf(editor, stroke));
 }
 
 bool GiveKeyToDrag(Editor& editor, const KeyStroke& stroke) {
+  if (EndsTextureDrag(editor, stroke)) {
+    editor.panels().textures.cancel();
+    Outcome outcome;
+    outcome.textures = true;
+    editor.door().show(outcome);
+    return true;
+  }
   const auto key = Looked(kDragKeys, stroke.key);
   return key && editor.input().dragKey(*key);
 }

@@ -8,7 +8,7 @@
 namespace velk {
 
 // Whether the views would take the key as things stand.
-bool ViewsWantKey(const Editor& editor, const KeyStroke& stroke);
+bool ViewsWantKey(Editor& editor, const KeyStroke& stroke);
 // Takes it; false when it is left to the commands. Keys that repeat are given again and again.
 bool GiveKeyToViews(Editor& editor, const KeyStroke& stroke);
 void LetGoInViews(Editor& editor, const KeyStroke& stroke);

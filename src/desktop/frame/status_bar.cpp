@@ -12,6 +12,8 @@ TVelkStatusBar::TVelkStatusBar(QWidget* parent) : QStatusBar(parent), message_(n
 void TVelkStatusBar::post(const QString& message) {
   clearMessage();
   message_->setText(message);
+  // What takes long tells how far it is.
+  message_->repaint();
 }
 
 }  // namespace velk

@@ -1,10 +1,13 @@
 #include "desktop/windows/texture_header.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <algorithm>
 
 #include "desktop/dialogs/shown_text.h"
+#include "desktop/frame/context_menu.h"
 
 namespace velk {
 namespace {
@@ -96,6 +99,8 @@ void TextureStepButton::mousePressEvent(QMouseEvent* event) {
   held_.stop();
   if (event->button() != Qt::LeftButton) return;
   setDown(true);
+  // A number that was typed and not accepted yet counts.
+  if (auto* typed = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget())) typed->interpretText();
   panel_.step(field_, direction_);
   held_.press(field_, direction_);
   timer_.start();
@@ -167,5 +172,9 @@ void TextureHeader::refresh() {
 }
 
 void TextureHeader::showLabel() { label_->setText(ShownText(editor_.panels().textures.label())); }
+
+void TextureHeader::contextMenuEvent(QContextMenuEvent* event) {
+  ShowMenu(editor_.panels().textures.contextMenu(), *this, event->pos());
+}
 
 }  // namespace velk

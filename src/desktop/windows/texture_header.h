@@ -68,6 +68,7 @@ class TextureHeader : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   struct Unit {

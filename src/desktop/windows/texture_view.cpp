@@ -98,6 +98,7 @@ void TextureView::bounds() {
 }
 
 void TextureView::refresh() {
+  if (panel().drag() == TexturePanel::Drag::None) endDrag();
   bounds();
   viewport()->update();
 }

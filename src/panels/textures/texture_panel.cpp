@@ -53,7 +53,11 @@ void TexturePanel::followChoice() {
 
 void TexturePanel::countUses() {
   const MapDocument* document = context_.documents.current();
-  if (!usesStale_ && usesOf_ == document && std::ssize(uses_) == (document ? set().count() : 0)) return;
+  const int generation = context_.textures.generation();
+  const bool sameSet = usesOf_ == document && usesGeneration_ == generation &&
+                       std::ssize(uses_) == (document ? set().count() : 0);
+  if (!usesStale_ && sameSet) return;
+  usesGeneration_ = generation;
   usesOf_ = document;
   usesStale_ = false;
   uses_ = document ? CountTextureUses(document->model, document->textures) : std::vector<int>{};

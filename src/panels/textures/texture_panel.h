@@ -140,6 +140,7 @@ class TexturePanel : public Panel {
   std::string followed_;  // the chosen name that the grid was scrolled to
   std::vector<int> uses_;
   const MapDocument* usesOf_ = nullptr;
+  int usesGeneration_ = -1;  // of the wads
   bool usesStale_ = true;
 };
 
