@@ -39,7 +39,9 @@ struct Desk {
   }
 
   History& history() { return editor.documents().current()->history; }
-  void save() { history().save(m(), "copy", UndoMode::All, History::Limits::of(editor.settings())); }
+  void save() {
+    history().keep(History::copyOf(m(), UndoMode::All), "copy", History::Limits::of(editor.settings()));
+  }
   void undo() { history().undo(m(), History::Limits::of(editor.settings())); }
 
   map& m() { return *editor.documents().currentMap(); }

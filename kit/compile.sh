@@ -6,7 +6,8 @@ set -u
 way=${1:?WAY}
 name=${2:?NAME}
 map=${VELK_MAP:-$name.map}
-level=${map%.*}.bsp
+file=${map##*/}
+level=${map%"$file"}${file%.*}.bsp
 
 if [ ! -f "$map" ]; then
   echo "ERROR: there is no map $map" >&2

@@ -29,6 +29,7 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
   };
   views_.groupName = [this] { return panels_.groups.currentName(); };
   input_.currentGroup = [this] { return panels_.groups.current(); };
+  panels_.entities.currentGroup = [this] { return panels_.groups.current(); };
   panels_.groups.hide = [this] { windows_.windows().minimise(ToolWindow::Groups); };
   panels_.textures.minimised = [this] {
     return windows_.windows().placement(ToolWindow::Textures).state == ShowState::Minimised;

@@ -1,6 +1,7 @@
 #include "app/view_input.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "mouse/camera/camera_clicks.h"
 #include "mouse/operations.h"
@@ -59,8 +60,7 @@ MouseContext ViewInput::context(int view) const {
                      .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); },
                      .beyond = [this](Pixel at) { return views_.beyondInCamera(at); }},
           .saveUndo = [this](const char* name, UndoMode mode, brush* working) {
-            MapDocument& saved = *documents_.current();
-            saved.history.save(saved.model, name, mode, History::Limits::of(services_.settings), working);
+            door_.takeClassic(name, mode, working);
           }};
 }
 
@@ -105,6 +105,12 @@ void ViewInput::pressStrip(int view, Pixel at) {
   door_.show(Outcome::Drawn(documents_.currentMap() ? Redraw::Plans | Redraw::Strips : Redraw::Strips));
 }
 
+void ViewInput::makeCurrent(int view) {
+  if (std::exchange(views_.plans.current, view) == view) return;
+  const map* m = documents_.currentMap();
+  if (m && m->clip.count == 2) door_.show(Outcome::Drawn(Redraw::All));
+}
+
 void ViewInput::press(int view, const PointerEvent& event) {
   if (busy_) return;
   if (pointer_.drag()) {
@@ -116,10 +122,12 @@ void ViewInput::press(int view, const PointerEvent& event) {
   at_[static_cast<size_t>(view)] = event.at;
   press_.reset();
   if (view != kCameraView) {
-    views_.plans.current = view;
+    makeCurrent(view);
     if (event.at.y < kStripHeight) return pressStrip(view, event.at);
   }
-  if (!documents_.currentMap() || !readBindings(fileOf(view))) return;
+  if (!documents_.currentMap()) return;
+  const bool first = !fileOf(view).read;
+  if (!readBindings(fileOf(view)) && first) return;
   begin(view, event);
 }
 
@@ -127,7 +135,7 @@ void ViewInput::begin(int view, const PointerEvent& event) {
   const Busy busy(busy_);
   bool claimed = false;
   centreBefore_ = views_.plans.planCenter;
-  statusBefore_ = documents_.status();
+  statusBefore_ = documents_.statusText();
   hint_.clear();
   const auto start = [&] {
     Outcome outcome = pointer_.press(context(view), event);
@@ -192,7 +200,7 @@ void ViewInput::drop(const PointerEvent& event) {
 
 // What the drag itself said stays.
 void ViewInput::takeHintBack() {
-  if (!hint_.empty() && documents_.status() == hint_) documents_.post(statusBefore_);
+  if (!hint_.empty() && documents_.statusText() == hint_) documents_.post(statusBefore_);
   hint_.clear();
 }
 
@@ -202,8 +210,13 @@ bool ViewInput::isClick(const PointerEvent& event) const {
   return !pointer_.drag() || !pointer_.drag()->actsUnmoved(pointer_.state());
 }
 
+bool ViewInput::isOtherButton(const PointerEvent& event) const {
+  if (pointer_.drag()) return pointer_.state().press.button != event.button;
+  return press_ && press_->event.button != event.button;
+}
+
 bool ViewInput::release(int view, const PointerEvent& event) {
-  if (busy_) return false;
+  if (busy_ || isOtherButton(event)) return false;
   const bool isClicked = isClick(event);
   const PointerEvent pressed = press_ ? press_->event : event;
   if (press_) view = press_->view;
@@ -244,7 +257,7 @@ void ViewInput::cancel() {
   stopDragMotions();
   door_.cancelDrag();
   // Nor does what it said along the way hold any more.
-  if (!statusBefore_.empty()) documents_.post(statusBefore_);
+  if (documents_.statusText() != statusBefore_) documents_.post(statusBefore_);
   hint_.clear();
 }
 

@@ -35,11 +35,14 @@ class ViewInput {
   // The group that new brushes join.
   std::function<int()> currentGroup = [] { return 0; };
 
+  // A plan view becomes the current one, by which the clip plane through two points stands.
+  void makeCurrent(int view);
   // Views by number: 0..2 the plan views, kCameraView.
   void press(int view, const PointerEvent& event);
   // Every move, with or without a button.
   void move(int view, const PointerEvent& event);
-  // True when the view's context menu is asked for: a right click.
+  // True when the view's context menu is asked for: a right click. Only the button of the press ends what it
+  // began.
   bool release(int view, const PointerEvent& event);
   // notches: away from the user, negative towards.
   void wheel(int view, const PointerEvent& event, int notches);
@@ -103,6 +106,7 @@ class ViewInput {
 
   MouseContext context(int view) const;
   ToolStart startBound(const MouseContext& context, const PointerEvent& event);
+  bool isOtherButton(const PointerEvent& event) const;
   void pressStrip(int view, Pixel at);
   void begin(int view, const PointerEvent& event);
   void readCoordinates(int view, Pixel at);

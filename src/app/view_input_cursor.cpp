@@ -34,7 +34,11 @@ FacePick ViewInput::hovered(int view) {
   const auto& mouse = mouse_[static_cast<size_t>(view)];
   if (!services_.settings.hover_pick || !mouse || pointer_.drag() || !documents_.currentMap()) return {};
   if (view != kCameraView && mouse->at.y < kStripHeight) return {};
-  return Under(context(view), mouse->at);
+  const MouseContext at = context(view);
+  const bool clicks = services_.settings.click_selects && !mouse->shift && !mouse->ctrl;
+  if (!clicks || view == kCameraView || !clicks_.isAgain(at, mouse->at)) return Under(at, mouse->at);
+  const std::vector<brush*> under = BrushesUnder(at, mouse->at);
+  return under.empty() ? FacePick{} : FacePick{under[clicks_.next(at, mouse->at, under)], -1};
 }
 
 CursorShape ViewInput::cursor(int view) {

@@ -137,6 +137,27 @@ class EntityCheck {
   int number_ = 0;
 };
 
+// Of a "wad" value; blank ones name nothing.
+int WadCount(std::string_view value) {
+  const std::vector<std::string> names = Split(value, ';');
+  return static_cast<int>(
+      std::ranges::count_if(names, [](const std::string& name) { return !Trimmed(name).empty(); }));
+}
+
+void CheckLimits(map& m, std::vector<CheckFinding>& findings) {
+  if (IsNear(static_cast<size_t>(m.numentities()), MAX_ENTITIES)) {
+    AddForMap(findings, Format("The map has %i of %i entities", m.numentities(), MAX_ENTITIES));
+  }
+  if (IsNear(static_cast<size_t>(m.groups.count()), GroupList::kMaxGroups)) {
+    AddForMap(findings, Format("The map has %i of %i groups", m.groups.count(), GroupList::kMaxGroups));
+  }
+  // Of so few the last but one is near the limit.
+  const int wads = WadCount(m.world()->valueOfKey("wad"));
+  if (wads >= MAX_MAP_WADS - 1) {
+    AddForMap(findings, Format("The map names %i of %i wads", wads, MAX_MAP_WADS));
+  }
+}
+
 }  // namespace
 
 void CheckEntities(map& m, std::vector<CheckFinding>& findings) {
@@ -146,9 +167,7 @@ void CheckEntities(map& m, std::vector<CheckFinding>& findings) {
   const bool start = std::ranges::any_of(
       m.entities(), [](const entity& e) { return e.valueOfKey("classname") == "info_player_start"; });
   if (!start) AddForMap(findings, "The map has no info_player_start");
-  if (IsNear(static_cast<size_t>(m.numentities()), MAX_ENTITIES)) {
-    AddForMap(findings, Format("The map has %i of %i entities", m.numentities(), MAX_ENTITIES));
-  }
+  CheckLimits(m, findings);
 }
 
 }  // namespace velk

@@ -8,7 +8,8 @@
 namespace velk {
 
 // Unknown classes, entities without brushes or outside the world, no player start, targets that lead nowhere
-// and names that nobody targets, keys twice, and lengths and counts near their limits.
+// and names that nobody targets, keys twice, and lengths and counts near their limits, those of groups and
+// wads too.
 void CheckEntities(map& m, std::vector<CheckFinding>& findings);
 
 }  // namespace velk

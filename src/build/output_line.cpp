@@ -87,13 +87,15 @@ Kind KindOf(std::string_view lower) {
 // Where in a map's text the lines passed so far end.
 class MapLines {
  public:
-  // Quoted braces are text; comments end with their line.
+  // Braces count that stand alone: others are part of a text or of a texture's name. Comments end with their
+  // line.
   void pass(std::string_view line) {
     bool quoted = false;
     for (size_t i = 0; i < line.size(); ++i) {
       if (line[i] == '"') quoted = !quoted;
       if (quoted) continue;
       if (line.substr(i, 2) == "//") return;
+      if (!isBlank(line, i - 1) || !isBlank(line, i + 1)) continue;
       if (line[i] == '{') open();
       if (line[i] == '}' && depth_ > 0) --depth_;
     }
@@ -107,6 +109,10 @@ class MapLines {
   }
 
  private:
+  // Also beyond the line's ends.
+  static bool isBlank(std::string_view line, size_t at) {
+    return at >= line.size() || static_cast<unsigned char>(line[at]) <= ' ';
+  }
   void open() {
     if (++depth_ == 1) {
       ++entity_;

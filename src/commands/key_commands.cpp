@@ -66,7 +66,7 @@ const Command kRows[] = {
      .hint = "Move selection down the z axis by the step size", .enabled = MapOpen,
      .run = With<MoveSelectionByStep, 2, -1>},
     {.id = 295, .name = "CM_REVOLVE", .label = "Revolve...", .hint = "Make a revolved item...",
-     .enabled = MapOpen, .run = RevolveInPlace},
+     .enabled = MapOpen, .run = RevolveInPlace, .caption = kCannotMake, .failure = kNoRoomForMade},
     {.id = 1020, .name = "CM_NUDGE_DOWN", .label = "Move Selection Down", .keys = "Num2",
      .hint = "Move selection down by the grid size", .run = With<NudgeSelection, Nudge::Down>},
     {.id = 1021, .name = "CM_NUDGE_LEFT", .label = "Move Selection Left", .keys = "Num4",

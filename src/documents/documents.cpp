@@ -126,6 +126,7 @@ std::string Documents::statusLine(const std::string& text) const {
 
 void Documents::post(const std::string& text) {
   status_ = CutText(statusLine(text), kMaxStatus);
+  statusText_ = text;
   services_.observer.statusChanged(status_);
 }
 

@@ -64,6 +64,8 @@ class Documents {
   // The status line, at most 127 characters; in debug mode with the numbers of objects behind it.
   void post(const std::string& text);
   const std::string& status() const { return status_; }
+  // What was posted last.
+  const std::string& statusText() const { return statusText_; }
 
  private:
   std::unique_ptr<MapDocument> make();
@@ -83,6 +85,7 @@ class Documents {
   int turn_ = 0;
   RecentMaps recent_;
   std::string status_;
+  std::string statusText_;
 };
 
 }  // namespace velk

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <new>
+#include <utility>
 
 #include "base/error.h"
 
@@ -64,6 +65,7 @@ Door::Open Door::begin(const Change& change) {
   if (change.classic && services_.settings.undo_levels <= 1) {
     open.classic = History::copyOf(document.model, *change.classic);
   }
+  open.kept = document.history.placeOfOne(document.model);
   open.before = TakeSnapshot(document.model);
   if (!document.saved) document.saved = open.before;
   open.currentEntity = document.model.currentEntity();
@@ -74,7 +76,9 @@ Door::Open Door::begin(const Change& change) {
 }
 
 bool Door::run(Open& open, const Action& action, Outcome& outcome) {
+  Open* const outer = std::exchange(running_, &open);
   const auto error = trapped([&] { outcome = action(); });
+  running_ = outer;
   if (!error) return true;
   revert(open);
   if (open.dragged) dragFailed();
@@ -83,7 +87,9 @@ bool Door::run(Open& open, const Action& action, Outcome& outcome) {
 
 void Door::revert(Open& open) {
   if (!open.before || !documents_.holds(open.document)) return;
-  RestoreSnapshot(open.document->model, *open.before, true);
+  MapDocument& document = *open.document;
+  RestoreSnapshot(document.model, *open.before, true);
+  if (open.kept) document.history.followOne(document.model, *open.kept);
   tell(Outcome::Drawn(Redraw::All), Changes::All());
 }
 
@@ -99,7 +105,8 @@ bool Door::keepLevel(Open& open) {
   if (SameContents(*open.before, TakeSnapshot(open.document->model))) return false;
   const History::Limits limits = History::Limits::of(services_.settings);
   if (limits.levels <= 1) {
-    if (open.classic) history.keep(std::move(*open.classic), open.change.name, limits);
+    const std::string& name = open.classicName.empty() ? open.change.name : open.classicName;
+    if (open.classic) history.keep(std::move(*open.classic), name, limits);
     return true;
   }
   if (!joinsLast(open)) history.changed(std::move(*open.before), open.change.name, limits);
@@ -141,6 +148,12 @@ void Door::tell(const Outcome& outcome, Changes changes) {
   changes.groups |= outcome.groups;
   changes.textures |= outcome.textures;
   services_.observer.changed(changes);
+}
+
+void Door::takeClassic(const std::string& name, UndoMode mode, brush* working) {
+  if (!running_ || !running_->document || services_.settings.undo_levels > 1) return;
+  running_->classic = History::copyOf(running_->document->model, mode, working);
+  running_->classicName = name;
 }
 
 void Door::show(const Outcome& outcome) { tell(outcome, {}); }

@@ -54,6 +54,10 @@ class Door {
   // The same without telling: the message of the error, none when it went well.
   std::optional<std::string> trapped(const std::function<void()>& action);
 
+  // Said by the action that runs, before it changes anything: the classic single level is kept of it, with
+  // the name, when it did change something. `working` is the camera view's brush, if any.
+  void takeClassic(const std::string& name, UndoMode mode, brush* working = nullptr);
+
   // Posts an outcome that changed no map and has pictures drawn anew.
   void show(const Outcome& outcome);
 
@@ -71,6 +75,8 @@ class Door {
     MapDocument* document = nullptr;  // none without a map
     std::optional<MapSnapshot> before;
     std::optional<History::Copy> classic;
+    std::string classicName;
+    std::optional<History::Place> kept;  // of the one brush that the last level is of
     entity* currentEntity = nullptr;
     int undoCount = 0;
     int redoCount = 0;
@@ -90,7 +96,8 @@ class Door {
   const Services& services_;
   Documents& documents_;
   std::optional<Open> drag_;
-  int depth_ = 0;  // actions that run now
+  Open* running_ = nullptr;  // whose action runs now
+  int depth_ = 0;            // actions that run now
   Redraw pending_ = Redraw::None;
   const MapDocument* lastDocument_ = nullptr;  // that got a level last, and when
   std::chrono::steady_clock::time_point lastTime_;

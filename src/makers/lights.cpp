@@ -74,8 +74,8 @@ Made LightBoxes(const Seed& seed, const LightParams& params, const EntityClassLi
   return made;
 }
 
-Outcome MakeLights(map& m, brush& seed, const LightParams& params) {
-  if (params.type.empty()) return {};
+Outcome MakeLights(map& m, brush& seed, const LightParams& params, bool careful) {
+  if (params.type.empty()) return Outcome::Said(careful ? kNoLightClass : kLightsTexts.made);
   const std::vector<vec3> origins = LightOrigins(SeedOf(seed), params);
   m.requireRoom(static_cast<int>(origins.size()) - (EmptiesItsEntity(seed) ? 1 : 0));
   const Seed taken = TakeSeed(m, seed);

@@ -24,6 +24,8 @@ inline constexpr MakerField kLightFields[] = {{"x", "X Lights", 2, 1},
                                               {"value", "Light Value", 150, -2147483647},
                                               {"type", "Light Type"}};
 
+inline constexpr char kNoLightClass[] = "No class begins with \"light\"...";
+
 // The classes to choose from: those whose names begin with "light", in the list's order.
 std::vector<std::string> LightTypes(const EntityClassList& classes);
 
@@ -34,7 +36,7 @@ std::vector<vec3> LightOrigins(const Seed& seed, const LightParams& params);
 Made LightBoxes(const Seed& seed, const LightParams& params, const EntityClassList& classes);
 
 // Puts entities of the class in place of the seed, their boxes selected and in its group. Without a class
-// nothing happens. Fatal, with the map unchanged, when it has no room for all.
-Outcome MakeLights(map& m, brush& seed, const LightParams& params);
+// nothing happens, which careful says. Fatal, with the map unchanged, when it has no room for all.
+Outcome MakeLights(map& m, brush& seed, const LightParams& params, bool careful);
 
 }  // namespace velk

@@ -28,13 +28,13 @@ bool TakeFloat(std::string_view& text, float& number) {
   return true;
 }
 
+}  // namespace
+
 std::string_view WithoutLeadingBlanks(std::string_view key) {
   const auto start =
       std::find_if(key.begin(), key.end(), [](char c) { return static_cast<unsigned char>(c) > 32; });
   return key.substr(size_t(start - key.begin()));
 }
-
-}  // namespace
 
 entity::entity(map& parent) : parent_(&parent) {
   if (parent.counters()) ++parent.counters()->entitiesConstructed;

@@ -27,6 +27,9 @@ struct KeyPair {
   std::string value;
 };
 
+// A key as a pair keeps it: leading bytes up to 32 are dropped.
+std::string_view WithoutLeadingBlanks(std::string_view key);
+
 class entity {
  public:
   // Belongs to `parent` from the start, whether or not it is in its list yet.

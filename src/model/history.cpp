@@ -105,8 +105,20 @@ void History::keep(Copy copy, const std::string& name, const Limits& limits) {
   close();
 }
 
-void History::save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working) {
-  if (limits.levels <= 1 || mode == UndoMode::All) keep(copyOf(m, mode, working), name, limits);
+std::optional<History::Place> History::placeOfOne(map& m) const {
+  if (records_.empty() || !records_.back().one) return std::nullopt;
+  const OneBrush& kept = *records_.back().one;
+  entity* owner = FindEntity(m, kept.liveOwner);
+  if (!owner) return std::nullopt;
+  return Place{m.indexOf(owner), FindBrush(*owner, kept.liveBrush)};
+}
+
+void History::followOne(map& m, const Place& place) {
+  entity* owner = m.at(place.entity);
+  if (!owner || records_.empty() || !records_.back().one) return;
+  OneBrush& kept = *records_.back().one;
+  kept.liveOwner = owner->identity();
+  if (brush* b = place.brush >= 0 ? owner->at(place.brush) : nullptr) kept.liveBrush = b->identity();
 }
 
 void History::changed(MapSnapshot before, const std::string& name, const Limits& limits) {

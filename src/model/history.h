@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,11 +38,18 @@ class History {
   static Copy copyOf(map& m, UndoMode mode, brush* working = nullptr);
   void keep(Copy copy, const std::string& name, const Limits& limits);
 
-  // Saves a copy before a change. With more than one level only explicit copies (All) are kept here, since
-  // every change takes its own.
-  void save(map& m, const std::string& name, UndoMode mode, const Limits& limits, brush* working = nullptr);
   // Keeps what the map was before a change; what could be redone is gone. Beyond the limits the oldest go.
   void changed(MapSnapshot before, const std::string& name, const Limits& limits);
+
+  // Where the brush is that the last level is a copy of, and its entity, whether it holds the brush or not;
+  // none when the level is of more, or the entity is gone.
+  struct Place {
+    int entity = 0;
+    int brush = -1;
+  };
+  std::optional<Place> placeOfOne(map& m) const;
+  // The objects there now are the ones meant, since the map was put back to when the place was taken.
+  void followOne(map& m, const Place& place);
 
   // Whether a repeat of the change `name` may join the last level instead of making one: it is of that name,
   // and nothing was undone, saved or closed since.

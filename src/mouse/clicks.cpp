@@ -40,19 +40,38 @@ void KeepHits(map& m, const std::vector<brush*>& under) {
   for (brush* b : under) m.hits.add(*b);
 }
 
-// The face that was clicked becomes the brush's current one; of the first brush selected the texture browser
-// takes its texture.
-bool TakeFace(const MouseContext& context, brush& b, Pixel at) {
-  FacePick seen;
-  if (context.inCamera() && context.settings.drawmode != 0 && context.camera.pickFace) {
-    seen = context.camera.pickFace(at);
+// With the one that is taken current. Going on from it leaves nothing of a selection that it is alone in.
+void KeepHits(map& m, const std::vector<brush*>& under, size_t taken) {
+  KeepHits(m, under);
+  if (taken >= HitList::kMax) return;
+  m.hits.current = static_cast<int>(taken);
+  if (m.totalSelected() == 1) m.hits.saved[taken] = false;
+}
+
+// The wire picture shows no faces: the brush's current one stays.
+int FaceUnder(const MouseContext& context, const brush& b, Pixel at) {
+  if (context.inCamera()) {
+    if (context.settings.drawmode == 0) return b.currentFace();
+    const FacePick seen = context.camera.pickFace ? context.camera.pickFace(at) : FacePick{};
+    if (seen.hit == &b) return seen.face;
   }
   const PickRay ray = RayUnder(context, at);
-  const int face = seen.hit == &b ? seen.face : b.hitByRay(ray.start, ray.end).face;
+  return b.hitByRay(ray.start, ray.end).face;
+}
+
+// The face that was clicked becomes the brush's current one. False when none was.
+bool TakeFace(const MouseContext& context, brush& b, Pixel at) {
+  const int face = FaceUnder(context, b, at);
   if (face < 0 || face >= b.numfaces()) return false;
   b.setCurrentFace(face);
-  return context.model.totalSelected() == 1 && context.texture &&
-         context.texture->liftTexture(b.faces()[static_cast<size_t>(face)].texture, context.textures);
+  return true;
+}
+
+// The same; of the first brush selected the texture browser takes the face's texture. Whether it did.
+bool TakeTexture(const MouseContext& context, brush& b, Pixel at) {
+  if (!TakeFace(context, b, at) || context.model.totalSelected() != 1 || !context.texture) return false;
+  return context.texture->liftTexture(b.faces()[static_cast<size_t>(b.currentFace())].texture,
+                                      context.textures);
 }
 
 Outcome AddOrRemoveFirst(const MouseContext& context, const PointerEvent& event,
@@ -63,7 +82,7 @@ Outcome AddOrRemoveFirst(const MouseContext& context, const PointerEvent& event,
   const int count = context.model.totalSelected();
   Outcome outcome =
       Outcome::Drawn(Redraw::All, b.selected() ? Format(kClickAdded, count) : Format(kClickRemoved, count));
-  if (b.selected()) outcome.textures = TakeFace(context, b, event.at);
+  if (b.selected()) outcome.textures = TakeTexture(context, b, event.at);
   return outcome;
 }
 
@@ -75,10 +94,12 @@ std::vector<brush*> BrushesUnder(const MouseContext& context, Pixel at) {
   return LookAlongRay(context.model, ray.start, ray.end, true);
 }
 
-// Behind the one that is selected alone, when it was clicked here before; else the first.
-size_t Clicks::next(const MouseContext& context, const PointerEvent& event,
-                    const std::vector<brush*>& under) const {
-  if (view_ != context.view || !InOnePlace(at_, event.at) || context.model.totalSelected() != 1) return 0;
+bool Clicks::isAgain(const MouseContext& context, Pixel at) const {
+  return view_ == context.view && InOnePlace(at_, at) && context.model.totalSelected() == 1;
+}
+
+size_t Clicks::next(const MouseContext& context, Pixel at, const std::vector<brush*>& under) const {
+  if (!isAgain(context, at)) return 0;
   const auto selected = std::ranges::find_if(under, [](const brush* b) { return b->selected(); });
   if (selected == under.end()) return 0;
   return static_cast<size_t>(selected - under.begin() + 1) % under.size();
@@ -87,31 +108,36 @@ size_t Clicks::next(const MouseContext& context, const PointerEvent& event,
 Outcome Clicks::select(const MouseContext& context, const PointerEvent& event) {
   map& m = context.model;
   const std::vector<brush*> under = BrushesUnder(context, event.at);
-  KeepHits(m, under);
+  if (event.shift || under.empty()) KeepHits(m, under);
   if (event.shift) return AddOrRemoveFirst(context, event, under);
   if (under.empty()) {
     view_ = -1;
     SelectOnly(m, nullptr);
     return Outcome::Drawn(Redraw::All, kAllDeselected);
   }
-  const size_t index = next(context, event, under);
+  const size_t index = next(context, event.at, under);
   view_ = context.view;
   at_ = event.at;
   SelectOnly(m, under[index]);
-  if (index < HitList::kMax) m.hits.current = static_cast<int>(index);
+  KeepHits(m, under, index);
   Outcome outcome = Outcome::Drawn(
       Redraw::All, Format(kClickTook, static_cast<int>(index) + 1, static_cast<int>(under.size())));
-  outcome.textures = TakeFace(context, *under[index], event.at);
+  outcome.textures = TakeTexture(context, *under[index], event.at);
   return outcome;
 }
 
 Outcome Clicks::selectForMenu(const MouseContext& context, const PointerEvent& event) {
   const std::vector<brush*> under = BrushesUnder(context, event.at);
-  if (under.empty() || std::ranges::any_of(under, [](const brush* b) { return b->selected(); })) return {};
+  if (under.empty()) return {};
+  const auto selected = std::ranges::find_if(under, [](const brush* b) { return b->selected(); });
+  if (selected != under.end()) {
+    KeepHits(context.model, under, static_cast<size_t>(selected - under.begin()));
+    return Outcome::Drawn(context.settings.show_hits ? Redraw::All : Redraw::None);
+  }
   SelectOnly(context.model, under.front());
-  Outcome outcome = Outcome::Drawn(Redraw::All);
-  outcome.textures = TakeFace(context, *under.front(), event.at);
-  return outcome;
+  KeepHits(context.model, under, 0);
+  TakeFace(context, *under.front(), event.at);
+  return Outcome::Drawn(Redraw::All);
 }
 
 }  // namespace velk

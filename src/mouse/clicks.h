@@ -29,9 +29,13 @@ class Clicks {
   // Before a context menu: selects what is under the cursor unless a selected brush is there.
   static Outcome selectForMenu(const MouseContext& context, const PointerEvent& event);
 
- private:
-  size_t next(const MouseContext& context, const PointerEvent& event, const std::vector<brush*>& under) const;
+  // Whether a click there is one more in the place of the last, with one brush selected.
+  bool isAgain(const MouseContext& context, Pixel at) const;
+  // Which of the brushes under the cursor a click takes: the one behind the selected one when it is one
+  // more there, else the first.
+  size_t next(const MouseContext& context, Pixel at, const std::vector<brush*>& under) const;
 
+ private:
   int view_ = -1;  // of the last click
   Pixel at_{0, 0};
 };

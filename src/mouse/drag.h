@@ -43,7 +43,8 @@ struct MouseContext {
   TextureSet* textures = nullptr;    // of the map, may be none
   int group = 0;                     // that new brushes are put in
   CameraPicks camera = {};
-  // Keeps the classic undo copy of the tools that take one; may be empty.
+  // Takes the classic undo copy of the tools that want one, which is kept when they change something; may be
+  // empty.
   std::function<void(const char* name, UndoMode mode, brush* working)> saveUndo = {};
 
   bool inCamera() const { return view == kCameraView; }

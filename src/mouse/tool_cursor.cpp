@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <optional>
 
 #include "base/text.h"
 #include "model/visit.h"
+#include "mouse/plan/face_drag.h"
+#include "mouse/plan/point_drag.h"
 #include "mouse/view_ray.h"
 #include "ops/clip.h"
 #include "ops/pick_vertex.h"
@@ -17,11 +20,9 @@ using Begins = bool (*)(const MouseContext&, const PointerEvent&);
 
 bool Always(const MouseContext&, const PointerEvent&) { return true; }
 
-brush* OnlyOne(const MouseContext& context) {
-  return context.model.totalSelected() == 1 ? context.model.firstSelected() : nullptr;
+bool HasOne(const MouseContext& context, const PointerEvent&) {
+  return OnlySelected(context.model) != nullptr;
 }
-
-bool HasOne(const MouseContext& context, const PointerEvent&) { return OnlyOne(context) != nullptr; }
 
 bool CanDraw(const MouseContext& context, const PointerEvent&) {
   const entity* owner = context.model.currentEntity();
@@ -50,7 +51,7 @@ bool CanTurn(const MouseContext& context, const PointerEvent& event) {
 }
 
 bool CanPullVertex(const MouseContext& context, const PointerEvent& event) {
-  const brush* b = context.settings.drag_vertex != 0 ? OnlyOne(context) : nullptr;
+  const brush* b = context.settings.drag_vertex != 0 ? OnlySelected(context.model) : nullptr;
   return b && HasCornerNear(context, *b, PointUnder(context, event));
 }
 
@@ -59,22 +60,22 @@ bool CanMove(const MouseContext& context, const PointerEvent& event) {
   const PickRay ray = RayAt(context.plan(), at);
   bool hit = false;
   VisitBrushes(context.model, BrushFilter::Selected, [&](const brush& b) {
-    hit = hit || (!b.invalid && IsOver(context, b, at, 1) && b.hitByRay(ray.start, ray.end).t >= 0);
+    hit = hit || (!b.invalid && IsShown(context.model, b) && IsOver(context, b, at, 1) &&
+                  b.hitByRay(ray.start, ray.end).t >= 0);
   });
   return hit;
 }
 
 // One of the faces that stand on edge is towards the cursor.
 bool CanDragFace(const MouseContext& context, const PointerEvent& event) {
-  const brush* b = OnlyOne(context);
+  const brush* b = OnlySelected(context.model);
   if (!b) return false;
-  constexpr double kPointDepth = 2048;
   const int depth = context.plan().axisDepth;
-  const vec3 at = InWorld(context.plan(), PointUnder(context, event), kPointDepth);
-  return std::ranges::any_of(b->faces(), [&](const face& f) {
-    return f.polygon && std::fabs(f.facePlane.normal[depth]) <= context.settings.face_drag_percent &&
-           dot(f.facePlane.normal, at) - f.facePlane.dist > 0;
-  });
+  const std::optional<vec3> at = FaceDragPoint(context, *b, PointUnder(context, event));
+  return at && std::ranges::any_of(b->faces(), [&](const face& f) {
+           return f.polygon && std::fabs(f.facePlane.normal[depth]) <= context.settings.face_drag_percent &&
+                  dot(f.facePlane.normal, *at) - f.facePlane.dist > 0;
+         });
 }
 
 bool CanDragCamera(const MouseContext& context, const PointerEvent& event) {

@@ -21,13 +21,28 @@ std::optional<vec3> OffsetTo(std::string_view text, const vec3& from) {
   return offset;
 }
 
-void MoveBox(entity& e, std::string_view origin) {
-  const std::optional<vec3> offset = OffsetTo(origin, e.vectorOfKey("origin"));
-  if (!offset) return;
+void Translate(entity& e, const vec3& offset) {
   for (brush& b : e.brushes()) {
-    b.translate(*offset);
+    b.translate(offset);
     b.buildWindings();
   }
+}
+
+void MoveBox(entity& e, std::string_view origin) {
+  const std::optional<vec3> offset = OffsetTo(origin, e.vectorOfKey("origin"));
+  if (offset) Translate(e, *offset);
+}
+
+// The box of the class that the entity is of now; that of a class without one stays as large as it was.
+void TakeClassBox(entity& e, const vec3& origin) {
+  const EntityClass& found = e.entityClass();
+  if (!e.parent().classes().isKnown(found) || !found.fixedSize) {
+    Translate(e, subtract(origin, e.vectorOfKey("origin")));
+    return;
+  }
+  const texturedef texture = e.at(0)->brushTexture();
+  e.at(0)->initBox(e, add(origin, {found.mins[0], found.mins[1], found.mins[2]}),
+                   add(origin, {found.maxs[0], found.maxs[1], found.maxs[2]}), texture);
 }
 
 }  // namespace
@@ -54,9 +69,14 @@ void RevertToWorld(map& m) {
 void SetPair(entity& e, std::string_view key, std::string_view value) {
   map& m = e.parent();
   m.modified = true;
-  if (key == "origin" && !e.isModel && m.settings().careful_tools) MoveBox(e, value);
+  const std::string_view kept = WithoutLeadingBlanks(key);
+  const bool fits = !e.isModel && e.at(0) && m.settings().careful_tools;
+  if (kept == "origin" && fits) MoveBox(e, value);
+  const vec3 origin = e.vectorOfKey("origin");
   e.setKey(key, value);
-  if (key == "classname") FollowClass(e);
+  if (kept != "classname") return;
+  if (fits) TakeClassBox(e, origin);
+  FollowClass(e);
 }
 
 void RemovePair(entity& e, std::string_view key) {

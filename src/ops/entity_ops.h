@@ -15,7 +15,8 @@ bool CanRevert(const map& m);
 void RevertToWorld(map& m);
 
 // Sets a pair as entity::setKey does. Brushes follow a new class's colour. With careful_tools "origin" moves
-// the box of a fixed-size entity there.
+// the box of a fixed-size entity there, and "classname" keeps the origin and gives it the box of the new
+// class.
 void SetPair(entity& e, std::string_view key, std::string_view value);
 // Removes a pair; one that is not there is passed over.
 void RemovePair(entity& e, std::string_view key);

@@ -22,6 +22,8 @@ struct MadeEntity {
 // Makes an entity of the class. A fixed-size one stands where the current brush begins, its box takes the
 // place of the selection and is selected; one built of brushes takes the selected brushes. With none of
 // the world's brushes selected, a fixed-size entity is put at `seedAt`, by default at the active camera.
-MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> seedAt = std::nullopt);
+// With careful_tools and group mode on it joins the group of what it replaces, otherwise of nothing `group`.
+MadeEntity MakeEntity(map& m, std::string_view classname, std::optional<vec3> seedAt = std::nullopt,
+                      int group = 0);
 
 }  // namespace velk

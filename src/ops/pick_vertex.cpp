@@ -18,7 +18,10 @@ bool HasCornerNear(const face& f, const vec3& point, const ViewAxes& axes, doubl
 }  // namespace
 
 double VertexPickRadius(const Settings& settings) {
-  return std::max(1.0, std::min<double>(settings.select_delta, settings.gridsize * settings.scale * 0.5));
+  const double radius =
+      std::max(1.0, std::min<double>(settings.select_delta, settings.gridsize * settings.scale * 0.5));
+  if (!settings.careful_tools || settings.scale <= 0) return radius;
+  return std::max(radius, settings.select_delta / double(settings.scale));
 }
 
 bool pickVertex(const brush& b, const vec3& point, int orientation, double radius) {

@@ -8,7 +8,7 @@
 namespace velk {
 
 // How far from a corner a press may be: select_delta, at most half a grid step as the view shows it, at
-// least 1.
+// least 1. With careful tools never less than select_delta pixels of the view.
 double VertexPickRadius(const Settings& settings);
 
 // Whether a corner of the brush lies within `radius` (world units) of the point, by its coordinates on the

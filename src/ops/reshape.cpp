@@ -72,7 +72,8 @@ Outcome ReplaceByBox(map& m, bool careful, const char* status, Shape&& shape) {
   std::vector<std::unique_ptr<brush>> parts;
   std::unique_ptr<brush> box = BoxFor(m, seed, shape);
   if (!box->invalid) parts.push_back(std::move(box));
-  if (!parts.empty() || !careful) Replace(m, seed, std::move(parts));
+  if (parts.empty() && careful) return Outcome::Said(kNoBoxFits);
+  Replace(m, seed, std::move(parts));
   return Outcome::Drawn(Redraw::All, status);
 }
 
@@ -149,15 +150,15 @@ Outcome SetHeight(map& m, int height, bool careful) {
   return ReplaceByBox(m, careful, kHeightSet, HeightOf(height));
 }
 
-std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height) {
+std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height, bool careful) {
   std::vector<std::unique_ptr<brush>> boxes;
-  const Seed seed = TakeSeed(m, false);
+  const Seed seed = TakeSeed(m, careful);
   if (seed.at && height >= 1) boxes.push_back(BoxFor(m, seed, HeightOf(height)));
   return boxes;
 }
 
 Outcome ExtrudeSelection(map& m, int thickness, bool careful) {
-  if (!IsWallThickness(thickness)) return {};
+  if (!IsWallThickness(thickness)) return careful ? Outcome::Said(kBadThickness) : Outcome{};
   const Seed seed = TakeSeed(m, careful);
   if (!seed.at) return seed.refusal;
   Slabs slabs = MakeSlabs(m, seed, thickness, careful);

@@ -16,6 +16,7 @@ inline constexpr char kMadeShort[] = "Made selected brush short...";
 inline constexpr char kHeightTitle[] = "Set Brush Height";  // of the input box, and of the undo copy
 inline constexpr char kHeightPrompt[] = "Enter height for brush...";
 inline constexpr char kHeightSet[] = "Resized height of selected brush...";
+inline constexpr char kNoBoxFits[] = "Nothing valid comes of it, brush kept...";  // careful tools
 inline constexpr char kBadHeight[] = "Bad height...";
 inline constexpr char kExtruding[] = "Extruding selected brush...";
 inline constexpr char kExtrudeNothing[] = "Nothing to extrude...";  // careful tools
@@ -24,6 +25,7 @@ inline constexpr char kLeftOut[] = " %i left out";
 // Of walls of any kind, in world units: asked for with the query_wall_width setting, else the grid's size.
 inline constexpr char kWallTitle[] = "Set Wall Thickness";
 inline constexpr char kWallPrompt[] = "Enter wall thickness (1-1024)...";
+inline constexpr char kBadThickness[] = "Bad thickness...";
 inline constexpr int kThinnestWall = 1;
 inline constexpr int kThickestWall = 1024;
 // Walls of other thicknesses are not made.
@@ -40,7 +42,7 @@ Outcome MakeTall(map& m, bool careful);
 Outcome MakeShort(map& m, bool careful);
 Outcome SetHeight(map& m, int height, bool careful);
 // The box that would come of it, in no list; none without one selected brush.
-std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height);
+std::vector<std::unique_ptr<brush>> BoxOfHeight(map& m, int height, bool careful);
 
 // Puts a slab of that thickness on the outside of every face of the one selected brush, in place of the
 // brush, all selected. A thickness out of range does nothing. Careful: as above; slabs that come out invalid

@@ -138,7 +138,8 @@ class Subtraction {
 Outcome subtractSelection(map& m, bool careful, const SubtractProgress& progress) {
   entity* e = m.currentEntity();
   if (!e) return {};
-  if (careful && (m.selectedCount() == 0 || !e->isModel)) return Outcome::Said(kNothingToSubtract);
+  if (careful && m.selectedCount() == 0) return Outcome::Said(kNothingToSubtract);
+  if (careful && !e->isModel) return Outcome::Said(kBoxesDoNotCut);
   MapMarks marks(m);
   Subtraction subtraction(m, *e, progress);
   if (!subtraction.run()) return Outcome::Drawn(Redraw::All, kSubtractStopped);

@@ -10,6 +10,7 @@
 namespace velk {
 
 inline constexpr char kSubtracting[] = "Subtracting selection...";
+inline constexpr char kBoxesDoNotCut[] = "Boxes of point entities do not cut...";
 inline constexpr char kNothingToSubtract[] = "Must have at least one selected brush...";  // careful tools
 inline constexpr char kSubtractStopped[] = "Subtraction stopped...";
 // Shown while it runs, at these pixels of the camera view's picture.

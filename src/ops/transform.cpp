@@ -99,10 +99,6 @@ Outcome Apply(map& m, const Matrix& matrix, bool reverse, bool careful, const ch
   return Outcome::Drawn(Redraw::All, WithTexturesLeft(status, left));
 }
 
-int ApplyRounded(map& m, const Matrix& matrix, bool careful) {
-  return ApplyToSelection(m, RoundedTransform(matrix, SelectionPivot(m), careful));
-}
-
 }  // namespace
 
 Matrix MirrorMatrix(int axis) {
@@ -145,7 +141,7 @@ Matrix ScaleMatrix(double x, double y, double z) {
 }
 
 Transform RoundedTransform(const Matrix& matrix, const vec3& centre, bool careful) {
-  return {matrix, centre, true, careful && Determinant(matrix) < 0};
+  return {matrix, centre, true, careful && Determinant(matrix) < 0, careful};
 }
 
 std::string WithTexturesLeft(std::string status, int faces) {
@@ -196,15 +192,28 @@ Outcome QuarterTurnSelection(map& m, int axis, bool careful) {
   return Apply(m, QuarterTurnMatrix(axis), false, careful, kQuarterTurned[axis]);
 }
 
-int ApplyToSelection(map& m, const Transform& transform) {
+Outcome ApplyToSelection(map& m, const Transform& transform, std::string status) {
   m.modified = true;
   int left = 0;
+  int tooThin = 0;
+  std::vector<face> before;
   VisitBrushes(m, BrushFilter::Every, [&](brush& b) {
     if (!b.selected()) return;
-    left += TransformOrMove(b, transform);
-    if (b.invalid) DestroyBrush(b);
+    const bool keeps = transform.keepThin && !b.invalid;
+    if (keeps) before = b.faces();
+    const int leftHere = TransformOrMove(b, transform);
+    if (!b.invalid) {
+      left += leftHere;
+    } else if (keeps) {
+      b.editFaces() = before;
+      b.buildWindings();
+      ++tooThin;
+    } else {
+      DestroyBrush(b);
+    }
   });
-  return left;
+  if (tooThin > 0) status += Format(kTooThinToTransform, tooThin);
+  return Outcome::Drawn(Redraw::All, WithTexturesLeft(std::move(status), left));
 }
 
 std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform) {
@@ -219,14 +228,14 @@ std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& t
 
 Outcome RotateSelection(map& m, int roll, int pitch, int yaw, bool careful) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  const int left = ApplyRounded(m, RotationMatrix(roll, pitch, yaw), careful);
-  return Outcome::Drawn(Redraw::All, WithTexturesLeft("", left));
+  const Matrix matrix = RotationMatrix(roll, pitch, yaw);
+  return ApplyToSelection(m, RoundedTransform(matrix, SelectionPivot(m), careful), "");
 }
 
 Outcome ScaleSelection(map& m, double x, double y, double z, bool careful) {
   if (m.totalSelected() == 0) return Outcome::Said(kMustHaveSelected);
-  const int left = ApplyRounded(m, ScaleMatrix(x, y, z), careful);
-  return Outcome::Drawn(Redraw::All, WithTexturesLeft(kScaled, left));
+  const Matrix matrix = ScaleMatrix(x, y, z);
+  return ApplyToSelection(m, RoundedTransform(matrix, SelectionPivot(m), careful), kScaled);
 }
 
 }  // namespace velk

@@ -21,6 +21,7 @@ inline constexpr char kRotateFields[][24] = {"Roll (deg.) (X axis)", "Pitch (deg
                                              "Yaw (deg.) (Z axis)"};
 inline constexpr char kScaleTitle[] = "Scale Brush...";
 inline constexpr char kScaled[] = "Scaled selected brush...";
+inline constexpr char kTooThinToTransform[] = " %i too thin";  // added to a status
 inline constexpr char kScaleCancelled[] = "Couldn't scale brush...";
 
 // Row by row.
@@ -40,10 +41,12 @@ Matrix ScaleMatrix(double x, double y, double z);
 struct Transform {
   Matrix matrix;
   vec3 centre;
-  bool whole = false;    // points are rounded to whole numbers
-  bool reverse = false;  // faces are turned round afterwards, so that a mirrored brush is solid again
+  bool whole = false;     // points are rounded to whole numbers
+  bool reverse = false;   // faces are turned round afterwards, so that a mirrored brush is solid again
+  bool keepThin = false;  // brushes that would come out invalid stay as they are
 };
-// Fits the matrix into a whole-numbered transform; careful: a matrix that mirrors reverses faces.
+// Fits the matrix into a whole-numbered transform; careful: a matrix that mirrors reverses faces, and
+// brushes that would come out invalid stay.
 Transform RoundedTransform(const Matrix& matrix, const vec3& centre, bool careful);
 
 // Moves the points of a brush and rebuilds it. Good for copies that a view draws. Returns how many faces
@@ -64,9 +67,9 @@ Outcome QuarterTurnSelection(map& m, int axis, bool careful);
 std::string WithTexturesLeft(std::string status, int faces);
 
 // Applies a whole-numbered transform to every selected brush, those of hidden groups too. Boxes of point
-// entities are moved; brushes that come out invalid are destroyed. Returns how many faces could not carry
-// their texture along.
-int ApplyToSelection(map& m, const Transform& transform);
+// entities are moved; brushes that come out invalid are destroyed, or kept and counted. The status says how
+// many, and how many faces could not carry their texture along.
+Outcome ApplyToSelection(map& m, const Transform& transform, std::string status);
 // Copies of the selected brushes as that would leave them, for ghosts in the views; they are in no list.
 std::vector<std::unique_ptr<brush>> TransformedCopies(map& m, const Transform& transform);
 

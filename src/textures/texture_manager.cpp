@@ -71,14 +71,23 @@ void TextureManager::reload(Wad& wad, const WadProgressSink& progress) {
   ++generation_;
 }
 
-int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& progress) {
+bool TextureManager::hasMapWads(const map& m, const TextureSet& set) const {
+  std::vector<std::string> names;
+  if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
+  names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
+  return std::ranges::equal(names, set.wads(), [](const std::string& name, const Wad* wad) {
+    return EqualNoCase(FileNamePart(name), FileNamePart(wad->path));
+  });
+}
+
+int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& progress, bool keepSlots) {
   std::vector<std::string> names;
   if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
   names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
   const size_t before = wads_.size();
   std::vector<Wad*> wads;
   for (const std::string& name : names) wads.push_back(&openWad(name, progress));
-  buildMapTextures(m, set, std::move(wads));
+  buildMapTextures(m, set, std::move(wads), keepSlots);
   return static_cast<int>(wads_.size() - before);
 }
 

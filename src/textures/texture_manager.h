@@ -33,7 +33,10 @@ class TextureManager {
   Wad& openWad(const std::string& name, const WadProgressSink& progress);
   // Finds or loads the wads of the world's "wad" value (file names parted by ';', at most 8) and builds
   // the map's textures. Returns how many wads were loaded.
-  int openMapWads(map& m, TextureSet& set, const WadProgressSink& progress);
+  // keepSlots: see buildMapTextures.
+  int openMapWads(map& m, TextureSet& set, const WadProgressSink& progress, bool keepSlots = false);
+  // Whether the set was built of the wads that the world's "wad" value names by now.
+  bool hasMapWads(const map& m, const TextureSet& set) const;
 
   // The wads whose files are others than when they were read. Those that are gone stay as they are.
   std::vector<Wad*> changedWads() const;

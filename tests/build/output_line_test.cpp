@@ -51,7 +51,8 @@ TEST(OutputLine, MarksAndPlaces) {
 }
 
 TEST(OutputLine, LinesOfAMapLeadToTheirBrush) {
-  const std::string text = "// { not counted\n{\n\"classname\" \"a { b\"\n" + test::Cube(0) + test::Cube(1) +
+  const std::string text = "// { not counted\n{\n\"classname\" \"a { b\"\n" +
+                           test::Cube(0, "{grate 0 0 0 1 1") + test::Cube(1) +
                            "}\n{\n\"classname\" \"light\"\n}\n";
   const auto placed = [&](int line) {
     const MapPlace place = PlaceOfLine(text, line);

@@ -4,11 +4,13 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTest>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
 #include "application.h"
 #include "desktop/windows/brush_window.h"
+#include "desktop/windows/build_window.h"
 #include "desktop/windows/entity_window.h"
 #include "desktop/windows/group_window.h"
 #include "support/session.h"
@@ -96,6 +98,23 @@ TEST_F(ToolWindows, TypedNumbersChangeTheCurrentFaceAlone) {
   Q_EMIT rotation.editingFinished();
   EXPECT_EQ(shown.faces()[0].texture.rotate, 45);
   EXPECT_EQ(shown.faces()[1].texture.rotate, 0);
+}
+
+TEST_F(ToolWindows, AClickOnAFindingSelectsWhatItIsOfAndStaysChosen) {
+  BuildPanel& panel = session.editor.panels().build;
+  panel.check();
+  TBuildWindow window(session.editor, nullptr);
+  window.resize(400, 300);
+  window.show();
+  auto& lines = *window.findChild<BuildLines*>();
+  const auto lists = window.findChildren<QListView*>();
+  QListView& list =
+      **std::ranges::find_if(lists, [&](const QListView* shown) { return shown->model() == &lines; });
+  const auto found = std::ranges::find(panel.findings(), 1, &CheckFinding::entityNumber);
+  const auto row = static_cast<int>(found - panel.findings().begin());
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(lines.index(row)).center());
+  EXPECT_TRUE(session.current().at(1)->at(0)->selected());
+  EXPECT_EQ(list.currentIndex().row(), row);
 }
 
 }  // namespace

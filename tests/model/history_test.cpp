@@ -20,7 +20,7 @@ TEST_F(HistoryTest, OneSelectedBrushComesBackAlone) {
   moved.select(true);
   brush& other = cube(1);
   History history;
-  history.save(m, "Rotate Brush", UndoMode::Selection, kClassic);
+  history.keep(History::copyOf(m, UndoMode::Selection), "Rotate Brush", kClassic);
   moved.translate(kStep);
   other.translate(kStep);
   EXPECT_EQ(history.undoName(), "Rotate Brush");
@@ -40,12 +40,12 @@ TEST_F(HistoryTest, AOneBrushCopyOutlivesItsBrushAndItsEntity) {
   part.select(true);
   m.setCurrentEntity(&door);
   History history;
-  history.save(m, "", UndoMode::Selection, kClassic);
+  history.keep(History::copyOf(m, UndoMode::Selection), "", kClassic);
   DestroyBrush(part);
   ASSERT_TRUE(history.undo(m, kClassic));
   EXPECT_EQ(door.numbrushes(), 2);
 
-  history.save(m, "", UndoMode::Selection, kClassic);
+  history.keep(History::copyOf(m, UndoMode::Selection), "", kClassic);
   door.setKey("speed", "9");
   while (m.numentities() > 1) DestroyBrush(*m.at(1)->at(0));
   ASSERT_TRUE(history.undo(m, kClassic));
@@ -58,9 +58,9 @@ TEST_F(HistoryTest, AOneBrushCopyOutlivesItsBrushAndItsEntity) {
 TEST_F(HistoryTest, TheClassicLevelKeepsOnlyTheLastCopyOfAnyKind) {
   cube(0);
   History history;
-  history.save(m, "first", UndoMode::All, kClassic);
+  history.keep(History::copyOf(m, UndoMode::All), "first", kClassic);
   m.groups.rename(0, "before");
-  history.save(m, "Rename Group", UndoMode::Groups, kClassic);
+  history.keep(History::copyOf(m, UndoMode::Groups), "Rename Group", kClassic);
   m.groups.rename(0, "after");
   cube(1);
   ASSERT_TRUE(history.undo(m, kClassic));
@@ -127,7 +127,7 @@ TEST_F(HistoryTest, ARepeatJoinsTheLastLevelUntilSomethingComesBetween) {
         history.undo(m, kThree);
         history.redo(m);
       },
-      [&] { history.save(m, "nudge", UndoMode::All, kThree); },
+      [&] { history.keep(History::copyOf(m, UndoMode::All), "nudge", kThree); },
       [&] { history.close(); },
   };
   for (const auto& happens : between) {
@@ -217,7 +217,7 @@ TEST_F(HistoryTest, AWorkingCopyIsOfTheCameraViewsBrush) {
   brush& worked = cube(0);
   cube(1).select();
   History history;
-  history.save(m, "Shift Texture", UndoMode::Working, kClassic, &worked);
+  history.keep(History::copyOf(m, UndoMode::Working, &worked), "Shift Texture", kClassic);
   for (brush& b : world().brushes()) b.translate(kStep);
   ASSERT_TRUE(history.undo(m, kClassic));
   EXPECT_EQ(world().at(0)->mins.x, 0);

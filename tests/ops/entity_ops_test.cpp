@@ -29,10 +29,24 @@ TEST_F(EntityOpsTest, OriginMovesThePointEntityOnlyWithCare) {
   for (const bool careful : {false, true}) {
     settings.careful_tools = careful;
     entity& light = addPoint("light", {0, 0, 0});
-    SetPair(light, "origin", "64 -32 8");
+    SetPair(light, " origin", "64 -32 8");
     EXPECT_EQ(light.valueOfKey("origin"), careful ? "64 -32 8" : "0 0 0");
     SetPair(light, "origin", "nowhere");
     EXPECT_EQ(test::Bounds(*light.at(0)), careful ? "56..72 -40..-24 0..16" : "-8..8 -8..8 -8..8");
+  }
+}
+
+TEST_F(EntityOpsTest, AnotherClassKeepsTheOriginOnlyWithCare) {
+  for (const bool careful : {false, true}) {
+    settings.careful_tools = careful;
+    entity& light = addPoint("light", {64, 0, 0});
+    light.at(0)->select();
+    SetPair(light, "classname", "info_player_start");
+    EXPECT_EQ(light.valueOfKey("origin"), careful ? "64 0 0" : "72 8 16");
+    EXPECT_EQ(test::Bounds(*light.at(0)), careful ? "48..80 -16..16 -24..32" : "56..72 -8..8 -8..8");
+    SetPair(light, "classname", "not_a_class");
+    EXPECT_EQ(light.valueOfKey("origin"), careful ? "64 0 0" : "56 -8 -8");
+    EXPECT_TRUE(light.at(0)->selected());
   }
 }
 

@@ -53,5 +53,24 @@ TEST_F(MakeEntityTest, AFixedSizeReplacesTheSelectionOrStandsAtTheCamera) {
   EXPECT_EQ(summary(), "worldspawn  light - light - info_player_start *") << "no seed stays behind";
 }
 
+TEST_F(MakeEntityTest, AFixedSizeJoinsAGroupWithCareInGroupMode) {
+  m.groups.add("lamps");
+  m.groups.add("walls");
+  for (const bool careful : {false, true}) {
+    settings.groupmode = settings.careful_tools = careful;
+    const auto groupOf = [&] {
+      const int made = MakeEntity(m, "light", vec3{0, 0, 0}, 1).made->at(0)->group();
+      m.setCurrentEntity(m.world());
+      m.MGPerform(Method::Deselect);
+      return made;
+    };
+    EXPECT_EQ(groupOf(), careful ? 1 : 0);
+    brush& seed = box({0, 0, 0}, {32, 32, 32});
+    seed.setGroup(2);
+    seed.select();
+    EXPECT_EQ(groupOf(), careful ? 2 : 0);
+  }
+}
+
 }  // namespace
 }  // namespace velk

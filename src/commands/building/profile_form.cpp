@@ -8,19 +8,29 @@ namespace {
 constexpr const char* kNote =
     "Each line is a program and its arguments.\n"
     "%map% is the map's file, %bsp% the level's, %name% the name without folder and ending,\n"
-    "%wads% the wads. Without any step the profile is removed.";
+    "%wads% the wads. Without any step the profile is removed; without a name only the\n"
+    "program to play with is kept.";
 
 std::filesystem::path FileOf(const Editor& editor) { return editor.place().home / "velkbuild.ini"; }
 
 std::string StepName(size_t i) { return Format("step%zu", i + 1); }
 
+// `taken` are the names of the other profiles.
+std::optional<FormRefusal> RefusalOf(std::string_view name, const std::vector<std::string>& taken) {
+  for (const BatchFile& batch : kBatchFiles) {
+    if (EqualNoCase(name, batch.name)) return FormRefusal{"The batch files' names are taken.", "name"};
+  }
+  for (const std::string& other : taken) {
+    if (EqualNoCase(name, other)) return FormRefusal{"There is a profile of that name.", "name"};
+  }
+  return std::nullopt;
+}
+
 Form FormOf(const BuildProfile& profile, const BuildProfiles& profiles) {
   Form form;
   form.title = "Build Profile";
   form.note = kNote;
-  FormField name = TextField("name", "Name", profile.name);
-  for (const BuildProfile& own : profiles.own) name.choices.push_back(own.name);
-  form.fields = {name, TextField("before", "Before", profile.before)};
+  form.fields = {TextField("name", "Name", profile.name), TextField("before", "Before", profile.before)};
   for (size_t i = 0; i < BuildProfile::kMostSteps; ++i) {
     form.fields.push_back(
         TextField(StepName(i), Format("Step %zu", i + 1), i < profile.steps.size() ? profile.steps[i] : ""));
@@ -28,14 +38,11 @@ Form FormOf(const BuildProfile& profile, const BuildProfiles& profiles) {
   form.fields.push_back(TextField("after", "After", profile.after));
   form.fields.push_back(TextField("play", "Play with", profiles.play));
   for (FormField& field : form.fields) field.maxLength = 1000;
-  form.check = [](Form& filled) -> std::optional<FormRefusal> {
-    const std::string wanted(Trimmed(filled.text("name")));
-    for (const BatchFile& batch : kBatchFiles) {
-      if (EqualNoCase(wanted, batch.name)) return FormRefusal{"The batch files' names are taken.", "name"};
-    }
-    if (wanted.empty()) return FormRefusal{"The profile needs a name.", "name"};
-    return std::nullopt;
-  };
+  std::vector<std::string> taken;
+  for (const BuildProfile& own : profiles.own) {
+    if (own.name != profile.name) taken.push_back(own.name);
+  }
+  form.check = [taken](Form& filled) { return RefusalOf(Trimmed(filled.text("name")), taken); };
   return form;
 }
 
@@ -71,6 +78,8 @@ Outcome EditProfiles(Editor& editor) {
   if (editor.services().prompts.fill(form) == FormAnswer::Cancel) return {};
   const BuildProfile filled = ProfileOf(form);
   profiles.play = form.text("play");
+  // Without a name there is only the program to play with.
+  if (filled.name.empty()) return Store(editor, profiles);
   if (filled.steps.empty()) {
     profiles.remove(filled.name);
     profiles.chosen = BuildProfiles{}.chosen;

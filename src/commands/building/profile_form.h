@@ -10,7 +10,7 @@ namespace velk {
 BuildProfiles LoadProfiles(const Editor& editor);
 
 // Edits a profile of the user's own, or makes another one; it is the chosen one then. One without a step is
-// removed.
+// removed; without a name only the program to play with is kept.
 Outcome EditProfiles(Editor& editor);
 // Chooses one by its number, the six first.
 Outcome ChooseProfile(Editor& editor, int number);

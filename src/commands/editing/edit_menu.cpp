@@ -7,6 +7,7 @@
 #include "commands/editing/repeat.h"
 #include "commands/editing/solid_commands.h"
 #include "commands/editing/transform_commands.h"
+#include "commands/making/maker_commands.h"
 #include "ops/clipboard.h"
 #include "ops/move_selection.h"
 
@@ -35,25 +36,27 @@ std::string RedoLabel(const Editor& editor) {
 }
 
 // Every window shows the map as it was then.
-Outcome Restored(const char* status) {
+Outcome Restored(Editor& editor, const char* status) {
+  editor.panels().build.historyMoved();
   Outcome outcome = Outcome::Drawn(Redraw::All, status);
   outcome.maps = true;
   return outcome;
 }
 
 Outcome SaveForUndo(Editor& editor, map& m) {
-  HistoryOf(editor).save(m, "Saving for undo...", UndoMode::All, History::Limits::of(editor.settings()));
+  HistoryOf(editor).keep(History::copyOf(m, UndoMode::All), "Saving for undo...",
+                         History::Limits::of(editor.settings()));
   return Outcome::Said("Saved for undo...");
 }
 
 Outcome UndoChange(Editor& editor, map& m) {
   if (!HistoryOf(editor).undo(m, History::Limits::of(editor.settings()))) return {};
-  return Restored("Undo...");
+  return Restored(editor, "Undo...");
 }
 
 Outcome RedoChange(Editor& editor, map& m) {
   if (!HistoryOf(editor).redo(m)) return {};
-  return Restored("Redo...");
+  return Restored(editor, "Redo...");
 }
 
 Outcome CopyToClipboard(Editor& editor, map& m) {
@@ -110,7 +113,7 @@ const Command kRows[] = {
     {.id = 166, .name = "CM_SUBTRACT", .menu = "&Edit", .startsGroup = true,
      .label = "Subtract", .keyText = "F12",
      .keys = "F12", .hint = "Subtract selected brushes from world", .enabled = MapOpen,
-     .run = Subtract},
+     .run = Subtract, .caption = kCannotMake, .failure = kNoRoomForMade},
     {.id = 1331, .name = "CM_HOLLOW", .menu = "&Edit", .label = "&Hollow...",
      .hint = "Make shells of the selected brushes, walls inwards", .enabled = MapOpen, .run = Hollow},
     {.id = 1332, .name = "CM_MERGE_BRUSHES", .menu = "&Edit", .label = "Mer&ge",
@@ -143,7 +146,8 @@ const Command kRows[] = {
     {.id = 1346, .name = "CM_ALIGN_CENTRE", .menu = "&Edit|&Align", .label = "&Centre",
      .hint = "Align the selected brushes in the middle of their bounds", .enabled = MapOpen,
      .run = With<Align, Alignment::Centre>, .undoName = "Align"},
-    {.id = 299, .menu = "&Edit", .label = "Leak Search...", .hint = "Search for leaks.", .enabled = MapOpen,
+    {.id = 299, .name = "CM_LEAK_SEARCH", .menu = "&Edit", .label = "Leak Search...",
+     .hint = "Search for leaks.", .enabled = MapOpen,
      .run = SearchLeaks},
     {.id = 1415, .name = "CM_CHECK_MAP", .menu = "&Edit", .label = "Check Map...", .keyText = "Shift-F7",
      .keys = "Shift+F7", .hint = "Look for what a compiler or the game would trip over", .enabled = MapOpen,

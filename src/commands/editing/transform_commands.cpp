@@ -87,7 +87,7 @@ Outcome AskScale(Editor& editor, map& m) {
   Form form = TitledForm(kScaleTitle);
   constexpr const char* kNames[] = {"x", "y", "z"};
   constexpr const char* kLabels[] = {"X Scale", "Y Scale", "Z Scale"};
-  const NumberRange range{.low = -1000, .high = 1000, .step = 0.1, .decimals = 3};
+  const NumberRange range{.low = -1000, .high = 1000, .step = 0.1, .decimals = 6};
   for (size_t i = 0; i < 3; ++i) {
     form.fields.push_back(RealField(kNames[i], kLabels[i], factors[i], range));
   }
@@ -120,7 +120,7 @@ Outcome AskHeight(Editor& editor, map& m) {
   if (m.totalSelected() != 1) return Outcome::Said(kMustHaveOneSelected);
   const auto answer = AskWithPreview(
       editor, {.title = kHeightTitle, .prompt = kHeightPrompt, .text = Format("%i", SuggestedHeight(m))},
-      [&m](const std::string& text) { return BoxOfHeight(m, TextToInt(text)); });
+      [&](const std::string& text) { return BoxOfHeight(m, TextToInt(text), Careful(editor)); });
   return answer ? SetHeight(m, TextToInt(*answer), Careful(editor)) : Outcome{};
 }
 

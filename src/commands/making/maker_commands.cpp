@@ -24,10 +24,18 @@ Params Wanted(const Form& form, Params params) {
   return params;
 }
 
+// With care what is made stays with the seed.
+MadeFor OwnerBy(const MakerRules& rules, MadeFor classic) {
+  return rules.careful ? MadeFor::SeedsOwner : classic;
+}
+
 // False when the form was cancelled; then the values stay as they are. `make` builds what is shown meanwhile.
 template <class Params, class Make>
 bool Ask(Editor& editor, Form form, Params& params, Make&& make) {
-  const auto ghosts = [&](const Form& now) { return make(Wanted(now, params)).brushes; };
+  const auto ghosts = [&](const Form& now) {
+    Made made = make(Wanted(now, params));
+    return made.tooMany ? Brushes{} : std::move(made.brushes);
+  };
   if (!FillWithPreview(editor, form, ghosts)) return false;
   Read(form, params);
   return true;
@@ -57,14 +65,10 @@ Outcome MakeByNumbers(Editor& editor, map& m, Params& params, const MakerTexts& 
   if (!Ask(editor, FormOf(params), params, made)) return Cancelled(texts.notMade);
   return MakeRepeatably(editor, m, [&editor, &texts, make, wanted = params](map& now, brush& seed) {
     const MakerRules rules = RulesOf(editor);
-    return ReplaceSeed(now, seed, make(SeedOf(seed), wanted, rules),
-                       {.careful = rules.careful, .status = texts.made});
+    return ReplaceSeed(
+        now, seed, make(SeedOf(seed), wanted, rules),
+        {.owner = OwnerBy(rules, MadeFor::World), .careful = rules.careful, .status = texts.made});
   });
-}
-
-// With care what is made stays with the seed.
-MadeFor OwnerBy(const MakerRules& rules, MadeFor classic) {
-  return rules.careful ? MadeFor::SeedsOwner : classic;
 }
 
 std::shared_ptr<MadePicture> PictureOf(Editor& editor, const Seed& seed,
@@ -141,7 +145,7 @@ Outcome BuildRoom(Editor& editor, map& m, int thickness) {
   const MakerRules rules = RulesOf(editor);
   brush* seed = OnlySelected(m);
   if (!seed || !IsWallThickness(thickness)) {
-    if (rules.careful) return Outcome::Said(seed ? kNothingMade : kNotOneSelected);
+    if (rules.careful) return Outcome::Said(seed ? kBadThickness : kNotOneSelected);
     return Outcome::Drawn(Redraw::All, kRoomTexts.made);
   }
   return ReplaceSeed(
@@ -154,7 +158,8 @@ Outcome BuildRevolved(Editor& editor, map& m, brush& seed, const std::optional<P
   const MakerRules rules = RulesOf(editor);
   Made made = MakeRevolved(SeedOf(seed), profile.value_or(Profile{}), params, rules);
   return ReplaceSeed(m, seed, std::move(made),
-                     {.careful = rules.careful,
+                     {.owner = OwnerBy(rules, MadeFor::World),
+                      .careful = rules.careful,
                       .status = kRevolveTexts.made,
                       .nothing = profile ? kNothingMade : kProfileUnread});
 }
@@ -163,7 +168,9 @@ Outcome BuildBox(Editor& editor, map& m, const BoxParams& params) {
   const MakerRules rules = RulesOf(editor);
   Made made = MakeBox(params, editor.texture().current(), editor.panels().groups.current(), rules);
   if (rules.careful && made.brushes.empty()) return Outcome::Said(kNoBoxMade);
-  PlaceBrushes(m, *m.currentEntity(), std::move(made));
+  // A point entity's brushes are in no file.
+  entity& owner = rules.careful && !m.currentEntity()->isModel ? *m.world() : *m.currentEntity();
+  PlaceBrushes(m, owner, std::move(made));
   return Outcome::Drawn(Redraw::All, kBoxTexts.made);
 }
 
@@ -244,7 +251,9 @@ Outcome MakeLightsInPlace(Editor& editor, map& m) {
     return Cancelled(kLightsTexts.notMade);
   }
   return MakeRepeatably(editor, m,
-                        [wanted = params](map& now, brush& seed) { return MakeLights(now, seed, wanted); });
+                        [wanted = params, careful = RulesOf(editor).careful](map& now, brush& seed) {
+                          return MakeLights(now, seed, wanted, careful);
+                        });
 }
 
 Outcome RevolveInPlace(Editor& editor, map& m) {

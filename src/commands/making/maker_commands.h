@@ -9,6 +9,12 @@
 
 namespace velk {
 
+// What the box says when an entity or the map has no room for what was made.
+inline constexpr char kCannotMake[] = "Velk - Cannot Make";
+inline constexpr char kNoRoomForMade[] =
+    "The map has no room for the result: an entity holds 4096 brushes, a brush 64 faces, a map 1024 "
+    "entities.\n\n";
+
 // The thickness of walls: the grid size, or what the user says (query_wall_width), who is shown meanwhile
 // what `make` builds. None on Cancel.
 std::optional<int> WallThickness(Editor& editor, const std::function<Brushes(int thickness)>& make);

@@ -8,7 +8,7 @@
 namespace velk {
 namespace {
 
-constexpr int kDecimals = 3;  // of real numbers
+constexpr int kDecimals = 6;  // of real numbers
 
 NumberRange RangeOf(const MakerField& field) {
   return {.low = std::max(field.least, -NumberRange::kLargest),
@@ -112,7 +112,8 @@ Form FormOf(const LightParams& params, std::vector<std::string> types) {
     form.fields.push_back(Whole(kLightFields[axis], params.counts[axis]));
   }
   form.fields.push_back(Whole(kLightFields[3], params.value));
-  form.fields.push_back(ChoiceField(type.name, type.label, PlaceOf(types, params.type), std::move(types)));
+  const int chosen = PlaceOf(types, params.type);
+  form.fields.push_back(ChoiceField(type.name, type.label, chosen, std::move(types)));
   return form;
 }
 

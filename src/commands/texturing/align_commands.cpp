@@ -75,9 +75,10 @@ Outcome ReloadAllWads(Editor& editor) {
   ReloadWads(editor.documents(), editor.door(), editor.textures(), wads);
   // The map may name others by now.
   MapDocument* document = editor.documents().current();
-  if (!document) return {};
-  editor.door().attempt("Velk - Reload Wads", "",
-                        [&] { editor.textures().openMapWads(document->model, document->textures, {}); });
+  if (!document || editor.textures().hasMapWads(document->model, document->textures)) return {};
+  editor.door().attempt("Velk - Reload Wads", "", [&] {
+    editor.textures().openMapWads(document->model, document->textures, {}, true);
+  });
   Outcome outcome = Outcome::Drawn(Redraw::Camera);
   outcome.textures = true;
   return outcome;

@@ -44,6 +44,15 @@ void NumberBox::stepBy(int steps) {
   selectAll();
 }
 
+// Without the zeros that a number does not need.
+QString NumberBox::textFromValue(double value) const {
+  QString text = QDoubleSpinBox::textFromValue(value);
+  if (!text.contains('.')) return text;
+  while (text.endsWith('0')) text.chop(1);
+  if (text.endsWith('.')) text.chop(1);
+  return text;
+}
+
 // A comma is a decimal point, too.
 QValidator::State NumberBox::validate(QString& text, int& cursor) const {
   text.replace(',', '.');

@@ -17,6 +17,7 @@ class NumberBox : public QDoubleSpinBox {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
   void stepBy(int steps) override;
+  QString textFromValue(double value) const override;
   QValidator::State validate(QString& text, int& cursor) const override;
 
  protected:

@@ -250,6 +250,7 @@ void TVelkWindow::toolWindowsChanged(const Changes& what) {
   if (textures_ && what.entity) textures_->contentsChanged();
   if (entities_ && what.maps) entities_->reloadClasses();
   if (entities_ && (what.entity || what.selectedBrush)) entities_->refresh();
+  if (build_ && what.maps) build_->refresh();
   if (!groups_) return;
   if (what.groups || what.entity || what.maps) {
     groups_->refresh();
@@ -301,8 +302,11 @@ void TVelkWindow::helpRequested() {
 void TVelkWindow::buildRequested() {
   if (!build_) {
     build_ = new TBuildWindow(editor_, this);
-    addDockWidget(Qt::BottomDockWidgetArea, build_);
-    resizeDocks({build_}, {kBuildHeight}, Qt::Vertical);
+    // Where it was, when the frame's state was restored before it was made.
+    if (!restoreDockWidget(build_)) {
+      addDockWidget(Qt::BottomDockWidgetArea, build_);
+      resizeDocks({build_}, {kBuildHeight}, Qt::Vertical);
+    }
   }
   build_->follow();
 }

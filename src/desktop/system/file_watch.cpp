@@ -5,6 +5,7 @@
 #include <QFile>
 #include <chrono>
 
+#include "build/leak_watch.h"
 #include "desktop/system/path_text.h"
 
 namespace velk {
@@ -40,7 +41,11 @@ void FileWatch::follow() {
     const std::filesystem::path actual = std::filesystem::weakly_canonical(file, failed);
     wanted << PathText(actual.string()) << PathText(actual.parent_path().string());
   };
-  for (int i = 0; i < editor_.documents().count(); ++i) want(editor_.documents().at(i)->model.name);
+  for (int i = 0; i < editor_.documents().count(); ++i) {
+    const std::string& name = editor_.documents().at(i)->model.name;
+    want(name);
+    for (const std::string& leakFile : LeakFilesOf(name)) want(leakFile);
+  }
   for (const auto& wad : editor_.textures().wads()) want(wad->path);
   const QStringList before = watcher_.files() + watcher_.directories();
   for (const QString& path : before) {

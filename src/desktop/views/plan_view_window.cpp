@@ -72,7 +72,7 @@ void TXYViewWindow::drawOnTop(QPainter& painter) {
   painter.drawImage(0, 0, strip_);
 }
 
-void TXYViewWindow::focusInEvent(QFocusEvent*) { editor().views().plans.current = view(); }
+void TXYViewWindow::focusInEvent(QFocusEvent*) { editor().input().makeCurrent(view()); }
 
 // The strip has the palette's colours.
 void TXYViewWindow::changeEvent(QEvent* event) {

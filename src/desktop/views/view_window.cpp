@@ -29,6 +29,7 @@ void ViewWindow::paintEvent(QPaintEvent*) {
   if (stale_ || picture_.devicePixelRatio() != devicePixelRatioF()) {
     picture_ = drawPicture();
     stale_ = false;
+    if (underMouse()) showCursor();  // what is there became another, or a drag ended
   }
   QPainter painter(this);
   if (HasOverlay(editor_, view_)) {

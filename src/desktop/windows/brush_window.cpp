@@ -94,7 +94,8 @@ void TSelectedBrushWindow::useColours() {
   const ViewColours& colours = editor_.settings().colours;
   QPalette palette = faces_->palette();
   if (palette.color(QPalette::Base) == QtColour(colours.bgcolor) &&
-      palette.color(QPalette::Text) == QtColour(colours.fgcolor)) {
+      palette.color(QPalette::Text) == QtColour(colours.fgcolor) &&
+      palette.color(QPalette::HighlightedText) == QtColour(colours.color_curfacecolor)) {
     return;
   }
   palette.setColor(QPalette::Base, QtColour(colours.bgcolor));
@@ -103,6 +104,10 @@ void TSelectedBrushWindow::useColours() {
   palette.setColor(QPalette::HighlightedText, QtColour(colours.color_curfacecolor));
   palette.setColor(QPalette::Highlight, Between(QtColour(colours.bgcolor), QtColour(colours.fgcolor)));
   faces_->setPalette(palette);
+  QPalette heading = faces_->header()->palette();
+  heading.setColor(QPalette::Button, QtColour(colours.bgcolor));
+  heading.setColor(QPalette::ButtonText, QtColour(colours.fgcolor));
+  faces_->header()->setPalette(heading);
 }
 
 void TSelectedBrushWindow::choose(int index) { editor_.panels().brush.pick(index); }

@@ -34,8 +34,8 @@ QVariant ColourOf(Kind kind) {
 
 void BuildLines::refresh(size_t dropped) {
   const int now = panel_.lineCount();
-  // The list follows what is added behind; anything else is shown anew.
-  if (panel_.page() != page_ || dropped != dropped_ || now < count_ || page_ == BuildPanel::Page::Check) {
+  // The list follows what is added behind; anything else is shown anew. What was chosen stays so.
+  if (panel_.page() != page_ || dropped != dropped_ || now < count_) {
     beginResetModel();
     page_ = panel_.page();
     dropped_ = dropped;
@@ -46,6 +46,8 @@ void BuildLines::refresh(size_t dropped) {
     count_ = now;
     endInsertRows();
   }
+  // Another check, or what a line found is gone.
+  if (page_ == BuildPanel::Page::Check && count_ > 0) Q_EMIT dataChanged(index(0), index(count_ - 1));
 }
 
 QVariant BuildLines::data(const QModelIndex& index, int role) const {

@@ -101,7 +101,9 @@ void TBuildWindow::connectContents() {
   });
   connect(profiles_, &QComboBox::activated, this,
           [this](int number) { editor_.door().show(ChooseProfile(editor_, number)); });
-  connect(list_, &QListView::clicked, this, [&panel](const QModelIndex& index) { panel.pick(index.row()); });
+  for (const auto chosen : {&QListView::clicked, &QListView::activated}) {
+    connect(list_, chosen, this, [&panel](const QModelIndex& index) { panel.pick(index.row()); });
+  }
   connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { refresh(); });
   connect(list_, &QListView::customContextMenuRequested, this, &TBuildWindow::showMenu);
   panel.changed = [this] {

@@ -102,10 +102,18 @@ void EntityClassBox::choose(int index) {
   Q_EMIT chosen(index);
 }
 
-// Enter takes the first class that the text fits.
+void EntityClassBox::takePending() {
+  if (lineEdit()->text() != shown_) takeTyped();
+}
+
+// Enter takes the class of that name, otherwise the first one whose name holds the text.
 void EntityClassBox::takeTyped() {
-  completer()->setCompletionPrefix(lineEdit()->text());
-  const int index = findText(completer()->currentCompletion());
+  const QString typed = lineEdit()->text();
+  int index = findText(typed, Qt::MatchFixedString);
+  if (index < 0 && !typed.isEmpty()) {
+    completer()->setCompletionPrefix(typed);
+    index = findText(completer()->currentCompletion());
+  }
   if (index >= 0) {
     setCurrentIndex(index);
     choose(index);

@@ -33,6 +33,8 @@ class EntityClassBox : public QComboBox {
   // What is chosen, and the text shown with it, which may be no class's name.
   void show(int index, const QString& text);
   void reload();
+  // Takes what was typed but not entered yet.
+  void takePending();
 
  Q_SIGNALS:
   void chosen(int index);

@@ -4,8 +4,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPointer>
-#include <QTimer>
 
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
@@ -88,14 +86,17 @@ void EntityPairDelegate::setModelData(QWidget* editor, QAbstractItemModel* /*mod
   panel_.editPair(old, GivenText(PartOf(editor, "key")->text()), GivenText(PartOf(editor, "value")->text()));
 }
 
+// Closing takes the focus from the parts: they are not left a second time.
 void EntityPairDelegate::finish(QWidget* editor, bool take) {
+  for (const char* name : {"key", "value"}) PartOf(editor, name)->removeEventFilter(this);
   if (take) Q_EMIT commitData(editor);
   Q_EMIT closeEditor(editor, NoHint);
 }
 
-// Enter takes what was typed, and so does leaving both parts; Esc does not.
+// Enter takes what was typed, and so does leaving both parts, at once: a click elsewhere may begin a drag,
+// during which nothing is changed. Esc does not.
 bool EntityPairDelegate::eventFilter(QObject* watched, QEvent* event) {
-  const QPointer<QWidget> editor = qobject_cast<QWidget*>(watched->parent());
+  auto* editor = qobject_cast<QWidget*>(watched->parent());
   if (!qobject_cast<QLineEdit*>(watched) || !editor) return QStyledItemDelegate::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
@@ -104,10 +105,8 @@ bool EntityPairDelegate::eventFilter(QObject* watched, QEvent* event) {
     finish(editor, take);
     return true;
   }
-  if (event->type() == QEvent::FocusOut) {
-    QTimer::singleShot(0, this, [this, editor] {
-      if (editor && !editor->isAncestorOf(QApplication::focusWidget())) finish(editor, true);
-    });
+  if (event->type() == QEvent::FocusOut && !editor->isAncestorOf(QApplication::focusWidget())) {
+    finish(editor, true);
   }
   return false;
 }
@@ -125,8 +124,10 @@ EntityPairList::EntityPairList(EntityPanel& panel, QWidget* parent)
     panel_.pick(line.row());
     Q_EMIT picked();
   });
-  connect(this, &QListView::doubleClicked, this,
-          [this](const QModelIndex& line) { panel_.doubleClick(line.row()); });
+  connect(this, &QListView::doubleClicked, this, [this](const QModelIndex& line) {
+    panel_.doubleClick(line.row());
+    Q_EMIT picked();
+  });
   connect(this, &QListView::customContextMenuRequested, this, &EntityPairList::openMenu);
 }
 
@@ -134,6 +135,7 @@ void EntityPairList::openMenu(const QPoint& at) {
   if (!panel_.pick(indexAt(at).row())) panel_.pickNone();
   Q_EMIT picked();
   ShowMenu(panel_.contextMenu(), *viewport(), at);
+  Q_EMIT picked();
 }
 
 void EntityPairList::refresh() { pairs_->show(panel_.pairs()); }

@@ -60,6 +60,7 @@ class EntityPairList : public QListView {
   void refresh();
 
  Q_SIGNALS:
+  // What the fields show may be another pair, or none.
   void picked();
 
  private:

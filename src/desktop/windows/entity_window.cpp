@@ -84,7 +84,10 @@ QBoxLayout* EntityView::classRow() {
     panel().chooseClass(index);
     refresh();
   });
-  connect(make_, &QPushButton::clicked, this, [this] { panel().makeButton(); });
+  connect(make_, &QPushButton::clicked, this, [this] {
+    classes_->takePending();
+    panel().makeButton();
+  });
   return row;
 }
 
@@ -131,7 +134,10 @@ QBoxLayout* EntityView::fieldRow() {
     row->addWidget(tool);
   }
   row->addStretch();
-  connect(add, &QToolButton::clicked, this, [this] { panel().addPair(); });
+  connect(add, &QToolButton::clicked, this, [this] {
+    panel().addPair();
+    showFields();
+  });
   connect(remove, &QToolButton::clicked, this, [this] { panel().deleteKey(); });
   connect(colour_, &QToolButton::clicked, this, [this] { panel().askColour(); });
   connect(pairs_, &EntityPairList::picked, this, &EntityView::showFields);

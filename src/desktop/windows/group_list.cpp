@@ -98,14 +98,14 @@ QVariant GroupModel::data(const QModelIndex& index, int role) const {
   }
 }
 
-// What is done fills the list anew: not while the view is still at it.
+// What is done fills the list anew: not while the view is still at it. A name is taken at once, since a click
+// elsewhere may begin a drag, during which nothing is changed.
 bool GroupModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   const int row = index.row();
   if (role == Qt::CheckStateRole) {
     QTimer::singleShot(0, this, [this, row] { panel_.toggleVisible(row); });
   } else if (role == Qt::EditRole) {
-    QTimer::singleShot(0, this,
-                       [this, row, name = GivenText(value.toString())] { panel_.renameTo(row, name); });
+    panel_.renameTo(row, GivenText(value.toString()));
   }
   return true;
 }
@@ -141,8 +141,9 @@ TVelkGroupListBox::TVelkGroupListBox(GroupPanel& panel, QWidget* parent)
 }
 
 void TVelkGroupListBox::openMenu(const QPoint& at) {
-  if (!panel_.pick(indexAt(at).row())) panel_.pickNone();
+  panel_.pickForMenu(indexAt(at).row());
   ShowMenu(panel_.contextMenu(), *viewport(), at);
+  refresh();
 }
 
 void TVelkGroupListBox::refresh() {

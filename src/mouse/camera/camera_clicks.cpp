@@ -77,14 +77,16 @@ FacePick BrushUnder(const MouseContext& context, const PointerEvent& event) {
   return {hit, hit ? hit->currentFace() : -1};
 }
 
-// Lifts the texture under the press, when there is one.
+// Lifts the texture under the press, when there is one. The texture browser refuses that of a box that stands
+// for an entity.
 ToolStart Lift(const MouseContext& context, int code, const char* status, const char* undoName = "") {
   const FacePick& pick = context.camera.under;
   if (!pick.hit || pick.face < 0 || !context.texture) return {};
-  ToolStart start = Held(code, Redraw::Camera, status, undoName);
-  static_cast<HeldClick&>(*start.drag).restoreOnCancel(context.texture->current());
-  context.texture->liftTexture(TextureOf(pick), context.textures);
-  start.outcome.textures = true;
+  const texturedef before = context.texture->current();
+  const bool lifted = context.texture->liftTexture(TextureOf(pick), context.textures);
+  ToolStart start = Held(code, Redraw::Camera, lifted ? status : "", undoName);
+  static_cast<HeldClick&>(*start.drag).restoreOnCancel(before);
+  start.outcome.textures = lifted;
   return start;
 }
 
@@ -136,7 +138,7 @@ ToolStart LiftTextureClick(const MouseContext& context, const PointerEvent& /*ev
 ToolStart LiftAndApplyClick(const MouseContext& context, const PointerEvent& /*event*/) {
   ToolStart start =
       Lift(context, kLiftAndApplyCode, "Texture lifted and applied to selected brushes...", "Texture Brush");
-  if (start.claimed) ApplyToSelected(context.model, context.texture->current());
+  if (start.outcome.textures) ApplyToSelected(context.model, context.texture->current());
   return start;
 }
 

@@ -32,8 +32,9 @@ class BrushDrag : public Drag {
 
 bool HitsSelected(map& m, const PickRay& ray) {
   bool hit = false;
-  VisitBrushes(m, BrushFilter::Selected,
-               [&](const brush& b) { hit = hit || (!b.invalid && b.hitByRay(ray.start, ray.end).t >= 0); });
+  VisitBrushes(m, BrushFilter::Selected, [&](const brush& b) {
+    hit = hit || (!b.invalid && IsShown(m, b) && b.hitByRay(ray.start, ray.end).t >= 0);
+  });
   return hit;
 }
 

@@ -1,7 +1,6 @@
 #include "mouse/plan/face_drag.h"
 
 #include <cmath>
-#include <optional>
 
 #include "mouse/plan/point_drag.h"
 #include "mouse/view_ray.h"
@@ -13,9 +12,9 @@ constexpr PointDragKind kFacing{kFaceDragCode, "Drag XY Face", true};
 constexpr PointDragKind kCurrent{kCurrentFaceDragCode, "Drag Current Face", true};
 constexpr double kPointDepth = 2048;
 
-// Which faces look at the press is asked of a point far before the brush, with careful tools in the depth of
-// its middle: then a face that leans does not count where the brush itself is under the press. None there.
-std::optional<vec3> PointOf(const MouseContext& context, const brush& b, ViewPoint press) {
+}  // namespace
+
+std::optional<vec3> FaceDragPoint(const MouseContext& context, const brush& b, ViewPoint press) {
   const PlanView& view = context.plan();
   if (!context.settings.careful_tools) return InWorld(view, press, kPointDepth);
   const PickRay ray = RayAt(view, press);
@@ -24,14 +23,12 @@ std::optional<vec3> PointOf(const MouseContext& context, const brush& b, ViewPoi
   return InWorld(view, press, (double(b.mins[axis]) + b.maxs[axis]) / 2);
 }
 
-}  // namespace
-
 ToolStart StartFaceDrag(const MouseContext& context, const PointerEvent& event) {
   brush* b = OnlySelected(context.model);
   if (!b) return {};
   BeginPointDrag(context, kFacing);
   const PlanView& view = context.plan();
-  const std::optional<vec3> at = PointOf(context, *b, PointUnder(context, event));
+  const std::optional<vec3> at = FaceDragPoint(context, *b, PointUnder(context, event));
   if (!at) return {};
   std::vector<PlanePoint> points;
   for (int i = 0; i < b->numfaces(); ++i) {

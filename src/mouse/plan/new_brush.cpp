@@ -13,6 +13,26 @@ texturedef CurrentTexture(const MouseContext& context) {
   return context.texture ? context.texture->current() : texturedef{};
 }
 
+constexpr int kTextLeft = 16;  // right of the cursor, pixels
+
+// The corner of a box whose bits say on which axes it is the high one.
+vec3 CornerOf(const vec3& mins, const vec3& maxs, unsigned bits) {
+  vec3 corner = mins;
+  for (int axis = 0; axis < 3; ++axis) {
+    if (bits & (1U << axis)) corner[axis] = maxs[axis];
+  }
+  return corner;
+}
+
+void AddEdges(const vec3& mins, const vec3& maxs, Overlay& overlay) {
+  for (unsigned from = 0; from < 8; ++from) {
+    for (unsigned axis = 1; axis < 8; axis <<= 1U) {
+      if (from & axis) continue;
+      overlay.lines.emplace_back(CornerOf(mins, maxs, from), CornerOf(mins, maxs, from | axis));
+    }
+  }
+}
+
 class NewBrushDrag : public Drag {
  public:
   NewBrushDrag(brush& made, const vec3& first, const vec3& second)
@@ -49,6 +69,17 @@ class NewBrushDrag : public Drag {
     groups.setVisible(group, true);
     outcome.groups = true;
     return outcome;
+  }
+
+  // Where its group is hidden the box is seen only while it is drawn.
+  void draw(const DragState& state, Overlay& overlay) const override {
+    const map& m = made_.owner->parent();
+    if (made_.invalid || IsShown(m, made_)) return;
+    AddEdges(made_.mins, made_.maxs, overlay);
+    if (!m.settings().show_sizes || m.passesGroupFilter(made_)) return;
+    const vec3 size = subtract(made_.maxs, made_.mins);
+    overlay.texts.push_back(
+        {{state.now.at.x + kTextLeft, state.now.at.y}, Format("%g x %g x %g", size.x, size.y, size.z)});
   }
 
  private:

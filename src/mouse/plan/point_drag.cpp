@@ -60,7 +60,10 @@ bool CleanUpBrush(brush& b) {
   return false;
 }
 
-brush* OnlySelected(const map& m) { return m.totalSelected() == 1 ? m.firstSelected() : nullptr; }
+brush* OnlySelected(const map& m) {
+  brush* b = m.totalSelected() == 1 ? m.firstSelected() : nullptr;
+  return b && IsShown(m, *b) ? b : nullptr;
+}
 
 void BeginPointDrag(const MouseContext& context, const PointDragKind& kind) {
   if (context.saveUndo) context.saveUndo(kind.undoName, UndoMode::Selection, nullptr);

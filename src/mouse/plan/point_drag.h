@@ -19,7 +19,7 @@ void AddFacePoints(std::vector<PlanePoint>& points, int face);
 // Takes out faces without polygon and destroys a brush that is no solid; whether it is still there.
 bool CleanUpBrush(brush& b);
 
-// The one selected brush; none when there are several or none.
+// The one selected brush; none when there are several or none, or when it is hidden.
 brush* OnlySelected(const map& m);
 
 struct PointDragKind {

@@ -41,8 +41,8 @@ class RotateDrag : public Drag {
 
   Outcome finish(const MouseContext& context, const DragState& /*state*/) override {
     copies_.clear();
-    const int left = degrees_ != 0 ? ApplyToSelection(context.model, turn(context)) : 0;
-    return Outcome::Drawn(Redraw::All, WithTexturesLeft("", left));
+    if (degrees_ == 0) return Outcome::Drawn(Redraw::All);
+    return ApplyToSelection(context.model, turn(context), "");
   }
 
   void draw(const DragState& state, Overlay& overlay) const override {
@@ -57,8 +57,10 @@ class RotateDrag : public Drag {
 
  private:
   Transform turn(const MouseContext& context) const {
-    return RoundedTransform(TurnMatrix(context.plan().axisDepth, degrees_), centre_,
-                            context.settings.careful_tools);
+    const bool careful = context.settings.careful_tools;
+    const int axis = context.plan().axisDepth;
+    const bool mirrored = careful && axis == 1;  // whose view shows a turn the other way round
+    return RoundedTransform(TurnMatrix(axis, mirrored ? -degrees_ : degrees_), centre_, careful);
   }
 
   vec3 centre_;

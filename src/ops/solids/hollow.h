@@ -10,7 +10,6 @@
 namespace velk {
 
 inline constexpr char kHollowed[] = "Hollowed %i brushes...";
-inline constexpr char kBadThickness[] = "Bad thickness...";
 inline constexpr char kTooThinToHollow[] = " %i too thin";  // added to that
 
 // Puts walls of that thickness (world units, kThinnestWall to kThickestWall; otherwise it says so)

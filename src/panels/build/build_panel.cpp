@@ -28,6 +28,11 @@ bool Holds(const brush& b, const vec3& point) {
 
 vec3 MiddleOf(const brush& b) { return scale(add(b.mins, b.maxs), 0.5); }
 
+// What the finding is of, while that is there. A brush may have moved to another entity since.
+entity& OwnerOf(const CheckFinding& finding) {
+  return finding.found ? *finding.found->owner : *finding.owner;
+}
+
 std::string KindText(OutputLine::Kind kind) {
   constexpr const char* kTexts[] = {"plain", "head", "good", "warning", "error", "leak"};
   return kTexts[static_cast<int>(kind)];
@@ -102,17 +107,25 @@ int BuildPanel::check() {
   MapDocument* document = context_.documents.current();
   findings_ = document ? CheckMap(document->model, document->textures) : std::vector<CheckFinding>();
   checked_ = document != nullptr;
+  checkedMap_ = document;
   showPage(Page::Check);
   return static_cast<int>(findings_.size());
 }
 
+void BuildPanel::historyMoved() {
+  if (page_ != Page::Check || context_.documents.current() != checkedMap_) return;
+  if (!std::ranges::all_of(findings_, &CheckFinding::stillThere)) check();
+}
+
 bool BuildPanel::mend(int line) {
-  map* m = currentMap();
-  if (!m || line < 0 || line >= static_cast<int>(findings_.size())) return false;
+  if (line < 0 || line >= static_cast<int>(findings_.size())) return false;
   const CheckFinding finding = findings_[static_cast<size_t>(line)];
   if (finding.mend == CheckFinding::Mend::None || !finding.stillThere()) return false;
+  map& own = OwnerOf(finding).parent();
+  showMap(own);
+  if (currentMap() != &own) return false;
   context_.door.perform({.name = "Mend"}, [&] {
-    MendFinding(*m, finding);
+    MendFinding(own, finding);
     return Outcome::Drawn(Redraw::All, "Mended: " + finding.text);
   });
   check();
@@ -136,16 +149,29 @@ map* BuildPanel::builtMap() {
 
 Outcome BuildPanel::select(map& m, entity& e, brush* one) {
   m.MGPerform(Method::Deselect);
-  vec3 at = m.activeCamera().origin;
+  std::optional<vec3> at;
   for (brush& b : e.brushes()) {
-    if (b.invalid || (one && &b != one)) continue;
+    if (one ? &b != one : b.invalid) continue;
     b.select();
-    at = MiddleOf(b);
+    if (!b.invalid) at = MiddleOf(b);
   }
   m.setCurrentEntity(&e);
-  centreOn(at);
+  if (at) centreOn(*at);
   return Outcome::Drawn(
       Redraw::All, Format("Entity %i (%s) selected...", m.indexOf(&e), e.valueOfKey("classname").c_str()));
+}
+
+// A finding of the world as a whole selects none of its brushes.
+Outcome BuildPanel::select(map& m, const CheckFinding& finding) {
+  entity& owner = OwnerOf(finding);
+  if (!finding.found && owner.isWorld()) {
+    m.MGPerform(Method::Deselect);
+    m.setCurrentEntity(&owner);
+    return Outcome::Drawn(Redraw::All, finding.text);
+  }
+  Outcome outcome = select(m, owner, finding.found);
+  if (finding.found && finding.face >= 0) finding.found->setCurrentFace(finding.face);
+  return outcome;
 }
 
 Outcome BuildPanel::goTo(map& m, const MapPlace& place) {
@@ -187,20 +213,17 @@ bool BuildPanel::pick(int line) {
   if (!isLink(line)) return true;
   if (page_ == Page::Output) return follow(lineAt(line).place), true;
   const CheckFinding finding = findings_[static_cast<size_t>(line)];
-  map& m = finding.owner->parent();
-  showMap(m);
-  context_.door.perform({.name = "Find"}, [&] {
-    const Outcome outcome = select(m, *finding.owner, finding.found);
-    if (finding.found && finding.face >= 0) finding.found->setCurrentFace(finding.face);
-    return outcome;
-  });
+  map& own = OwnerOf(finding).parent();
+  showMap(own);
+  if (currentMap() != &own) return true;
+  context_.door.perform({.name = "Find"}, [&] { return select(own, finding); });
   return true;
 }
 
 Menu BuildPanel::contextMenu() {
   MenuItem clear;
   clear.label = "Clear";
-  clear.enabled = !tools_.job().running() && lineCount() > 0;
+  clear.enabled = (page_ == Page::Check || !tools_.job().running()) && lineCount() > 0;
   clear.run = [this] { control("clear", ""); };
   MenuItem stop;
   stop.label = "Stop";
@@ -217,9 +240,18 @@ bool BuildPanel::control(const std::string& name, const std::string& value) {
   }
   if (EqualNoCase(name, "mend")) return mend(LeadingInt(value).value_or(-1));
   if (EqualNoCase(name, "stop")) return tools_.job().stop(), true;
-  if (!EqualNoCase(name, "clear") || tools_.job().running()) return false;
-  findings_.clear();
-  checked_ = false;
+  return EqualNoCase(name, "clear") && clearPage();
+}
+
+// The page shown.
+bool BuildPanel::clearPage() {
+  if (page_ == Page::Check) {
+    findings_.clear();
+    checked_ = false;
+    changed();
+    return true;
+  }
+  if (tools_.job().running()) return false;
   tools_.job().clear();
   return true;
 }

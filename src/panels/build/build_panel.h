@@ -33,14 +33,16 @@ class BuildPanel : public Panel {
   void build(const std::string& name, const std::vector<Launch>& launches, const BuildMap& map);
   // Looks the current map over; how much was found.
   int check();
+  // After an undo or redo, which makes entities anew: while findings are shown, the map is looked over again.
+  void historyMoved();
   const std::vector<CheckFinding>& findings() const { return findings_; }
-  // Mends what a line of the check found, as a change of its own; false when it has no mend.
+  // Mends what a line of the check found, in its own map, as a change of its own; false when it has no mend.
   bool mend(int line);
 
   // Selects what the line names and centres the views there.
   bool pick(int line) override;
   Menu contextMenu() override;
-  // "page" with output or check, "mend" with a line's number, "stop", "clear".
+  // "page" with output or check, "mend" with a line's number, "stop", "clear", which empties the page shown.
   bool control(const std::string& name, const std::string& value) override;
   // The headline, then the lines of the page.
   std::vector<std::string> printed() override;
@@ -55,9 +57,11 @@ class BuildPanel : public Panel {
 
  private:
   void buildEnded();
+  bool clearPage();
   bool follow(const MapPlace& place);
   Outcome goTo(map& m, const MapPlace& place);
   Outcome select(map& m, entity& e, brush* one);
+  Outcome select(map& m, const CheckFinding& finding);
   map* builtMap();
   void showMap(const map& m);
 
@@ -65,6 +69,7 @@ class BuildPanel : public Panel {
   Page page_ = Page::Output;
   std::vector<CheckFinding> findings_;
   bool checked_ = false;
+  const MapDocument* checkedMap_ = nullptr;  // only compared, since it may be closed
   LeakWatch leakWatch_;
 };
 

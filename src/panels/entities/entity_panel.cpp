@@ -148,19 +148,27 @@ void EntityPanel::set(const std::string& key, const std::string& value) {
   change("Set " + key, [&](entity& e) { SetPair(e, key, value); });
 }
 
+std::optional<std::string> EntityPanel::sharedValue(const std::string& key) {
+  const std::vector<entity*> all = edited();
+  if (all.empty()) return std::nullopt;
+  const std::string value = all.front()->valueOfKey(key);
+  const bool shared = std::ranges::all_of(all, [&](const entity* e) { return e->valueOfKey(key) == value; });
+  return shared ? std::optional(value) : std::nullopt;
+}
+
 std::optional<int> EntityPanel::angle() {
-  const entity* e = shown();
-  return e ? LeadingInt(e->valueOfKey("angle")) : std::nullopt;
+  const std::optional<std::string> value = sharedValue("angle");
+  return value ? LeadingInt(*value) : std::nullopt;
 }
 
 void EntityPanel::setAngle(int degrees) {
-  set("angle", Format("%d", degrees));
   clearFields();
+  set("angle", Format("%d", degrees));
 }
 
 std::optional<Colour> EntityPanel::colour() {
-  const entity* e = shown();
-  return e ? ColourOfValue(e->valueOfKey("_color")) : std::nullopt;
+  const std::optional<std::string> value = sharedValue("_color");
+  return value ? ColourOfValue(*value) : std::nullopt;
 }
 
 void EntityPanel::askColour() {
@@ -175,11 +183,11 @@ void EntityPanel::askColour() {
 void EntityPanel::deleteKey() {
   const std::string key = key_.substr(0, MAX_KEY - 1);
   if (key.empty()) return;
+  clearFields();
   change("Remove " + key, [&](entity& e) {
     e.parent().modified = true;
     e.removeKeyPair(key);
   });
-  clearFields();
 }
 
 void EntityPanel::clearFields() {
@@ -214,7 +222,7 @@ void EntityPanel::followLink(int index) {
 Outcome EntityPanel::makeEntity() {
   map* m = currentMap();
   if (!m) return {};
-  const MadeEntity made = MakeEntity(*m, classText());
+  const MadeEntity made = MakeEntity(*m, classText(), std::nullopt, currentGroup());
   if (made.outcome == EntityMaking::NeedsSeed) {
     context_.services.tell("Velk - Make Entity",
                            "Cannot create variable sized entities without seed brush(es)...",

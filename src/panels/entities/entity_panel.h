@@ -56,19 +56,19 @@ class EntityPanel : public Panel {
   std::array<Flag, kFlags> flags();
   void toggleFlag(int bit);
 
-  // "angle" in degrees, -1 up, -2 down; none when it is not set.
+  // "angle" in degrees, -1 up, -2 down; none when it is not set or the edited entities disagree.
   std::optional<int> angle();
   void setAngle(int degrees);
-  // "_color"; none when it is not set.
+  // "_color"; none when it is not set or the edited entities disagree.
   std::optional<Colour> colour();
   void askColour();
 
   // The "+" and "-" buttons.
   void addPair() { askPair({}); }
   void deleteKey();
-  // A pair changed in place. A changed key takes the old one's place; an empty text, or one too long, changes
-  // nothing.
-  void editPair(const std::string& oldKey, std::string key, std::string value);
+  // A pair changed in place. A changed key takes the old one's place; an empty text, a key of blanks, or one
+  // too long changes nothing.
+  void editPair(const std::string& oldKey, const std::string& key, std::string value);
 
   struct Link {
     std::string text;
@@ -78,6 +78,8 @@ class EntityPanel : public Panel {
   // Selects the entity at the other end.
   void followLink(int index);
 
+  // Which group new brushes join, asked when an entity is made of nothing.
+  std::function<int()> currentGroup = [] { return 0; };
   // An entity of the class in the chooser out of the selection. For use within the door.
   Outcome makeEntity();
   // The same through the door.
@@ -102,7 +104,9 @@ class EntityPanel : public Panel {
   void set(const std::string& key, const std::string& value);
   void setFlags(entity& e, int bit, bool on) const;
   void clearFields();
-  std::optional<KeyPair> pickedPair();
+  std::optional<SharedPair> pickedPair();
+  // What all that are edited have; none when they disagree.
+  std::optional<std::string> sharedValue(const std::string& key);
   bool isTooLong(const KeyPair& pair) const;
   void askPair(const KeyPair& filled);
   bool useFlag(const std::string& value);

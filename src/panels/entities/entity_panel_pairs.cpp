@@ -41,7 +41,7 @@ bool EntityPanel::pick(int line) {
   const SharedPair& pair = all[size_t(line)];
   picked_ = pair.key;
   key_ = pair.key;
-  value_ = pair.value;
+  value_ = pair.differs ? "" : pair.value;
   return true;
 }
 
@@ -51,11 +51,11 @@ bool EntityPanel::doubleClick(int line) {
   return true;
 }
 
-// As the current entity has it now.
-std::optional<KeyPair> EntityPanel::pickedPair() {
+// As the edited entities have it now.
+std::optional<SharedPair> EntityPanel::pickedPair() {
   if (picked_.empty()) return std::nullopt;
   for (const SharedPair& pair : pairs()) {
-    if (pair.key == picked_) return KeyPair{pair.key, pair.value};
+    if (pair.key == picked_) return pair;
   }
   return std::nullopt;
 }
@@ -78,11 +78,16 @@ void EntityPanel::cut(const KeyPair& pair) {
 Menu EntityPanel::contextMenu() {
   if (!shown()) return {};
   Menu menu{Item("Add Keypair...", [this] { addPair(); })};
-  if (const std::optional<KeyPair> pair = pickedPair()) {
-    menu.push_back(Item(MenuText("Edit", *pair), [this, pair = *pair] { askPair(pair); }));
-    menu.push_back(Item(MenuText("Cut", *pair), [this, pair = *pair] { cut(pair); }));
-    menu.push_back(Item(MenuText("Copy", *pair), [this, pair = *pair] { copy(pair); }));
+  const std::optional<SharedPair> picked = pickedPair();
+  if (picked && !picked->differs) {
+    const KeyPair pair{picked->key, picked->value};
+    menu.push_back(Item(MenuText("Edit", pair), [this, pair] { askPair(pair); }));
+    menu.push_back(Item(MenuText("Cut", pair), [this, pair] { cut(pair); }));
+    menu.push_back(Item(MenuText("Copy", pair), [this, pair] { copy(pair); }));
   } else {
+    if (picked) {
+      menu.push_back(Item("Edit\t" + PairText(*picked), [this, key = picked->key] { askPair({key, ""}); }));
+    }
     menu.push_back(Item("Cut", {}));
     menu.push_back(Item("Copy", {}));
   }
@@ -121,9 +126,13 @@ void EntityPanel::askPair(const KeyPair& filled) {
   set(pair.key, pair.value);
 }
 
-void EntityPanel::editPair(const std::string& oldKey, std::string key, std::string value) {
-  const KeyPair pair{WithoutQuotes(std::move(key)), WithoutQuotes(std::move(value))};
+void EntityPanel::editPair(const std::string& oldKey, const std::string& key, std::string value) {
+  const KeyPair pair{WithoutQuotes(std::string(WithoutLeadingBlanks(key))), WithoutQuotes(std::move(value))};
   if (pair.key.empty() || pair.value.empty() || isTooLong(pair)) return;
+  const bool unchanged = pair.key == oldKey && std::ranges::any_of(pairs(), [&](const SharedPair& now) {
+                           return !now.differs && now.key == pair.key && now.value == pair.value;
+                         });
+  if (unchanged) return;
   clearFields();
   change("Set " + pair.key, [&](entity& e) {
     if (pair.key != oldKey) RemovePair(e, oldKey);

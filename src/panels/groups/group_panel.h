@@ -55,6 +55,8 @@ class GroupPanel : public Panel {
 
   // No group is picked any more.
   void pickNone() { picked_ = -1; }
+  // The context menu is about this group, which does not become current; about none for another number.
+  void pickForMenu(int index);
   Menu contextMenu() override;
   bool pick(int line) override;
   // Selects the brushes of the group.

@@ -33,6 +33,11 @@ bool GroupPanel::pick(int line) {
   return true;
 }
 
+void GroupPanel::pickForMenu(int index) {
+  followMap();
+  picked_ = has(index) ? index : -1;
+}
+
 bool GroupPanel::doubleClick(int line) {
   if (!pick(line)) return false;
   selectAll(line);
