@@ -35,7 +35,7 @@ void DropTexture(Editor& editor, Pixel at, bool wholeBrush) {
   const int dragged = panel.drag() == TexturePanel::Drag::Magnifier ? -1 : panel.dragged();
   panel.cancel();
   map* m = editor.documents().currentMap();
-  if (dragged < 0 || !m) return;
+  if (dragged < 0 || dragged >= panel.set().count() || !m) return;
   const Target target = TargetAt(editor, at, wholeBrush);
   if (!target.pick.hit || !target.pick.hit->owner->isModel) return;
   panel.selectTexture(dragged);

@@ -56,6 +56,13 @@ std::optional<std::filesystem::path> PlaceOf(const Services& services, const Map
   return WritePlace(services, path);
 }
 
+// Two tabs of one file would overwrite each other. A file that was opened twice is another matter.
+bool IsOpenElsewhere(Documents& documents, const MapDocument& document, const std::string& path) {
+  if (path == document.model.name) return false;
+  const int other = documents.indexOfFile(path);
+  return other >= 0 && documents.at(other) != &document;
+}
+
 std::optional<Outcome> Refuse(const Services& services, const std::string& text, MessageBox::Icon icon) {
   services.tell("Velk - Save", text, icon);
   return std::nullopt;
@@ -85,6 +92,10 @@ std::optional<Outcome> SaveDocument(const Services& services, Documents& documen
   }
   if (!MayLeaveOut(services, document)) return std::nullopt;
   if (!mayReplace && !MayReplace(services, document, path)) return std::nullopt;
+  if (IsOpenElsewhere(documents, document, path)) {
+    return Refuse(services, Format("The file %s is open in another tab.", path.c_str()),
+                  MessageBox::Icon::Warning);
+  }
   const auto place = PlaceOf(services, document, path);
   if (!place) return std::nullopt;
   // Not through WriteMapFile, for which a file that cannot be made is fatal: other work would be lost.

@@ -8,7 +8,8 @@
 namespace velk {
 namespace {
 
-bool OutOfRange(float c) { return c >= COORD_LIMIT || c < -COORD_LIMIT; }
+// What is no number is out of range, too.
+bool OutOfRange(float c) { return !(c < COORD_LIMIT && c >= -COORD_LIMIT); }
 
 bool OutOfRange(const WindingPoint& c) { return OutOfRange(c.x) || OutOfRange(c.y) || OutOfRange(c.z); }
 

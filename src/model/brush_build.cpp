@@ -200,7 +200,8 @@ void FinishCuttings(Cuttings& cuttings, brush& b, std::vector<face>& faces, std:
   const bool acceptable = HandOver(cuttings, faces, store, alignment, bounds);
   b.mins = Vector(bounds.mins);
   b.maxs = Vector(bounds.maxs);
-  if (!acceptable || b.mins.x == kNoBound) {
+  const bool bounded = b.mins.x <= b.maxs.x && b.mins.y <= b.maxs.y && b.mins.z <= b.maxs.z;
+  if (!acceptable || !bounded) {
     b.invalid = true;
     b.mins = b.maxs = {};
   }

@@ -55,7 +55,7 @@ ToolStart StartViewDrag(const MouseContext& context, const PointerEvent& event) 
 Outcome ZoomAt(const MouseContext& context, Pixel at, int notches) {
   if (context.inCamera() || !context.settings.wheel_zoom || notches == 0) return {};
   Outcome outcome = Outcome::Drawn(Redraw::Plans);
-  for (int i = std::min(std::abs(notches), kAllSteps); i > 0; --i) {
+  for (int i = std::abs(std::clamp(notches, -kAllSteps, kAllSteps)); i > 0; --i) {
     const ViewPoint world = context.projection().screenToWorld(at);
     outcome.status = notches > 0 ? ScaleUp(context.settings) : ScaleDown(context.settings);
     PinUnder(context, world, at);

@@ -66,10 +66,15 @@ void RevertToWorld(map& m) {
   m.setCurrentEntity(&world);
 }
 
+bool KeepsItsClass(const entity& e, std::string_view key) {
+  return key == "classname" && e.isWorld() && e.parent().settings().careful_tools;
+}
+
 void SetPair(entity& e, std::string_view key, std::string_view value) {
   map& m = e.parent();
-  m.modified = true;
   const std::string_view kept = WithoutLeadingBlanks(key);
+  if (KeepsItsClass(e, kept)) return;
+  m.modified = true;
   const bool fits = !e.isModel && e.at(0) && m.settings().careful_tools;
   if (kept == "origin" && fits) MoveBox(e, value);
   const vec3 origin = e.vectorOfKey("origin");
@@ -80,6 +85,7 @@ void SetPair(entity& e, std::string_view key, std::string_view value) {
 }
 
 void RemovePair(entity& e, std::string_view key) {
+  if (KeepsItsClass(e, key)) return;
   e.parent().modified = true;
   if (e.hasKey(key)) e.removeKeyPair(key);
 }

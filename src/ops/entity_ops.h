@@ -14,6 +14,10 @@ bool CanRevert(const map& m);
 // current then. Fatal, with nothing changed, when the world has no room for them.
 void RevertToWorld(map& m);
 
+// With careful tools the world stays the world: without it a map would lose its brushes.
+inline constexpr char kWorldKeepsClass[] = "The world keeps its class...";
+bool KeepsItsClass(const entity& e, std::string_view key);
+
 // Sets a pair as entity::setKey does. Brushes follow a new class's colour. With careful_tools "origin" moves
 // the box of a fixed-size entity there, and "classname" keeps the origin and gives it the box of the new
 // class.

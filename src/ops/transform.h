@@ -21,7 +21,7 @@ inline constexpr char kRotateFields[][24] = {"Roll (deg.) (X axis)", "Pitch (deg
                                              "Yaw (deg.) (Z axis)"};
 inline constexpr char kScaleTitle[] = "Scale Brush...";
 inline constexpr char kScaled[] = "Scaled selected brush...";
-inline constexpr char kTooThinToTransform[] = " %i too thin";  // added to a status
+inline constexpr char kTooThinToTransform[] = " %i kept as they were";  // added to a status
 inline constexpr char kScaleCancelled[] = "Couldn't scale brush...";
 
 // Row by row.

@@ -19,7 +19,7 @@ TEST(MakerCommands, WithCareTheSeedIsKeptWhenNothingComesOfIt) {
       {"CM_MAKE_SPHERE", "vertical", "1", "Nothing valid comes of these values, brush kept..."},
       {"CM_REVOLVE", "strips", "5", "No profile could be read, brush kept..."},
       {"CM_MAKE_ARCH", "post", "30", "Brush is too short to create requested arch..."},
-      {"CM_MAKE_ROOM", nullptr, "2000", "Nothing valid comes of these values, brush kept..."},
+      {"CM_MAKE_ROOM", nullptr, "2000", "Bad thickness..."},
   };
   Session session;
   session.editor.settings().careful_tools = true;

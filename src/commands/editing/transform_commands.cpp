@@ -1,5 +1,7 @@
 #include "commands/editing/transform_commands.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "commands/editing/repeat.h"
 #include "commands/making/maker_commands.h"
@@ -21,7 +23,10 @@ using Three = std::array<double, 3>;
 
 Three ThreeOf(const Form& form) {
   Three values;
-  for (size_t i = 0; i < values.size(); ++i) values[i] = form.real(form.fields[i].name);
+  for (size_t i = 0; i < values.size(); ++i) {
+    const NumberRange& range = form.fields[i].range;
+    values[i] = std::clamp(form.real(form.fields[i].name), range.low, range.high);
+  }
   return values;
 }
 

@@ -99,6 +99,9 @@ Outcome ReloadClasses(Editor& editor, map&) {
   EntityClassList read;
   read.setSorted(settings.sort_entities);
   read.loadAll(settings, editor.services().paths, editor.services().prompts);
+  if (settings.careful_tools && read.count() <= 1 && editor.classes().count() > 1) {
+    return Outcome::Said("No entity classes found, list kept...");
+  }
   editor.settings().sort_entities = settings.sort_entities;
   editor.classes() = std::move(read);
   editor.panels().entities.classesReloaded();

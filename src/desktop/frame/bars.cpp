@@ -124,7 +124,11 @@ void TVelkControlBar::texturesChanged() {
 
 std::vector<TVelkControlBar*> BuildBars(QMainWindow& frame, Editor& editor) {
   std::vector<TVelkControlBar*> bars;
-  for (const ButtonBar& gadgets : LoadButtonBars(editor.place().home)) {
+  std::vector<ButtonBar> read;
+  const auto load = [&] { read = LoadButtonBars(editor.place().home); };
+  // Without its bars the editor is of use yet.
+  if (const auto error = editor.door().trapped(load)) editor.services().tell("Velk - Button Bars", *error);
+  for (const ButtonBar& gadgets : read) {
     if (!bars.empty()) frame.addToolBarBreak();
     bars.push_back(new TVelkControlBar(static_cast<int>(bars.size()) + 1, gadgets, editor));
     frame.addToolBar(bars.back());

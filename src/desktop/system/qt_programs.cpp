@@ -69,7 +69,10 @@ void QtPrograms::run(const NativeLaunch& launch) {
         tell({ProgramEnd::How::NotStarted, 0, PathBytes(process_->errorString())});
       },
       Qt::QueuedConnection);
+  group_ = 0;
   process_->start();
+  // Known at once, so that no end of the editor leaves it behind.
+  group_ = process_->processId();
 }
 
 void QtPrograms::stop() {

@@ -3,6 +3,7 @@
 #include <QDoubleValidator>
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 
 #include "base/text.h"
 #include "desktop/dialogs/shown_text.h"
@@ -16,6 +17,12 @@ constexpr const char* kHints[] = {"Shift across", "Shift down", "Rotation in deg
 
 std::array<float*, 5> NumbersOf(texturedef& t) {
   return {&t.shift[0], &t.shift[1], &t.rotate, &t.scale[0], &t.scale[1]};
+}
+
+// Within what a file can hold.
+float NumberIn(const QLineEdit& field) {
+  constexpr double kMost = 1e6;
+  return float(std::clamp(TextToDouble(GivenText(field.text())), -kMost, kMost));
 }
 
 }  // namespace
@@ -58,7 +65,7 @@ void FaceFields::take() {
   if (name_->isModified()) definition->name = LowerCase(GivenText(name_->text()));
   const auto numbers = NumbersOf(*definition);
   for (size_t i = 0; i < numbers.size(); ++i) {
-    if (numbers_[i]->isModified()) *numbers[i] = float(TextToDouble(GivenText(numbers_[i]->text())));
+    if (numbers_[i]->isModified()) *numbers[i] = NumberIn(*numbers_[i]);
   }
   panel_.setFaceTexture(*definition);
   refresh();

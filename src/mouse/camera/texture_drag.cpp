@@ -1,5 +1,7 @@
 #include "mouse/camera/texture_drag.h"
 
+#include <cmath>
+
 #include "base/error.h"
 #include "base/text.h"
 #include "mouse/view_ray.h"
@@ -9,6 +11,14 @@ namespace {
 
 constexpr int kPixelsAStep = 4;
 constexpr double kScaleStep = 0.1;
+
+// From 0 to 360 degrees, which stays.
+double WithinTurn(double degrees) {
+  if (!std::isfinite(degrees)) return 0;
+  const double turned = std::fmod(degrees, 360);
+  if (turned < 0) return turned + 360;
+  return turned == 0 && degrees > 0 ? 360 : turned;
+}
 
 class TextureDrag : public Drag {
  public:
@@ -56,9 +66,7 @@ class TextureDrag : public Drag {
       texture.scale[1] = float(texture.scale[1] - kScaleStep * step.y);
       return Format("(SX %3.1f, SY %3.1f)     ", texture.scale[0], texture.scale[1]);
     }
-    double rotation = rotation_ + Truncate(DirectionDegrees(total_.x, -total_.y));
-    while (rotation < 0) rotation += 360;
-    while (rotation > 360) rotation -= 360;
+    const double rotation = WithinTurn(rotation_ + Truncate(DirectionDegrees(total_.x, -total_.y)));
     texture.rotate = float(rotation);
     return Format("(R %i)     ", Truncate(rotation));
   }

@@ -145,6 +145,7 @@ void EntityPanel::change(const std::string& name, const Change& action) {
 }
 
 void EntityPanel::set(const std::string& key, const std::string& value) {
+  if (shown() && KeepsItsClass(*shown(), key)) return context_.door.show(Outcome::Said(kWorldKeepsClass));
   change("Set " + key, [&](entity& e) { SetPair(e, key, value); });
 }
 

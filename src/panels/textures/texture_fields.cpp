@@ -1,5 +1,6 @@
 #include "panels/textures/texture_fields.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/text.h"
@@ -56,7 +57,8 @@ void StepTextureField(TextureChoice& choice, TextureField field, int direction) 
 
 void SetTextureField(TextureChoice& choice, TextureField field, double value) {
   texturedef typed = choice.current();
-  const auto number = static_cast<float>(value);
+  constexpr double kMost = 1e6;  // a file holds them
+  const auto number = static_cast<float>(std::clamp(value, -kMost, kMost));
   switch (field) {
     case TextureField::ShiftS:
       typed.shift[0] = number;

@@ -52,9 +52,10 @@ class TexturePanel : public Panel {
   // The drag ends elsewhere, or not at all.
   void cancel() { drag_ = {}; }
   enum class Drag { None, Grid, Frequents, Favourites, Magnifier };
-  Drag drag() const { return drag_.kind; }
+  // None once another map is current, or a wad was read again.
+  Drag drag() const { return isStale(drag_) ? Drag::None : drag_.kind; }
   // What is dragged or magnified, as a place in the set; -1 without.
-  int dragged() const { return drag_.kind == Drag::None ? -1 : drag_.texture; }
+  int dragged() const { return drag() == Drag::None ? -1 : drag_.texture; }
   double magnification() const { return drag_.magnification; }
   // What lies under the pointer.
   const TexturePlace& over() const { return over_; }
@@ -93,7 +94,10 @@ class TexturePanel : public Panel {
     bool apply = false;
     Pixel from;
     double magnification = 1;
+    const MapDocument* of = nullptr;  // the map whose place it is, and the wads as they were then
+    int generation = 0;
   };
+  bool isStale(const DragState& drag) const;
 
   Settings& settings() const { return context_.services.settings; }
   void followSettings();

@@ -28,12 +28,21 @@ void TexturePanel::press(Pixel at, bool shift, bool ctrl) {
   const int texture = textureAt(place);
   drag_ = {};
   if (texture < 0 || (shift && place.kind != Grid)) return;
-  drag_ = {.kind = Drag::Grid, .texture = texture, .apply = ctrl, .from = at};
+  drag_ = {.kind = Drag::Grid,
+           .texture = texture,
+           .apply = ctrl,
+           .from = at,
+           .of = context_.documents.current(),
+           .generation = context_.textures.generation()};
   if (place.kind == Favourite) drag_.kind = Drag::Favourites;
   if (place.kind == Frequent) drag_.kind = Drag::Frequents;
   if (!shift) return;
   drag_.kind = Drag::Magnifier;
   magnify(at);
+}
+
+bool TexturePanel::isStale(const DragState& drag) const {
+  return drag.of != context_.documents.current() || drag.generation != context_.textures.generation();
 }
 
 void TexturePanel::magnify(Pixel at) {
@@ -45,7 +54,7 @@ void TexturePanel::magnify(Pixel at) {
 
 void TexturePanel::move(Pixel at) {
   const TextureLayout& current = layout();
-  if (drag_.texture >= set().count()) cancel();
+  if (isStale(drag_) || drag_.texture >= set().count()) cancel();
   if (drag_.kind == Drag::Magnifier) {
     magnify(at);
   } else {
@@ -60,7 +69,7 @@ void TexturePanel::leave() {
 }
 
 void TexturePanel::release(Pixel at) {
-  const DragState drag = drag_;
+  const DragState drag = isStale(drag_) ? DragState{} : drag_;
   drag_ = {};
   const TexturePlace place = layout().at(at, scroll_);
   if (drag.kind == Drag::Magnifier) {
