@@ -162,8 +162,7 @@ struct Pieces {
   void sort() {
     const auto sortOnce = [](auto& list) {
       std::ranges::sort(list);
-      const auto rest = std::ranges::unique(list);
-      list.erase(rest.begin(), rest.end());
+      list.erase(std::unique(list.begin(), list.end()), list.end());
     };
     sortOnce(pages);
     sortOnce(shapes);
