@@ -35,10 +35,12 @@ void Brushes(std::string_view text) {
   velk::map again(settings, classes);
   again.initNew("");
   try {
-    velk::ReadBrushText(again, written, "again.bru", {});
+    for (auto& read : velk::ReadBrushText(again, written, "again.bru", {}))
+      again.world()->addobject(std::move(read));
   } catch (const FatalError& error) {
     Require(false, error.what());
   }
+  Require(velk::BrushFileText(again) == written, "brushes read back as others");
 }
 
 void Leaks(std::string_view text) {

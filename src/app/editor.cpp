@@ -23,10 +23,6 @@ Editor::Editor(EditorPlace place, Prompts& prompts, Observer& observer)
       views_(settings_, documents_, textures_),
       input_(services_, documents_, door_, views_, texture_, place_.home),
       windows_(services_) {
-  views_.dragPreview = [this](const brush& b) {
-    const Drag* drag = input_.pointer().drag();
-    return drag ? drag->preview(b) : nullptr;
-  };
   views_.groupName = [this] { return panels_.groups.currentName(); };
   input_.currentGroup = [this] { return panels_.groups.current(); };
   panels_.entities.currentGroup = [this] { return panels_.groups.current(); };
@@ -100,7 +96,7 @@ void Editor::checkDisk() {
 }
 
 void Editor::watchLeaks() {
-  MapDocument* document = documents_.current();
+  MapDocument* document = build_.job().running() ? nullptr : documents_.current();
   const auto file = document ? document->leakFiles.changed(paths_, document->model.name) : std::nullopt;
   if (!file) return;
   std::vector<vec3> points = ReadLeakFile(paths_, *file);

@@ -3,24 +3,19 @@
 namespace velk {
 namespace {
 
-constexpr int kWireMode = 0;
-constexpr int kWireReach = 8;  // of the drop to an edge of the wire picture, pixels
-
 struct Target {
   FacePick pick;
   bool whole = false;
 };
 
 Target TargetAt(Editor& editor, Pixel at, bool wholeBrush) {
-  if (editor.settings().drawmode == kWireMode) {
-    return {{editor.views().pickInWire(at, kWireReach), -1}, true};
-  }
-  return {editor.views().pickInCamera(at), wholeBrush};
+  const FacePick pick = editor.views().pick(at);
+  return {pick, wholeBrush || pick.face < 0};
 }
 
 Outcome Apply(map& m, const Target& target, const texturedef& texture) {
   m.modified = true;
-  if (target.whole || target.pick.face < 0) {
+  if (target.whole) {
     target.pick.hit->setAllTexturedefs(texture);
     return Outcome::Drawn(Redraw::All, "Current texture applied to brush...");
   }

@@ -12,10 +12,6 @@ namespace {
 
 constexpr int kTextureStep = 4;  // pixels of a texture drag that are one step
 
-std::span<const MouseOperation> OperationsOf(int view) {
-  return view == kCameraView ? CameraOperations() : PlanOperations();
-}
-
 // While one lives, other events are passed over.
 class Busy {
  public:
@@ -56,8 +52,7 @@ MouseContext ViewInput::context(int view) const {
           .textures = &document.textures,
           .group = currentGroup(),
           .camera = {.width = views_.cameraWidth,
-                     .pickFace = [this](Pixel at) { return views_.pickInCamera(at); },
-                     .pickWire = [this](Pixel at, int reach) { return views_.pickInWire(at, reach); },
+                     .pick = [this](Pixel at) { return views_.pick(at); },
                      .beyond = [this](Pixel at) { return views_.beyondInCamera(at); }},
           .saveUndo = [this](const char* name, UndoMode mode, brush* working) {
             door_.takeClassic(name, mode, working);
@@ -95,7 +90,7 @@ std::optional<StripField> ViewInput::stripFieldAt(int view, Pixel at) const {
 
 std::vector<brush*> ViewInput::brushesUnder(int view) const {
   if (!documents_.currentMap()) return {};
-  return BrushesUnder(context(view), at_[static_cast<size_t>(view)]);
+  return BrushesUnder(context(view), mouses_[static_cast<size_t>(view)].event.at);
 }
 
 // The other fields have menus, or do nothing.
@@ -118,8 +113,7 @@ void ViewInput::press(int view, const PointerEvent& event) {
     if (other && services_.settings.cancel_drags) cancel();
     return;
   }
-  mouse_[static_cast<size_t>(view)] = event;
-  at_[static_cast<size_t>(view)] = event.at;
+  mouseOf(view) = {event, true};
   press_.reset();
   if (view != kCameraView) {
     makeCurrent(view);
@@ -140,8 +134,7 @@ void ViewInput::begin(int view, const PointerEvent& event) {
   const auto start = [&] {
     Outcome outcome = pointer_.press(context(view), event);
     claimed = pointer_.claimed();
-    const Drag* drag = pointer_.drag();
-    const MouseOperation* running = drag ? OperationOf(OperationsOf(view), drag->code()) : nullptr;
+    const MouseOperation* running = runningOperation();
     if (running && outcome.status.empty()) outcome.status = hint_ = HintOf(*running, services_.settings);
     return outcome;
   };
@@ -174,18 +167,20 @@ bool ViewInput::staysPut(int view, const PointerEvent& event) {
   return !press_->moved;
 }
 
-void ViewInput::dragAlong(const Door::Action& action) { door_.drag(action); }
+const MouseOperation* ViewInput::runningOperation() const {
+  const Drag* drag = pointer_.drag();
+  return drag ? OperationOf(OperationsOf(pointer_.view()), drag->code()) : nullptr;
+}
 
 void ViewInput::move(int view, const PointerEvent& event) {
   if (busy_) return;
   const bool drags = pointer_.drag() != nullptr;
   const int shown = drags ? pointer_.view() : view;
-  mouse_[static_cast<size_t>(view)] = event;
-  at_[static_cast<size_t>(shown)] = event.at;
+  mouseOf(shown) = {event, true};
   if (shown != kCameraView) readCoordinates(shown, event.at);
   if (staysPut(shown, event) || !drags) return;
   const Busy busy(busy_);
-  dragAlong([&] { return pointer_.move(context(shown), event); });
+  door_.drag([&] { return pointer_.move(context(shown), event); });
   if (scrolls()) ticksWanted();
 }
 
@@ -286,7 +281,7 @@ bool ViewInput::dragKey(DragKey key) {
   if (key == DragKey::Left || key == DragKey::Right) by.u = key == DragKey::Right ? step : -step;
   if (key == DragKey::Up || key == DragKey::Down) by.v = key == DragKey::Up ? step : -step;
   if (press_) press_->moved = true;
-  dragAlong([&] { return pointer_.nudge(context(view), by); });
+  door_.drag([&] { return pointer_.nudge(context(view), by); });
   return true;
 }
 

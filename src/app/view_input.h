@@ -12,6 +12,7 @@
 #include "documents/door.h"
 #include "mouse/bindings.h"
 #include "mouse/clicks.h"
+#include "mouse/operations.h"
 #include "mouse/pointer.h"
 #include "mouse/tool_cursor.h"
 #include "textures/texture_choice.h"
@@ -72,15 +73,24 @@ class ViewInput {
   FacePick hovered(int view);
   // The shape of the cursor there. Idle when shapes are not to be shown.
   CursorShape cursor(int view);
-  void left(int view) { mouse_[static_cast<size_t>(view)].reset(); }
+  void left(int view) { mouseOf(view).isOver = false; }
 
   // The field of a plan view's header strip at a pixel.
   std::optional<StripField> stripFieldAt(int view, Pixel at) const;
   // The brushes under the cursor where it was last in a view; see BrushesUnder. None without a map.
   std::vector<brush*> brushesUnder(int view) const;
   const Pointer& pointer() const { return pointer_; }
+  // None while no drag runs, and for one that moves the view.
+  const MouseOperation* runningOperation() const;
 
  private:
+  // Where it was last in a view, and whether it is there yet.
+  struct Mouse {
+    PointerEvent event;
+    bool isOver = false;
+  };
+  Mouse& mouseOf(int view) { return mouses_[static_cast<size_t>(view)]; }
+
   // The bindings of a kind of view, read at their first use; empty when the file is damaged.
   struct BindingsFile {
     const char* name;
@@ -114,7 +124,6 @@ class ViewInput {
   bool staysPut(int view, const PointerEvent& event);
   bool isClick(const PointerEvent& event) const;
   bool click(int view, const PointerEvent& event);
-  void dragAlong(const Door::Action& action);
   void drop(const PointerEvent& event);
   void stopDragMotions();
   void takeHintBack();
@@ -135,12 +144,11 @@ class ViewInput {
   Flight flight_;
   std::optional<Press> press_;
   std::vector<HeldKey> held_;
-  std::array<Pixel, kPlanViews + 1> at_{};  // where the mouse was last in each view
-  std::string hint_;                        // that the status line shows while a drag runs
-  std::string statusBefore_;                // and what it said before
-  vec3 centreBefore_;                       // of the plan views before the drag
-  bool busy_ = false;                       // an event is being worked on, which may ask the user something
-  std::array<std::optional<PointerEvent>, kPlanViews + 1> mouse_;  // where it was last in each view
+  std::string hint_;          // that the status line shows while a drag runs
+  std::string statusBefore_;  // and what it said before
+  vec3 centreBefore_;         // of the plan views before the drag
+  bool busy_ = false;         // an event is being worked on, which may ask the user something
+  std::array<Mouse, kPlanViews + 1> mouses_{};
 };
 
 }  // namespace velk

@@ -66,7 +66,7 @@ void ViewInput::scroll(double seconds) {
   centre[plan.axisU] = float(centre[plan.axisU] + Speed(Outside(at.x, plan.clientWidth)) * seconds / scale);
   centre[plan.axisV] = float(centre[plan.axisV] - Speed(Outside(at.y, plan.clientHeight)) * seconds / scale);
   readCoordinates(view, at);
-  dragAlong([&] {
+  door_.drag([&] {
     Outcome outcome = pointer_.move(context(view), pointer_.lastEvent());
     outcome.redraw = outcome.redraw | Redraw::Plans;
     return outcome;
@@ -78,7 +78,7 @@ void ViewInput::fly(double seconds, bool fast) {
   if (!m || (pointer_.drag() && !flies())) return;
   const Door::Action action = [&] { return flight_.step(*m, services_.settings, seconds, fast && flies()); };
   if (pointer_.drag()) {
-    dragAlong(action);
+    door_.drag(action);
   } else {
     door_.perform({.name = ""}, action);
   }

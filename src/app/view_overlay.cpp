@@ -4,8 +4,9 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "camera/live/camera_marks.h"
 #include "camera/compass.h"
+#include "camera/live/camera_marks.h"
+#include "camera/live/leak_line.h"
 #include "model/visit.h"
 #include "mouse/operations.h"
 #include "planview/plan_marks.h"
@@ -104,8 +105,9 @@ void DrawTexts(Canvas& canvas, const Editor& editor, const Overlay& marks, int v
 }
 
 CameraMarks MarksIn(Canvas& canvas, Editor& editor) {
-  Views& views = editor.views();
-  return {canvas, views.cameraScene(), {views.cameraWidth, views.cameraHeight}, views.renderSize()};
+  const Views& views = editor.views();
+  return {canvas,     editor.documents().currentMap()->activeCamera(), editor.settings(),
+          views.lens, {views.cameraWidth, views.cameraHeight},         views.renderSize()};
 }
 
 void MarkHovered(CameraMarks& marks, const Settings& settings, const FacePick& hovered) {
@@ -116,18 +118,9 @@ void MarkHovered(CameraMarks& marks, const Settings& settings, const FacePick& h
   }
 }
 
-}  // namespace
-
-bool HasOverlay(Editor& editor, int view) {
-  return editor.documents().currentMap() && (DragOf(editor) || editor.input().hovered(view).hit);
-}
-
-void DrawPlanOverlay(Canvas& canvas, Editor& editor, int view) {
-  if (!editor.documents().currentMap()) return;
-  const PlanScene scene = editor.views().planScene({});
-  if (const FacePick hovered = editor.input().hovered(view); hovered.hit) {
-    MarkBrush(canvas, scene, view, *hovered.hit, HoverPen(editor.settings()));
-  }
+void DrawPlanOverlay(Canvas& canvas, Editor& editor, int view, const FacePick& hovered) {
+  const PlanScene scene{.set = editor.views().plans, .settings = editor.settings()};
+  if (hovered.hit) MarkBrush(canvas, scene, view, *hovered.hit, HoverPen(editor.settings()));
   if (!DragOf(editor)) return;
   const Overlay marks = MarksOfDrag(editor);
   MarkLines(canvas, scene, view, marks.lines, LinePen(editor.settings()));
@@ -135,21 +128,31 @@ void DrawPlanOverlay(Canvas& canvas, Editor& editor, int view) {
   if (editor.input().pointer().view() == view) DrawMeasure(canvas, editor, view);
 }
 
-void DrawCameraOverlay(Canvas& canvas, Editor& editor) {
-  if (!editor.documents().currentMap()) return;
+void DrawCameraOverlay(Canvas& canvas, Editor& editor, const FacePick& hovered) {
   CameraMarks at = MarksIn(canvas, editor);
-  if (const FacePick hovered = editor.input().hovered(kCameraView); hovered.hit) {
-    MarkHovered(at, editor.settings(), hovered);
-  }
+  if (hovered.hit) MarkHovered(at, editor.settings(), hovered);
   const Overlay marks = MarksOfDrag(editor);
   for (const auto& [from, to] : marks.lines) at.line(LinePen(editor.settings()), from, to);
   DrawTexts(canvas, editor, marks, kCameraView);
 }
 
+}  // namespace
+
+bool HasOverlay(const Editor& editor, const FacePick& hovered) { return DragOf(editor) || hovered.hit; }
+
+void DrawViewOverlay(Canvas& canvas, Editor& editor, int view, const FacePick& hovered) {
+  if (!editor.documents().currentMap()) return;
+  if (view == kCameraView) return DrawCameraOverlay(canvas, editor, hovered);
+  DrawPlanOverlay(canvas, editor, view, hovered);
+}
+
 void DrawCameraMarks(Canvas& canvas, Editor& editor) {
   const map& shown = *editor.documents().currentMap();
   const ViewColours& colours = editor.settings().colours;
-  DrawClipPoints(canvas, MarksIn(canvas, editor), shown);
+  CameraMarks marks = MarksIn(canvas, editor);
+  DrawGhosts(marks, editor.views().ghosts, kGhostColour);
+  DrawLeakLine(canvas, marks, editor.views().leaks.points());
+  DrawClipPoints(canvas, marks, shown);
   DrawCompass(canvas, editor.views().cameraWidth, shown.activeCamera().yaw, colours.fgcolor,
               colours.color_activecamera, colours.bgcolor);
 }

@@ -6,12 +6,12 @@
 
 namespace velk {
 
-// Whether there is anything to draw over a view.
-bool HasOverlay(Editor& editor, int view);
-void DrawPlanOverlay(Canvas& canvas, Editor& editor, int view);
-void DrawCameraOverlay(Canvas& canvas, Editor& editor);
+// Whether there is anything to draw over a view; `hovered` as its input says.
+bool HasOverlay(const Editor& editor, const FacePick& hovered);
+void DrawViewOverlay(Canvas& canvas, Editor& editor, int view, const FacePick& hovered);
 
-// What lasts: the compass and the clip points. A map must be open.
+// What lasts: the ghosts of an open dialog, the leak line, the clip points and the compass. A map must be
+// open.
 void DrawCameraMarks(Canvas& canvas, Editor& editor);
 
 }  // namespace velk

@@ -20,7 +20,8 @@ void Views::resize(int view, int width, int height) {
 }
 
 const brush* Views::standInFor(const brush& b) {
-  const brush* dragged = dragPreview ? dragPreview(b) : nullptr;
+  const Drag* drag = mouse ? mouse->drag() : nullptr;
+  const brush* dragged = drag ? drag->preview(b) : nullptr;
   return clip_.of(dragged ? *dragged : b);
 }
 
@@ -124,9 +125,12 @@ FacePick Views::pickInCamera(Pixel at) {
   return renderer.pickFace(cameraScene(), size, x, y);
 }
 
-brush* Views::pickInWire(Pixel at, int reach) {
+FacePick Views::pick(Pixel at) {
+  constexpr int kReach = 8;  // to an edge, pixels
+  if (settings_.drawmode != kWireMode) return pickInCamera(at);
   map* m = documents_.currentMap();
-  return m ? PickWireBrush({cameraWidth, cameraHeight}, *m, settings_, lens, at, reach) : nullptr;
+  if (!m) return {};
+  return {PickWireBrush({cameraWidth, cameraHeight}, *m, settings_, lens, at, kReach), -1};
 }
 
 vec3 Views::beyondInCamera(Pixel at) const {

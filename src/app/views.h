@@ -25,8 +25,6 @@ class Views {
   PlanViewSet plans;
   WireLens lens;
   LeakTrail leaks;
-  // The copy that a running drag shows in place of a brush, or none.
-  std::function<const brush*(const brush&)> dragPreview;
   // What an open dialog would make: drawn over the map, and no part of it.
   std::vector<std::unique_ptr<brush>> ghosts;
   // Of the group that new brushes join; shown in the plan views' strips.
@@ -61,10 +59,11 @@ class Views {
   void renderCamera();
   // Draws the wire picture; a map must be open.
   void drawWire(RasterCanvas& canvas);
-  // The brush and face at a pixel of the camera view; none without a map.
+  // The brush and face at a pixel of the camera view as the flat and textured modes draw it; none without a
+  // map.
   FacePick pickInCamera(Pixel at);
-  // The same in the wire picture: the brush with an edge within so many pixels.
-  brush* pickInWire(Pixel at, int reach);
+  // In the mode as it is: in the wire picture the brush with an edge near by, and no face.
+  FacePick pick(Pixel at);
   // A point of the world far beyond what the flat or textured picture shows at a pixel; a map must be open.
   vec3 beyondInCamera(Pixel at) const;
   // The wad whose palette the views are drawn in; none when nothing was loaded.

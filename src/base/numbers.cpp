@@ -1,7 +1,11 @@
 #include "base/numbers.h"
 
 #include <climits>
+#include <cmath>
 #include <cstdint>
+#include <limits>
+
+#include "base/text.h"
 
 namespace velk {
 namespace {
@@ -42,6 +46,12 @@ std::optional<int> TakeWhole(std::string_view& text) {
   text = rest;
   if (value > INT_MAX) return negative ? INT_MIN : INT_MAX;
   return static_cast<int>(negative ? -value : value);
+}
+
+std::optional<float> TakeFloat(std::string_view& text) {
+  const std::optional<double> number = TakeNumber(text);
+  if (!number || std::fabs(*number) > std::numeric_limits<float>::max()) return std::nullopt;
+  return float(*number);
 }
 
 // Up to 15 digits and powers of ten up to 22 are exact as doubles, so one division gives the nearest double.

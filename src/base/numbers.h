@@ -12,6 +12,10 @@ namespace velk {
 // none.
 std::optional<int> TakeWhole(std::string_view& text);
 
+// The number at the front of the text as a float, which it takes off; see TakeNumber. None for one beyond a
+// float's range.
+std::optional<float> TakeFloat(std::string_view& text);
+
 // Whether the whole text is a plain decimal number (digits, a minus sign, a fraction) that can be read
 // without rounding twice; the value is then the nearest double. For long files of short numbers.
 bool PlainNumber(std::string_view text, double& value);

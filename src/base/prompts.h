@@ -64,6 +64,13 @@ class Prompts {
   // already comes to the front instead.
   virtual void show(ModelessForm form) = 0;
 
+  // Whether the answer to a question is Yes.
+  bool agrees(const char* caption, std::string text) {
+    return ask({.caption = caption,
+                .text = std::move(text),
+                .buttons = MessageBox::Buttons::YesNo,
+                .icon = MessageBox::Icon::Question}) == Answer::Yes;
+  }
   // The one chosen path, or none.
   std::optional<std::string> chooseFile(const FileChooser& chooser) {
     std::vector<std::string> files = chooseFiles(chooser);

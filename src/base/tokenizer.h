@@ -27,6 +27,8 @@ class Tokenizer {
   std::string_view token() const { return token_; }
   // The last token was quoted.
   bool quoted() const { return quoted_; }
+  // The last token is that character, unquoted; in quotes it would be a text.
+  bool isMark(char mark) const { return !quoted_ && token_.size() == 1 && token_.front() == mark; }
   // The line being read, 1 at the start of the text. Line feeds inside quoted tokens do not count.
   int line() const { return line_; }
 

@@ -94,11 +94,12 @@ class BrushCheck {
     auto [begin, end] = places_.equal_range(key);
     for (auto it = begin; it != end; ++it) {
       if (!isTwin(*it->second.first)) continue;
-      const auto& [twin, name] = it->second;
-      add("stands where " + name + " stands", twin->owner == owner_ ? Mend::RemoveBrush : Mend::None);
+      const auto& [twin, place] = it->second;
+      add(Format("stands where entity %i, brush %i stands", place.first, place.second),
+          twin->owner == owner_ ? Mend::RemoveBrush : Mend::None);
       return;
     }
-    places_.emplace(key, std::pair(brush_, Format("entity %i, brush %i", entityNumber_, brushNumber_)));
+    places_.emplace(key, std::pair(brush_, std::pair(entityNumber_, brushNumber_)));
   }
 
   bool isTwin(const brush& other) const {
@@ -115,7 +116,8 @@ class BrushCheck {
   // One finding a brush and texture.
   void lookAtTexture(const face& f, int number) {
     const auto& faces = brush_->faces();
-    const auto first = std::ranges::find(faces, f.texture.name, [](const face& g) { return g.texture.name; });
+    const auto first = std::ranges::find(faces, f.texture.name,
+                                         [](const face& g) -> const std::string& { return g.texture.name; });
     if (first - faces.begin() != number) return;
     if (Trimmed(f.texture.name).empty()) {
       add(Format("has no texture on face %i", number), Mend::None, number);
@@ -130,7 +132,7 @@ class BrushCheck {
   brush* brush_ = nullptr;
   int entityNumber_ = 0;
   int brushNumber_ = 0;
-  std::unordered_multimap<size_t, std::pair<brush*, std::string>> places_;
+  std::unordered_multimap<size_t, std::pair<brush*, std::pair<int, int>>> places_;
 };
 
 }  // namespace

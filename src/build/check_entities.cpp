@@ -4,6 +4,8 @@
 #include <set>
 
 #include "base/text.h"
+#include "model/brush_method.h"
+#include "textures/texture_manager.h"
 
 namespace velk {
 namespace {
@@ -49,12 +51,6 @@ struct Bounds {
   vec3 mins{1e9f, 1e9f, 1e9f};
   vec3 maxs{-1e9f, -1e9f, -1e9f};
 
-  void take(const brush& b) {
-    for (int axis = 0; axis < 3; ++axis) {
-      mins[axis] = std::min(mins[axis], b.mins[axis]);
-      maxs[axis] = std::max(maxs[axis], b.maxs[axis]);
-    }
-  }
   bool holdsMiddleOf(const brush& b) const {
     for (int axis = 0; axis < 3; ++axis) {
       const double middle = (double(b.mins[axis]) + b.maxs[axis]) / 2;
@@ -67,7 +63,7 @@ struct Bounds {
 Bounds WorldBounds(const map& m) {
   Bounds bounds;
   for (const brush& b : m.world()->brushes()) {
-    if (!b.invalid) bounds.take(b);
+    if (!b.invalid) WidenBounds(bounds.mins, bounds.maxs, b);
   }
   return bounds;
 }
@@ -137,13 +133,6 @@ class EntityCheck {
   int number_ = 0;
 };
 
-// Of a "wad" value; blank ones name nothing.
-int WadCount(std::string_view value) {
-  const std::vector<std::string> names = Split(value, ';');
-  return static_cast<int>(
-      std::ranges::count_if(names, [](const std::string& name) { return !Trimmed(name).empty(); }));
-}
-
 void CheckLimits(map& m, std::vector<CheckFinding>& findings) {
   if (IsNear(static_cast<size_t>(m.numentities()), MAX_ENTITIES)) {
     AddForMap(findings, Format("The map has %i of %i entities", m.numentities(), MAX_ENTITIES));
@@ -152,7 +141,7 @@ void CheckLimits(map& m, std::vector<CheckFinding>& findings) {
     AddForMap(findings, Format("The map has %i of %i groups", m.groups.count(), GroupList::kMaxGroups));
   }
   // Of so few the last but one is near the limit.
-  const int wads = WadCount(m.world()->valueOfKey("wad"));
+  const int wads = static_cast<int>(WadNames(m.world()->valueOfKey("wad")).size());
   if (wads >= MAX_MAP_WADS - 1) {
     AddForMap(findings, Format("The map names %i of %i wads", wads, MAX_MAP_WADS));
   }

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/files.h"
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace velk {
@@ -12,9 +13,9 @@ namespace {
 std::optional<vec3> TakePoint(std::string_view& text) {
   vec3 point;
   for (int axis = 0; axis < 3; ++axis) {
-    const std::optional<double> number = TakeNumber(text);
-    if (!number || !std::isfinite(static_cast<float>(*number))) return std::nullopt;
-    point[axis] = static_cast<float>(*number);
+    const std::optional<float> number = TakeFloat(text);
+    if (!number) return std::nullopt;
+    point[axis] = *number;
   }
   return point;
 }

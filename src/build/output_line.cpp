@@ -17,8 +17,8 @@ using Kind = OutputLine::Kind;
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 // The text behind a word of the line, without regard to case; none when the word is not in it.
-std::optional<std::string_view> After(std::string_view lower, std::string_view word, size_t from = 0) {
-  for (size_t at = lower.find(word, from); at != lower.npos; at = lower.find(word, at + 1)) {
+std::optional<std::string_view> After(std::string_view lower, std::string_view word) {
+  for (size_t at = lower.find(word); at != lower.npos; at = lower.find(word, at + 1)) {
     const size_t end = at + word.size();
     if (at > 0 && IsLetter(lower[at - 1])) continue;
     if (end < lower.size() && IsLetter(lower[end])) continue;
@@ -45,9 +45,9 @@ std::optional<vec3> PointAt(std::string_view text) {
     while (!text.empty() && (text.front() == ',' || text.front() == ' ' || text.front() == '(')) {
       text.remove_prefix(1);
     }
-    const std::optional<double> number = TakeNumber(text);
-    if (!number || !std::isfinite(static_cast<float>(*number))) return std::nullopt;
-    point[axis] = static_cast<float>(*number);
+    const std::optional<float> number = TakeFloat(text);
+    if (!number) return std::nullopt;
+    point[axis] = *number;
   }
   return point;
 }

@@ -18,7 +18,6 @@ struct BatchFile {
 inline constexpr BatchFile kBatchFiles[] = {{"super", "Super fast"}, {"fast", "Fast"},
                                             {"full", "Full"},        {"novis", "No Vis"},
                                             {"relight", "Relight"},  {"leaktest", "Leak Test"}};
-inline constexpr int kBatchCount = 6;
 
 // A profile of the user's own. Each of its lines is a program and its arguments, parted by blanks, in quotes
 // where they hold blanks. %map%, %bsp%, %name% and %wads% stand for the map's file, the level's, the name

@@ -51,7 +51,6 @@ class Flight {
   static constexpr double kFast = 4;  // times as much
 
   void begin(Motion motion) { going_.set(static_cast<size_t>(motion)); }
-  void end(Motion motion) { going_.reset(static_cast<size_t>(motion)); }
   void stop() { going_.reset(); }
   bool going() const { return going_.any(); }
 

@@ -51,39 +51,15 @@ Pixel Crossing(const Pixel& a, const Pixel& b, int Pixel::*axis, int limit) {
   return p;
 }
 
-// Where the view axis falls on the picture, and its focal lengths, in pixels.
-struct PictureLens {
-  double centreX = 0;
-  double centreY = 0;
-  double focalX = 0;
-  double focalY = 0;
-};
-
-PictureLens WireLensOf(RenderSize size, double focal) {
-  return {double(size.width / 2), double(size.height / 2), focal, focal};
-}
-
-// Of a rendered picture that is stretched over `size`.
-PictureLens StretchedLens(RenderSize size, RenderSize picture) {
-  const Projection rendered = MakeProjection(picture.width, picture.height);
-  const double x = double(size.width) / picture.width;
-  const double y = double(size.height) / picture.height;
-  return {rendered.halfWidth * x, rendered.centerY * y, rendered.halfWidth * x, rendered.halfWidth * y};
-}
-
-RenderSize Finer(RenderSize size, double scale) {
-  return {Truncate(size.width * scale), Truncate(size.height * scale)};
-}
-
 // Turns the polygons of a map into those of the wire picture.
 class WirePlotter {
  public:
   // With a scale, points are in pixels that many times finer than those of `size`.
   WirePlotter(RenderSize size, const map& m, const Settings& settings, const WireLens& lens, double scale = 1)
-      : WirePlotter(Finer(size, scale), m, settings,
-                    WireLensOf(Finer(size, scale), lens.focalLength() * scale)) {}
-  WirePlotter(RenderSize size, const map& m, const Settings& settings, const PictureLens& lens)
-      : size_(size), eye_(MakeEye(m.activeCamera())), farLimit_(settings.far_clip_distance), lens_(lens) {}
+      : size_{Truncate(size.width * scale), Truncate(size.height * scale)},
+        eye_(MakeEye(m.activeCamera())),
+        farLimit_(settings.far_clip_distance),
+        focal_(lens.focalLength() * scale) {}
 
   // Fewer than 3 points when nothing of it is on the picture. Valid until the next call.
   const std::vector<Pixel>& plot(const winding& w) {
@@ -117,9 +93,10 @@ class WirePlotter {
   }
 
   void project() {
+    const int centreX = size_.width / 2;
+    const int centreY = size_.height / 2;
     for (const DeepPoint& p : points_) {
-      pixels_.push_back({PixelOf(lens_.centreX - p.x * lens_.focalX / p.z),
-                         PixelOf(lens_.centreY + p.y * lens_.focalY / p.z)});
+      pixels_.push_back({PixelOf(centreX - p.x * focal_ / p.z), PixelOf(centreY + p.y * focal_ / p.z)});
     }
   }
 
@@ -140,7 +117,7 @@ class WirePlotter {
   RenderSize size_;
   Eye eye_;
   double farLimit_;
-  PictureLens lens_;
+  double focal_;
   std::vector<DeepPoint> points_;
   std::vector<DeepPoint> scratch_;
   std::vector<Pixel> pixels_;
@@ -197,17 +174,6 @@ void RenderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const 
                      const WireLens& lens, const brush& b, bool selected) {
   WirePlotter plotter(canvasSize, m, settings, lens, canvas.deviceScale());
   DrawBrush(canvas, plotter, b, selected ? settings.colours.color_selection : settings.colours.fgcolor);
-}
-
-void DrawWireGhosts(Canvas& canvas, RenderSize canvasSize, RenderSize picture, const RenderScene& scene,
-                    std::span<const std::unique_ptr<brush>> ghosts, Colour colour) {
-  constexpr int kWireMode = 0;
-  const RenderSize size = Finer(canvasSize, canvas.deviceScale());
-  const PictureLens lens = scene.settings.drawmode == kWireMode
-                               ? WireLensOf(size, scene.lens.focalLength() * canvas.deviceScale())
-                               : StretchedLens(size, picture);
-  WirePlotter plotter(size, scene.model, scene.settings, lens);
-  for (const std::unique_ptr<brush>& ghost : ghosts) DrawBrush(canvas, plotter, *ghost, colour);
 }
 
 brush* PickWireBrush(RenderSize canvasSize, map& m, const Settings& settings, const WireLens& lens, Pixel at,

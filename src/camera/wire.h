@@ -14,11 +14,6 @@ void DrawWire(Canvas& canvas, RenderSize canvasSize, const RenderScene& scene);
 void RenderWireBrush(Canvas& canvas, RenderSize canvasSize, const map& m, const Settings& settings,
                      const WireLens& lens, const brush& b, bool selected);
 
-// The edges of brushes that are not in the map, over the camera view's picture in whichever mode it is;
-// `picture` is the size of the rendered one, which is stretched over the canvas.
-void DrawWireGhosts(Canvas& canvas, RenderSize canvasSize, RenderSize picture, const RenderScene& scene,
-                    std::span<const std::unique_ptr<brush>> ghosts, Colour colour);
-
 // The brush whose wire edges pass nearest to the pixel, within `reach` pixels; none when there is none
 // there. Among equals the nearest to the eye.
 brush* PickWireBrush(RenderSize canvasSize, map& m, const Settings& settings, const WireLens& lens, Pixel at,

@@ -39,7 +39,7 @@ struct Command {
   bool (*shown)(const Editor&) = nullptr;            // none: always in its menu
   std::string (*labelNow)(const Editor&) = nullptr;  // in place of the label
   bool saysWhy = false;                              // runs even when disabled, to say why it refuses
-  Handler run = {};                                  // none: not built yet
+  Handler run = {};                                  // none: not offered
   const char* undoName = nullptr;                    // of its undo level; none: the plain label
   bool classicUndo = false;                          // the classic single level is kept of it
   const char* caption = nullptr;                     // of the box that says why it failed

@@ -9,10 +9,8 @@ namespace {
 constexpr const char* kFileChanged = "Velk - File Changed";
 
 bool WantsItRead(Prompts& prompts, const std::string& name) {
-  return prompts.ask({.caption = kFileChanged,
-                      .text = Format("The file %s was changed on disk. Read it again?", name.c_str()),
-                      .buttons = MessageBox::Buttons::YesNo,
-                      .icon = MessageBox::Icon::Question}) == Answer::Yes;
+  return prompts.agrees(kFileChanged,
+                        Format("The file %s was changed on disk. Read it again?", name.c_str()));
 }
 
 // The map is read anew and takes the old one's place. The user goes on looking from where they were.

@@ -69,14 +69,11 @@ void RescueKeeper::offer() {
   takePlace();
   const std::vector<RescueCopy> copies = folder_->claim();
   if (copies.empty()) return;
-  const Answer answer =
-      services_.prompts.ask({.caption = "Velk - Rescued Maps",
-                             .text = "Velk ended before these maps were saved:\n" + ListOf(copies) +
-                                     "\n\nOpen the copies that were rescued?",
-                             .buttons = MessageBox::Buttons::YesNo,
-                             .icon = MessageBox::Icon::Question});
+  const bool wanted = services_.prompts.agrees("Velk - Rescued Maps",
+                                               "Velk ended before these maps were saved:\n" + ListOf(copies) +
+                                                   "\n\nOpen the copies that were rescued?");
   for (const RescueCopy& copy : copies) {
-    if (answer == Answer::Yes && documents_.count() < MAX_MAPS) {
+    if (wanted && documents_.count() < MAX_MAPS) {
       open(copy);
     } else {
       door_.show(Outcome::Said(Format("Rescue copy kept as %s", folder_->putAside(copy).c_str())));

@@ -1,5 +1,6 @@
 #include "documents/wad_reload.h"
 
+#include "base/error.h"
 #include "base/text.h"
 
 namespace velk {
@@ -23,12 +24,15 @@ void RebuildSets(Documents& documents) {
 void ReloadWads(Documents& documents, Door& door, TextureManager& textures, const std::vector<Wad*>& wads) {
   if (door.dragRuns() || wads.empty()) return;
   int read = 0;
+  std::string failures;
   for (Wad* wad : wads) {
-    const std::string failure = Format("Couldn't read %s\n\n", wad->path.c_str());
-    if (!door.attempt(kReload, failure, [&] { textures.reload(*wad, {}); })) continue;
-    RebuildSets(documents);
-    ++read;
+    const auto why = door.trapped([&] { textures.reload(*wad, {}); });
+    if (why) failures += Format("Couldn't read %s\n\n%s\n", wad->path.c_str(), why->c_str());
+    if (!why) ++read;
   }
+  // Before anybody looks: what was read took the place of what the sets point into.
+  if (read > 0) RebuildSets(documents);
+  if (!failures.empty()) door.attempt(kReload, "", [&] { Error("%s", failures.c_str()); });
   if (read == 0) return;
   Outcome outcome =
       Outcome::Drawn(Redraw::Camera, read == 1 ? "Wad read again..." : Format("%i wads read again...", read));

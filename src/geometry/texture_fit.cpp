@@ -39,11 +39,6 @@ float Shift(double exact) {
   return float(std::fabs(exact - whole) < kNearlyWhole ? whole : exact);
 }
 
-double WithinTurn(double degrees) {
-  const double turned = std::fmod(degrees, 360);
-  return turned < 0 ? turned + 360 : turned;
-}
-
 double Apart(double a, double b) {
   const double difference = WithinTurn(a - b);
   return difference > 180 ? 360 - difference : difference;

@@ -43,4 +43,9 @@ TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, c
           float((turn.cosine * t + turn.sine * s) / definition.scale[1] + definition.shift[1])};
 }
 
+double WithinTurn(double degrees) {
+  const double turned = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
+  return turned < 0 ? turned + 360 : turned;
+}
+
 }  // namespace velk

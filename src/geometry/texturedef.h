@@ -36,6 +36,9 @@ struct TextureTurn {
 };
 TextureTurn TurnOf(float degrees);
 
+// The same turn from 0 up to 360 degrees, without it.
+double WithinTurn(double degrees);
+
 // Texture coordinates of a point; the scales must not be 0.
 TexCoords faceTexCoords(const texturedef& definition, const TextureAxes& axes, const vec3& point);
 

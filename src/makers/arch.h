@@ -27,8 +27,8 @@ struct ArchParams {
   bool onX = false;  // one walks through along x, and the span is along y
 };
 inline constexpr MakerField kArchFields[] = {
-    {"stones", "Number of Stones in Arch", 8, kFewestStones},
-    {"post", "Post Width (Percent of Brush Width)", 20, 1, kMostPostPercent},
+    {"stones", "Number of Stones in Arch", kFewestStones},
+    {"post", "Post Width (Percent of Brush Width)", 1, kMostPostPercent},
     {"on_x", "On X Axis"}};
 
 // What the form's numbers become before they are remembered.

@@ -15,9 +15,9 @@ struct BoxParams {
 };
 
 // Real numbers of any size.
-inline constexpr MakerField kBoxFields[] = {{"x", "X", 0, -1e9, 1e9},      {"y", "Y", 0, -1e9, 1e9},
-                                            {"z", "Z", 0, -1e9, 1e9},      {"dx", "X width", 64, 1, 1e9},
-                                            {"dy", "Y width", 64, 1, 1e9}, {"dz", "Z width", 64, 1, 1e9}};
+inline constexpr MakerField kBoxFields[] = {{"x", "X", -1e9, 1e9},     {"y", "Y", -1e9, 1e9},
+                                            {"z", "Z", -1e9, 1e9},     {"dx", "X width", 1, 1e9},
+                                            {"dy", "Y width", 1, 1e9}, {"dz", "Z width", 1, 1e9}};
 
 // With care, the status when nothing came of the numbers.
 inline constexpr const char* kNoBoxMade = "Nothing valid comes of these values...";

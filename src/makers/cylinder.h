@@ -15,10 +15,10 @@ struct CylinderParams {
   int inner = 64;  // radii in world units, the outer at least one larger
   int outer = 128;
 };
-inline constexpr MakerField kCylinderFields[] = {{"sides", "Sides", 6, kFewestSides, kMostSides},
-                                                 {"strips", "Strips", 5, 1},
-                                                 {"inner", "Inner Radius", 64, 1},
-                                                 {"outer", "Outer Radius", 128, 2}};
+inline constexpr MakerField kCylinderFields[] = {{"sides", "Sides", kFewestSides, kMostSides},
+                                                 {"strips", "Strips", 1},
+                                                 {"inner", "Inner Radius", 1},
+                                                 {"outer", "Outer Radius", 2}};
 
 // What the form's numbers become before they are remembered.
 CylinderParams Limited(const CylinderParams& params);

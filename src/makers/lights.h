@@ -18,10 +18,10 @@ struct LightParams {
   int value = 150;            // brightness
   std::string type = kLightType;
 };
-inline constexpr MakerField kLightFields[] = {{"x", "X Lights", 2, 1},
-                                              {"y", "Y Lights", 2, 1},
-                                              {"z", "Z Lights", 2, 1},
-                                              {"value", "Light Value", 150, -2147483647},
+inline constexpr MakerField kLightFields[] = {{"x", "X Lights", 1},
+                                              {"y", "Y Lights", 1},
+                                              {"z", "Z Lights", 1},
+                                              {"value", "Light Value", -2147483647},
                                               {"type", "Light Type"}};
 
 inline constexpr char kNoLightClass[] = "No class begins with \"light\"...";

@@ -13,7 +13,6 @@ struct MakerTexts {
 struct MakerField {
   const char* name;  // as scripts set it
   const char* label;
-  double initial = 0;
   double least = 0;
   double most = 2147483647;
 };

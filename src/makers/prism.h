@@ -14,8 +14,8 @@ struct PrismParams {
   int sides = 5;
   int radius = 64;  // world units
 };
-inline constexpr MakerField kPrismFields[] = {{"sides", "Sides", 5, kFewestSides, kMostSides},
-                                              {"radius", "Radius", 64, kLeastPrismRadius}};
+inline constexpr MakerField kPrismFields[] = {{"sides", "Sides", kFewestSides, kMostSides},
+                                              {"radius", "Radius", kLeastPrismRadius}};
 
 // What the form's numbers become before they are remembered.
 PrismParams Limited(const PrismParams& params);

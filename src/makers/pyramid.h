@@ -16,9 +16,9 @@ struct PyramidParams {
   int radius = 64;  // world units
   int height = 64;
 };
-inline constexpr MakerField kPyramidFields[] = {{"sides", "Sides", 5, kFewestSides, kMostSides},
-                                                {"radius", "Radius", 64, kLeastPyramidRadius},
-                                                {"height", "Height", 64, kLeastPyramidHeight}};
+inline constexpr MakerField kPyramidFields[] = {{"sides", "Sides", kFewestSides, kMostSides},
+                                                {"radius", "Radius", kLeastPyramidRadius},
+                                                {"height", "Height", kLeastPyramidHeight}};
 
 // What the form's numbers become before they are remembered.
 PyramidParams Limited(const PyramidParams& params);

@@ -16,9 +16,8 @@ struct RevolveParams {
   int inner = 100;  // what 1 in the profile means, in world units; the outer at least one larger
   int outer = 200;
 };
-inline constexpr MakerField kRevolveFields[] = {{"strips", "Strips", 5, 1, kMostRevolveStrips},
-                                                {"inner", "Inner Radius", 100, 1},
-                                                {"outer", "Outer Radius", 200, 2}};
+inline constexpr MakerField kRevolveFields[] = {
+    {"strips", "Strips", 1, kMostRevolveStrips}, {"inner", "Inner Radius", 1}, {"outer", "Outer Radius", 2}};
 
 // What the form's numbers become before they are remembered.
 RevolveParams Limited(const RevolveParams& params);

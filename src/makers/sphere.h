@@ -16,10 +16,10 @@ struct SphereParams {
   int inner = 100;     // radii in world units, the outer at least one larger
   int outer = 200;
 };
-inline constexpr MakerField kSphereFields[] = {{"horizontal", "Horizontal Strips", 5, 1, kMostStrips},
-                                               {"vertical", "Vertical Strips", 5, 1, kMostStrips},
-                                               {"inner", "Inner Radius", 100, 1},
-                                               {"outer", "Outer Radius", 200, 2}};
+inline constexpr MakerField kSphereFields[] = {{"horizontal", "Horizontal Strips", 1, kMostStrips},
+                                               {"vertical", "Vertical Strips", 1, kMostStrips},
+                                               {"inner", "Inner Radius", 1},
+                                               {"outer", "Outer Radius", 2}};
 
 // What the form's numbers become before they are remembered.
 SphereParams Limited(const SphereParams& params);

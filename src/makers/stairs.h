@@ -28,11 +28,11 @@ struct StairParams {
   bool onX = false;  // runs along x, else along y
   bool down = false;
 };
-inline constexpr MakerField kStairFields[] = {{"steps", "Number of Steps", 12, 1},
-                                              {"width", "Step Width", 64, 1},
-                                              {"gap", "Vertical Gap Between Steps", 0, 0},
-                                              {"turns", "Number of Turns (Spiral Only)", 2, 0.1},
-                                              {"distance", "Dist from center (Spiral Only)", 20, 1},
+inline constexpr MakerField kStairFields[] = {{"steps", "Number of Steps", 1},
+                                              {"width", "Step Width", 1},
+                                              {"gap", "Vertical Gap Between Steps", 0},
+                                              {"turns", "Number of Turns (Spiral Only)", 0.1},
+                                              {"distance", "Dist from center (Spiral Only)", 1},
                                               {"type", "Stair Type"},
                                               {"on_x", "On X Axis"},
                                               {"down", "Going Down"}};

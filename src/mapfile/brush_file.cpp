@@ -12,15 +12,11 @@ namespace {
 
 constexpr FaceMessages kMessages{"parsing brush file, ( expected", "parsing brush file, ) expected"};
 
-bool IsMark(const Tokenizer& tokens, char mark) {
-  return tokens.token().size() == 1 && tokens.token().front() == mark && !tokens.quoted();
-}
-
 // The faces up to the closing brace; false when the text ends before it.
 bool ReadFaces(Tokenizer& tokens, brush& b) {
   while (tokens.GetScriptToken(true)) {
-    if (IsMark(tokens, '}')) return true;
-    if (!IsMark(tokens, '(')) Error("%s", kMessages.noOpen);
+    if (tokens.isMark('}')) return true;
+    if (!tokens.isMark('(')) Error("%s", kMessages.noOpen);
     if (b.numfaces() == MAX_FACES) Error("Line %i: brush with more than %i faces", tokens.line(), MAX_FACES);
     ReadFace(tokens, b.editFaces().emplace_back(), kMessages);
   }

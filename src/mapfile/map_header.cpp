@@ -59,10 +59,9 @@ class Scan {
   explicit Scan(std::string_view text) : text_(text) {}
 
   bool real(float& value) {
-    const std::optional<double> number = TakeNumber(text_);
-    if (!number || !std::isfinite(static_cast<float>(*number))) return false;
-    value = static_cast<float>(*number);
-    return true;
+    const std::optional<float> number = TakeFloat(text_);
+    if (number) value = *number;
+    return number.has_value();
   }
   bool integer(int& value) {
     const std::optional<int> number = TakeWhole(text_);

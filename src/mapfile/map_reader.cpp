@@ -26,11 +26,6 @@ bool NextToken(Tokenizer& tokens) {
   return found;
 }
 
-// Braces stand unquoted; a quoted one is a key.
-bool IsMark(const Tokenizer& tokens, char mark) {
-  return tokens.token().size() == 1 && tokens.token().front() == mark && !tokens.quoted();
-}
-
 int CapturedGroup(const MapText& text, const map& m) {
   return std::clamp(text.tokens.capturedGroup(), 0, m.groups.count() - 1);
 }
@@ -250,10 +245,10 @@ void initFromTokens(brush& b, entity& owner, MapText& text) {
       text.result.complete = false;
       break;
     }
-    if (IsMark(tokens, '}')) break;
+    if (tokens.isMark('}')) break;
     if (IsZeroAfterFace(tokens, faceLine)) continue;
     b.setGroup(CapturedGroup(text, owner.parent()));
-    if (!IsMark(tokens, '(')) Error("parsing map file");
+    if (!tokens.isMark('(')) Error("parsing map file");
     if (b.numfaces() == MAX_FACES) Error("Line %i: brush with more than %i faces", tokens.line(), MAX_FACES);
     text.result.cutPoints += ReadFace(tokens, b.editFaces().emplace_back());
     faceLine = tokens.line();
@@ -264,15 +259,15 @@ void initFromTokens(brush& b, entity& owner, MapText& text) {
 bool initFromTokens(entity& e, MapText& text) {
   Tokenizer& tokens = text.tokens;
   if (!tokens.GetScriptToken(true)) return false;
-  if (!IsMark(tokens, '{'))
+  if (!tokens.isMark('{'))
     Error("initFromTokens: { not found, %s instead", std::string(tokens.token()).c_str());
   for (;;) {
     if (!NextToken(tokens)) {
       text.result.complete = false;
       break;
     }
-    if (IsMark(tokens, '}')) break;
-    if (IsMark(tokens, '{')) {
+    if (tokens.isMark('}')) break;
+    if (tokens.isMark('{')) {
       ReadBrush(e, text);
       continue;
     }

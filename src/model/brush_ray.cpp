@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "base/error.h"
 #include "model/brush.h"
 
@@ -34,7 +36,22 @@ brush::RayClip brush::clipRay(const vec3& start, const vec3& end) const {
   return ray;
 }
 
+namespace {
+
+// Whether the bounds of the ray, a little widened, reach into those of the brush, as they do when it hits.
+bool MayMeet(const brush& b, const vec3& start, const vec3& end) {
+  constexpr float kMargin = 1;
+  for (int axis = 0; axis < 3; ++axis) {
+    if (b.maxs[axis] < std::min(start[axis], end[axis]) - kMargin) return false;
+    if (b.mins[axis] > std::max(start[axis], end[axis]) + kMargin) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 brush::Hit brush::hitByRay(const vec3& start, const vec3& end) const {
+  if (!MayMeet(*this, start, end)) return {};
   const RayClip ray = clipRay(start, end);
   if (ray.entry == -2 && ray.exit == -2) return {0, 0};
   if (ray.entry < 0) return {};

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "base/error.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "model/map.h"
 
@@ -19,14 +20,6 @@ constexpr std::string_view kOrigin = "origin";
 
 // From here on looking through all pairs takes longer than an index.
 constexpr size_t kManyPairs = 64;
-
-// Takes the next number off `text`; false where there is none, or one beyond a float's range.
-bool TakeFloat(std::string_view& text, float& number) {
-  const std::optional<double> read = TakeNumber(text);
-  if (!read || std::fabs(*read) > std::numeric_limits<float>::max()) return false;
-  number = float(*read);
-  return true;
-}
 
 }  // namespace
 
@@ -136,7 +129,11 @@ size_t entity::placeOf(std::string_view key) const {
 vec3 entity::vectorOfKey(std::string_view key) const {
   std::string_view text = valueOfKey(key);
   vec3 v;
-  (void)(TakeFloat(text, v.x) && TakeFloat(text, v.y) && TakeFloat(text, v.z));
+  for (int axis = 0; axis < 3; ++axis) {
+    const std::optional<float> number = TakeFloat(text);
+    if (!number) break;
+    v[axis] = *number;
+  }
   return v;
 }
 

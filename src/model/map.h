@@ -119,5 +119,8 @@ class map {
 
 // Whether views show the brush and picks meet it: neither its group nor the view filter leaves it out.
 inline bool IsShown(const map& m, const brush& b) { return m.passesGroupFilter(b) && !m.isFiltered(b); }
+// Whether a ray can meet it: an invalid brush may have no polygon left, and then every ray would seem to
+// start inside it.
+inline bool CanBeHit(const map& m, const brush& b) { return !b.invalid && IsShown(m, b); }
 
 }  // namespace velk

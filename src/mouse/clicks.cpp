@@ -10,8 +10,6 @@
 namespace velk {
 namespace {
 
-constexpr int kWireReach = 8;  // pixels
-
 PickRay RayUnder(const MouseContext& context, Pixel at) {
   if (!context.inCamera()) return RayAt(context.plan(), context.projection().screenToWorld(at));
   return {context.model.activeCamera().origin, context.camera.beyond ? context.camera.beyond(at) : vec3{}};
@@ -19,14 +17,10 @@ PickRay RayUnder(const MouseContext& context, Pixel at) {
 
 // What is seen comes first, whatever else the ray meets before it.
 std::vector<brush*> UnderInCamera(const MouseContext& context, Pixel at) {
-  const CameraPicks& camera = context.camera;
-  const bool wire = context.settings.drawmode == 0;
-  brush* seen = nullptr;
-  if (wire && camera.pickWire) seen = camera.pickWire(at, kWireReach);
-  if (!wire && camera.pickFace) seen = camera.pickFace(at).hit;
+  brush* seen = context.camera.pick(at).hit;
   if (!seen) return {};
   std::vector<brush*> under;
-  if (!wire) {
+  if (context.settings.drawmode != kWireMode) {
     const PickRay ray = RayUnder(context, at);
     under = LookAlongRay(context.model, ray.start, ray.end, false);
   }
@@ -51,8 +45,8 @@ void KeepHits(map& m, const std::vector<brush*>& under, size_t taken) {
 // The wire picture shows no faces: the brush's current one stays.
 int FaceUnder(const MouseContext& context, const brush& b, Pixel at) {
   if (context.inCamera()) {
-    if (context.settings.drawmode == 0) return b.currentFace();
-    const FacePick seen = context.camera.pickFace ? context.camera.pickFace(at) : FacePick{};
+    if (context.settings.drawmode == kWireMode) return b.currentFace();
+    const FacePick seen = context.camera.pick(at);
     if (seen.hit == &b) return seen.face;
   }
   const PickRay ray = RayUnder(context, at);

@@ -23,9 +23,8 @@ inline constexpr int kCameraView = kPlanViews;
 // What tools ask of the camera view. Pixels are those of its window.
 struct CameraPicks {
   int width = 0;  // of the window
-  std::function<FacePick(Pixel)> pickFace;
-  // The brush with an edge within so many pixels in the wire picture.
-  std::function<brush*(Pixel, int reach)> pickWire;
+  // The brush and face at a pixel; in the wire picture the brush with an edge near by, and no face.
+  std::function<FacePick(Pixel)> pick = [](Pixel) { return FacePick{}; };
   // A point of the world far beyond what a flat or textured picture shows at the pixel.
   std::function<vec3(Pixel)> beyond;
   // The face under the press, which the tools are tried on; none in the wire picture.
@@ -95,9 +94,8 @@ class Drag {
   virtual void cancel(const MouseContext& /*context*/) {}
 
   virtual void draw(const DragState& /*state*/, Overlay& /*overlay*/) const {}
-  // The copy shown in place of a brush of the map, and the brush that such a copy stands for.
+  // The copy shown in place of a brush of the map.
   virtual const brush* preview(const brush& /*of*/) const { return nullptr; }
-  virtual brush* original(const brush& /*copy*/) const { return nullptr; }
 };
 
 // The result of trying one tool at a press.

@@ -83,8 +83,8 @@ const MouseOperation* Find(std::span<const MouseOperation> operations, std::stri
 
 // The face becomes its brush's current one.
 FacePick PickUnder(const MouseContext& context, const PointerEvent& event) {
-  if (context.settings.drawmode == 0 || !context.camera.pickFace) return {};
-  const FacePick pick = context.camera.pickFace(event.at);
+  if (context.settings.drawmode == kWireMode) return {};
+  const FacePick pick = context.camera.pick(event.at);
   if (pick.hit) pick.hit->setCurrentFace(pick.face);
   return pick;
 }
@@ -97,6 +97,10 @@ std::span<const MouseOperation> CameraOperations() { return kCamera; }
 int lookupOperation(std::span<const MouseOperation> operations, std::string_view name) {
   const MouseOperation* found = Find(operations, name);
   return found ? found->code : 0;
+}
+
+std::span<const MouseOperation> OperationsOf(int view) {
+  return view == kCameraView ? CameraOperations() : PlanOperations();
 }
 
 const MouseOperation* OperationOf(std::span<const MouseOperation> operations, int code) {

@@ -20,9 +20,10 @@ struct MouseOperation {
   const char* keys = "";   // and what keys do meanwhile
 };
 
-// Of the plan views and of the camera view.
+// Of the plan views and of the camera view, and of one of them.
 std::span<const MouseOperation> PlanOperations();
 std::span<const MouseOperation> CameraOperations();
+std::span<const MouseOperation> OperationsOf(int view);
 
 // The code of the operation of that name, in any case; 0 for none.
 int lookupOperation(std::span<const MouseOperation> operations, std::string_view name);

@@ -21,7 +21,7 @@ using Begins = bool (*)(const MouseContext&, const PointerEvent&);
 bool Always(const MouseContext&, const PointerEvent&) { return true; }
 
 bool HasOne(const MouseContext& context, const PointerEvent&) {
-  return OnlySelected(context.model) != nullptr;
+  return OnlyShownSelected(context.model) != nullptr;
 }
 
 bool CanDraw(const MouseContext& context, const PointerEvent&) {
@@ -51,7 +51,7 @@ bool CanTurn(const MouseContext& context, const PointerEvent& event) {
 }
 
 bool CanPullVertex(const MouseContext& context, const PointerEvent& event) {
-  const brush* b = context.settings.drag_vertex != 0 ? OnlySelected(context.model) : nullptr;
+  const brush* b = context.settings.drag_vertex != 0 ? OnlyShownSelected(context.model) : nullptr;
   return b && HasCornerNear(context, *b, PointUnder(context, event));
 }
 
@@ -60,15 +60,15 @@ bool CanMove(const MouseContext& context, const PointerEvent& event) {
   const PickRay ray = RayAt(context.plan(), at);
   bool hit = false;
   VisitBrushes(context.model, BrushFilter::Selected, [&](const brush& b) {
-    hit = hit || (!b.invalid && IsShown(context.model, b) && IsOver(context, b, at, 1) &&
-                  b.hitByRay(ray.start, ray.end).t >= 0);
+    hit = hit ||
+          (CanBeHit(context.model, b) && IsOver(context, b, at, 1) && b.hitByRay(ray.start, ray.end).t >= 0);
   });
   return hit;
 }
 
 // One of the faces that stand on edge is towards the cursor.
 bool CanDragFace(const MouseContext& context, const PointerEvent& event) {
-  const brush* b = OnlySelected(context.model);
+  const brush* b = OnlyShownSelected(context.model);
   if (!b) return false;
   const int depth = context.plan().axisDepth;
   const std::optional<vec3> at = FaceDragPoint(context, *b, PointUnder(context, event));
@@ -95,7 +95,7 @@ bool CanDragClipPoint(const MouseContext& context, const PointerEvent& event) {
 }
 
 bool HasFaceUnder(const MouseContext& context, const PointerEvent& event) {
-  return context.settings.drawmode != 0 && context.camera.pickFace && context.camera.pickFace(event.at).hit;
+  return context.camera.pick(event.at).face >= 0;
 }
 
 struct Tool {
@@ -144,14 +144,14 @@ CursorShape CursorOf(std::string_view operation) {
 }
 
 CursorShape CursorBefore(const MouseContext& context, const PointerEvent& event, const MouseBinding* binding,
-                         bool clickTakes) {
+                         const std::function<bool()>& clickTakes) {
   if (!binding) return CursorShape::Idle;
   for (const std::string& name : binding->names) {
     const Tool* tool = Find(name);
     if (!tool) return CursorShape::Idle;  // a click, which shows by what it would take
     if (tool->begins(context, event)) return tool->shape;
   }
-  return clickTakes ? CursorShape::Idle : CursorShape::Refused;
+  return clickTakes() ? CursorShape::Idle : CursorShape::Refused;
 }
 
 }  // namespace velk

@@ -1,6 +1,7 @@
 // The shapes of the cursor: what a press would begin where the mouse rests, and what a drag is doing.
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "mouse/bindings.h"
@@ -19,6 +20,6 @@ CursorShape CursorOf(std::string_view operation);
 // Before a press that has this binding, by the first of its operations that could begin. Idle without a
 // binding and where a click has something to take; refused where nothing can begin.
 CursorShape CursorBefore(const MouseContext& context, const PointerEvent& event, const MouseBinding* binding,
-                         bool clickTakes);
+                         const std::function<bool()>& clickTakes);
 
 }  // namespace velk

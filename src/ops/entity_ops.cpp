@@ -1,5 +1,6 @@
 #include "ops/entity_ops.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace velk {
@@ -14,7 +15,7 @@ void FollowClass(entity& e) {
 std::optional<vec3> OffsetTo(std::string_view text, const vec3& from) {
   vec3 offset;
   for (int axis = 0; axis < 3; ++axis) {
-    const std::optional<double> number = TakeNumber(text);
+    const std::optional<float> number = TakeFloat(text);
     if (!number) return std::nullopt;
     offset[axis] = float(RoundHalfAway(*number) - from[axis]);
   }

@@ -49,8 +49,6 @@ class LeakSearch {
   void conformAll();
 
   int conformed() const { return conformed_; }
-  // How many brushes this made invalid; they stay in their entities.
-  int becameInvalid() const { return becameInvalid_; }
   std::string summary() const;
 
  private:
@@ -66,7 +64,7 @@ class LeakSearch {
   int faces_ = -1;  // the pair of faces looked at next, by number; -1: the brushes are still to be found
   LeakPair last_;
   int conformed_ = 0;
-  int becameInvalid_ = 0;
+  int becameInvalid_ = 0;  // brushes, which stay in their entities
 };
 
 }  // namespace velk

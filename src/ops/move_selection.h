@@ -14,8 +14,6 @@ inline constexpr char kMovedSelection[] = "Moved selected brushes...";
 inline constexpr char kCopiedSelection[] = "Copied and moved selected brushes...";
 inline constexpr char kCopyMoveCancelled[] = "Couldn't create dialog!";
 inline constexpr char kDeleting[] = "Deleting...";
-inline constexpr char kSelectedInside[] = "Selected brushes totally inside...";  // SelectByBox
-inline constexpr char kSelectedTouching[] = "Selected brushes partially inside...";
 
 // Moves the selected brushes of visible groups.
 void MoveSelection(map& m, const vec3& offset);

@@ -14,8 +14,6 @@ struct Met {
   bool world = false;
 };
 
-bool CanBeTaken(const map& m, const brush& b) { return !b.invalid && IsShown(m, b); }
-
 // New brushes get the depth of what was deselected last.
 void DeselectAll(map& m) {
   VisitBrushes(m, BrushFilter::Every, [](brush& b) {
@@ -78,7 +76,7 @@ std::vector<brush*> LookAlongRay(const map& m, const vec3& start, const vec3& en
   std::vector<Met> met;
   for (int i = m.numentities() - 1; i >= 0; --i) {
     for (brush& b : m.at(i)->brushes()) {
-      if (!CanBeTaken(m, b)) continue;
+      if (!CanBeHit(m, b)) continue;
       const double t = b.hitByRay(start, end).t;
       if (t >= 0) met.push_back({&b, t, i == 0 && entitiesFirst});
     }
@@ -89,13 +87,6 @@ std::vector<brush*> LookAlongRay(const map& m, const vec3& start, const vec3& en
       met, [](const Met& a, const Met& b) { return a.world != b.world ? b.world : a.t < b.t; });
   std::vector<brush*> brushes;
   for (const Met& each : met) brushes.push_back(each.b);
-  return brushes;
-}
-
-std::vector<brush*> BrushesAlong(map& m, const vec3& start, const vec3& end, bool entitiesFirst) {
-  std::vector<brush*> brushes = LookAlongRay(m, start, end, entitiesFirst);
-  m.hits.clear();
-  for (brush* b : brushes) m.hits.add(*b);
   return brushes;
 }
 
@@ -117,7 +108,7 @@ int SelectInRectangle(map& m, const ViewRectangle& rectangle, bool touching, boo
   int count = 0;
   entity* last = nullptr;
   VisitBrushes(m, BrushFilter::Visible, [&](brush& b) {
-    if (!CanBeTaken(m, b) || !(touching ? Touches(b, rectangle) : LiesIn(b, rectangle))) return;
+    if (!CanBeHit(m, b) || !(touching ? Touches(b, rectangle) : LiesIn(b, rectangle))) return;
     b.select(true);
     last = b.owner;
     ++count;

@@ -9,9 +9,7 @@
 namespace velk {
 
 // The shown brushes that a ray meets, those of other entities than the world first when asked, the nearest
-// first. The hit list becomes the first of them. A click takes the first.
-std::vector<brush*> BrushesAlong(map& m, const vec3& start, const vec3& end, bool entitiesFirst);
-// The same without keeping hits.
+// first. A click takes the first.
 std::vector<brush*> LookAlongRay(const map& m, const vec3& start, const vec3& end, bool entitiesFirst);
 
 // Selects one brush instead of all others; its entity becomes current. None: deselects everything, and the

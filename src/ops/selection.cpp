@@ -22,36 +22,14 @@ struct Candidate {
   }
 };
 
-// An invalid brush may have no polygon left, and then every ray would seem to start inside it.
-bool CanBeHit(const map& m, const brush& b) { return !b.invalid && IsShown(m, b); }
-
-// The bounds of a ray, a little widened. What it hits reaches into them.
-struct RayBounds {
-  vec3 low;
-  vec3 high;
-
-  RayBounds(const vec3& start, const vec3& end) {
-    constexpr float kMargin = 1;
-    for (int axis = 0; axis < 3; ++axis) {
-      low[axis] = std::min(start[axis], end[axis]) - kMargin;
-      high[axis] = std::max(start[axis], end[axis]) + kMargin;
-    }
-  }
-  bool meets(const brush& b) const {
-    return b.mins.x <= high.x && b.maxs.x >= low.x && b.mins.y <= high.y && b.maxs.y >= low.y &&
-           b.mins.z <= high.z && b.maxs.z >= low.z;
-  }
-};
-
 // Calls `meet` with every brush that the ray hits.
 template <typename Meet>
 Candidate Nearest(const map& m, const vec3& start, const vec3& end, bool entitiesFirst, Meet&& meet) {
-  const RayBounds bounds(start, end);
   Candidate best;
   for (int i = m.numentities() - 1; i >= 0; --i) {
     if (i == 0 && entitiesFirst && best.hit) break;
     for (brush& b : m.at(i)->brushes()) {
-      if (!bounds.meets(b) || !CanBeHit(m, b)) continue;
+      if (!CanBeHit(m, b)) continue;
       const brush::Hit at = b.hitByRay(start, end);
       if (at.t >= 0) meet(b);
       best.offer(b, at);

@@ -39,27 +39,15 @@ void DrawPlanView(Canvas& canvas, const PlanScene& scene, int view) {
 void DrawPlanView(RasterCanvas& canvas, const PlanScene& scene, int view, const StillBrushes& still,
                   PlanLayer& layer) {
   if (!scene.shown || !still.mostStay()) return DrawPlanView(canvas, scene, view);
-  const PlanLayer::Key key =
-      LayerKey(scene.set, view, scene.settings, *scene.shown, still, canvas.deviceScale());
-  if (layer.key != key) {
-    layer.key = key;
-    layer.drawn = false;
+  if (!layer.fits(LayerKey(scene.set, view, scene.settings, *scene.shown, still, canvas.deviceScale()))) {
     return DrawPlanView(canvas, scene, view);
   }
   ViewPainter painter(canvas, scene, view);
-  if (layer.drawn) {
-    canvas.paste(layer.pixels);
-  } else {
-    canvas.keepRanks(layer.ranks);
+  const auto drawStill = [&] {
     DrawUnderBrushes(painter);
     DrawStillBrushes(painter, canvas, still);
-    canvas.freeRanks();
-    canvas.copyTo(layer.pixels);
-    layer.drawn = true;
-  }
-  canvas.obeyRanks(layer.ranks);
-  DrawMovingBrushes(painter, canvas, still);
-  canvas.freeRanks();
+  };
+  layer.draw(canvas, drawStill, [&] { DrawMovingBrushes(painter, canvas, still); });
   DrawOverBrushes(painter);
 }
 

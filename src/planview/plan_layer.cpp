@@ -18,15 +18,15 @@ bool Same(const clipper& a, const clipper& b) {
 
 }  // namespace
 
-bool PlanLayer::Key::operator==(const Key& other) const {
+bool PlanLayerKey::operator==(const PlanLayerKey& other) const {
   return generation == other.generation && projection == other.projection &&
          deviceScale == other.deviceScale && normal == other.normal && grid == other.grid &&
          coordinates == other.coordinates && gridsize == other.gridsize && gridStyle == other.gridStyle &&
          Same(colours, other.colours) && Same(clip, other.clip);
 }
 
-PlanLayer::Key LayerKey(const PlanViewSet& set, int view, const Settings& settings, const map& shown,
-                        const StillBrushes& still, double deviceScale) {
+PlanLayerKey LayerKey(const PlanViewSet& set, int view, const Settings& settings, const map& shown,
+                      const StillBrushes& still, double deviceScale) {
   const PlanView& record = set.views[static_cast<size_t>(view)];
   return {.generation = still.generation(),
           .projection = set.projection(view, settings),

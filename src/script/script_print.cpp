@@ -190,12 +190,9 @@ Lines MapLines(map& m) {
 
 // The operation that runs.
 std::string DragText(const Editor& editor) {
-  const Pointer& pointer = editor.input().pointer();
-  if (!pointer.drag()) return "none";
-  for (const MouseOperation& o : pointer.view() == kCameraView ? CameraOperations() : PlanOperations()) {
-    if (o.code == pointer.drag()->code()) return o.name;
-  }
-  return "view";
+  if (!editor.input().pointer().drag()) return "none";
+  const MouseOperation* running = editor.input().runningOperation();
+  return running ? running->name : "view";
 }
 
 Lines HitLines(const map& m) {

@@ -43,6 +43,9 @@ struct ViewFilter {
   bool omitsAny() const { return omitLights || omitEntities || omitWorld || omitWater || omitClip; }
 };
 
+// Of the camera view.
+inline constexpr int kWireMode = 0, kFlatMode = 1, kTexturedMode = 2;
+
 // Values of section [Velk] carry the name of their key.
 struct Settings {
   // Files and directories, as given; directories end in a separator.
@@ -57,8 +60,8 @@ struct Settings {
   std::string entities = "ents.qc";  // several parted by ';'
 
   // General and plan views.
-  int gridsize = 8;                 // world units
-  int drawmode = 0;                 // 0 wire, 1 flat, 2 texture
+  int gridsize = 8;  // world units
+  int drawmode = kWireMode;
   float stepsize = 64;              // world units
   float far_clip_distance = -8192;  // view depth, negative
   bool show_grid = false;

@@ -71,9 +71,8 @@ Palette ParsePaletteText(std::string_view text) {
   Palette palette{};
   for (size_t i = 0; i < palette.size(); i += 3) {
     const size_t end = std::min(text.find('\n'), text.size());
-    const std::string line(text.substr(0, end));
+    std::string_view rest = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
-    std::string_view rest = line;
     if (!TakeChannel(rest, palette[i]) || !TakeChannel(rest, palette[i + 1]) ||
         !TakeChannel(rest, palette[i + 2])) {
       Error("Current wad had no palette and Quake.pal file is corrupt...");

@@ -12,18 +12,23 @@ namespace {
 
 constexpr int kBadSide = 32;
 
-// The file names of a "wad" value; empty ones (";;", a ';' at the end) name nothing.
-std::vector<std::string> WadNames(std::string_view value) {
-  std::vector<std::string> names = Split(value, ';');
-  for (std::string& name : names) {
-    const size_t first = name.find_first_not_of(" \t");
-    name = first == std::string::npos ? "" : name.substr(first, name.find_last_not_of(" \t") - first + 1);
-  }
-  std::erase(names, "");
+// Of the world, as many as a map may have.
+std::vector<std::string> MapWadNames(const map& m) {
+  std::vector<std::string> names;
+  if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
+  names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
   return names;
 }
 
 }  // namespace
+
+std::vector<std::string> WadNames(std::string_view value) {
+  std::vector<std::string> names;
+  for (const std::string& name : Split(value, ';')) {
+    if (const std::string_view trimmed = Trimmed(name); !trimmed.empty()) names.emplace_back(trimmed);
+  }
+  return names;
+}
 
 TextureManager::TextureManager(const WadServices& services, std::uint32_t seed)
     : services_(services), random_(seed) {
@@ -72,18 +77,13 @@ void TextureManager::reload(Wad& wad, const WadProgressSink& progress) {
 }
 
 bool TextureManager::hasMapWads(const map& m, const TextureSet& set) const {
-  std::vector<std::string> names;
-  if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
-  names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
-  return std::ranges::equal(names, set.wads(), [](const std::string& name, const Wad* wad) {
+  return std::ranges::equal(MapWadNames(m), set.wads(), [](const std::string& name, const Wad* wad) {
     return EqualNoCase(FileNamePart(name), FileNamePart(wad->path));
   });
 }
 
 int TextureManager::openMapWads(map& m, TextureSet& set, const WadProgressSink& progress, bool keepSlots) {
-  std::vector<std::string> names;
-  if (m.world()) names = WadNames(m.world()->valueOfKey("wad"));
-  names.resize(std::min<size_t>(names.size(), MAX_MAP_WADS));
+  const std::vector<std::string> names = MapWadNames(m);
   const size_t before = wads_.size();
   std::vector<Wad*> wads;
   for (const std::string& name : names) wads.push_back(&openWad(name, progress));

@@ -14,6 +14,9 @@
 
 namespace velk {
 
+// The file names of a "wad" value; empty ones (";;", a ';' at the end) name nothing.
+std::vector<std::string> WadNames(std::string_view value);
+
 class TextureManager {
  public:
   // What the services name must outlive the manager. Equal seeds give equal pictures.

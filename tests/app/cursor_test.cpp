@@ -3,29 +3,20 @@
 
 #include "app/view_overlay.h"
 #include "support/recording_canvas.h"
-#include "support/session.h"
+#include "view_fixture.h"
 
 namespace velk {
 namespace {
 
-// A pixel is a unit of the plan views, and (0, 0) is in the middle of their 400 by 300 pixels.
-struct CursorTest : testing::Test {
-  CursorTest() {
-    session.home.write("velkmouse.ini",
-                       "1 1\n{ Test\n{ CLIPPOINTDRAG;CAMERADRAG;BRUSHDRAG;FACEDRAG;NEWBRUSH LEFT }\n"
-                       "{ VERTEXDRAG LEFT CTRL }\n{ ROTATE LEFT ALT }\n{ SELECT LEFT SHIFT }\n}\n");
-    settings().hover_pick = settings().tool_cursors = settings().show_sizes = true;
-    session.open();
-    settings().gridsize = 16;
+struct CursorTest : test::ViewFixture {
+  CursorTest()
+      : ViewFixture(
+            "1 1\n{ Test\n{ CLIPPOINTDRAG;CAMERADRAG;BRUSHDRAG;FACEDRAG;NEWBRUSH LEFT }\n"
+            "{ VERTEXDRAG LEFT CTRL }\n{ ROTATE LEFT ALT }\n{ SELECT LEFT SHIFT }\n}\n") {
+    settings().tool_cursors = settings().show_sizes = true;
     settings().drag_vertex = 1;
-    settings().show_cameras = false;
-    for (int view = 0; view < kPlanViews; ++view) session.editor.views().resize(view, 400, 300);
-    session.editor.views().plans.planCenter = {};
-    session.current().setCurrentEntity(session.current().world());
   }
 
-  Settings& settings() { return session.editor.settings(); }
-  ViewInput& input() { return session.editor.input(); }
   std::string cursorAt(int x, int y, bool shift = false, bool ctrl = false) {
     PointerEvent event;
     event.at = {x, y};
@@ -36,11 +27,9 @@ struct CursorTest : testing::Test {
   }
   std::vector<std::string> overlay(int view) {
     test::RecordingCanvas canvas;
-    DrawPlanOverlay(canvas, session.editor, view);
+    DrawViewOverlay(canvas, session.editor, view, session.editor.input().hovered(view));
     return canvas.strokes;
   }
-
-  test::Session session;
 };
 
 TEST_F(CursorTest, ShapesTellWhatAPressWouldBegin) {

@@ -1,27 +1,17 @@
 // Presses, drags and clicks as they reach the tools.
 #include "app/view_input.h"
 
-#include "support/session.h"
+#include "view_fixture.h"
 
 namespace velk {
 namespace {
 
-// A pixel is a unit of the plan views, and (0, 0) is in the middle of their 400 by 300 pixels.
-struct ViewInputTest : testing::Test {
-  ViewInputTest() {
-    session.home.write("velkmouse.ini", "1 1\n{ Test\n{ FACEDRAG;BRUSHDRAG LEFT }\n}\n");
-    session.open();
-    settings().gridsize = 16;
+struct ViewInputTest : test::ViewFixture {
+  ViewInputTest() : ViewFixture("1 1\n{ Test\n{ FACEDRAG;BRUSHDRAG LEFT }\n}\n") {
     settings().undo_levels = 1;
-    settings().click_selects = settings().click_menu = settings().hover_pick = true;
-    settings().show_cameras = false;
-    for (int view = 0; view < kPlanViews; ++view) session.editor.views().resize(view, 400, 300);
-    session.editor.views().plans.planCenter = {};
-    session.current().setCurrentEntity(session.current().world());
+    settings().click_selects = settings().click_menu = true;
   }
 
-  Settings& settings() { return session.editor.settings(); }
-  ViewInput& input() { return session.editor.input(); }
   // From x 0 to 64, and so is y.
   brush& wall() { return *session.current().world()->at(0); }
   void begin(int fromX, int toX) {
@@ -32,8 +22,6 @@ struct ViewInputTest : testing::Test {
     input().press(0, {{232, 118}, button});
     input().release(0, {{232, 118}, button});
   }
-
-  test::Session session;
 };
 
 TEST_F(ViewInputTest, ACancelledDragLeavesTheClassicLevelOfTheOneBefore) {

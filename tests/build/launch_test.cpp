@@ -54,7 +54,7 @@ TEST(Profiles, KeepLinesAndFillThemIn) {
   ASSERT_TRUE(profiles.save(file));
   profiles = BuildProfiles::Load(file);
   EXPECT_EQ(profiles.chosen, "mine");
-  EXPECT_EQ(profiles.names().size(), kBatchCount + 1u);
+  EXPECT_EQ(profiles.names().size(), std::size(kBatchFiles) + 1);
   const auto launches =
       LaunchesOf(profiles, "mine", Paths(), Settings(), {"/my maps/e1.map", {"/a.wad", "/b.wad"}});
   ASSERT_EQ(launches.size(), 3u);

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "camera/compass.h"
-#include "camera/leak_line.h"
+#include "camera/live/leak_line.h"
 #include "scene_builder.h"
 #include "support/recording_canvas.h"
 
@@ -40,16 +40,19 @@ TEST_F(WireTest, DrawsEveryFaceFromBothSidesAndShowsTheSelection) {
 
 TEST_F(WireTest, TheLeakLineIsCutAndMarked) {
   const vec3 points[] = {{100, 0, 0}, {100, -20, 0}, {-100, -20, 0}};
-  DrawLeakLine(canvas, kWindow, {}, m, settings, kLens, points);
-  EXPECT_EQ(canvas.starting("line"),
-            (std::vector<std::string>{"line #ff0000 2 50 40 - 70 40", "line #ff0000 2 70 40 - 100 40"}));
+  settings.drawmode = kWireMode;
+  CameraMarks wire(canvas, m.activeCamera(), settings, kLens, kWindow, {});
+  DrawLeakLine(canvas, wire, points);
+  EXPECT_EQ(canvas.starting("polygon"),
+            (std::vector<std::string>{"polygon #ff0000 2 50 40 70 40", "polygon #ff0000 2 70 40 2050 40"}));
   // The end is behind the eye.
   EXPECT_EQ(canvas.starting("fill"),
             (std::vector<std::string>{"fill #ff0000 46 36 9 9", "fill #00c800 47 37 7 7"}));
   // In the other modes, over a picture of twice the size.
   canvas = {};
   settings.drawmode = 1;
-  DrawLeakLine(canvas, kWindow, {202, 162}, m, settings, kLens, points);
+  CameraMarks stretched(canvas, m.activeCamera(), settings, kLens, kWindow, {202, 162});
+  DrawLeakLine(canvas, stretched, points);
   EXPECT_EQ(canvas.starting("fill")[1], "fill #00c800 47 24 7 7");
 }
 

@@ -74,7 +74,7 @@ TEST_F(LayerTest, MovingBrushesAreDrawnAsInTheWholePicture) {
       still.look(m);
       for (int view = 0; view < kPlanViews; ++view) {
         ASSERT_EQ(picture(view, true), picture(view, false)) << round << ' ' << move << ' ' << view;
-        drawn += layers[view].drawn;
+        drawn += layers[view].isDrawn();
       }
     }
   }

@@ -8,9 +8,9 @@
 namespace velk {
 namespace {
 
-WireLayer::Key KeyOf(RenderSize size, const RenderScene& scene, double deviceScale) {
+WireLayerKey KeyOf(RenderSize size, const RenderScene& scene, double deviceScale) {
   const camera& eye = scene.model.activeCamera();
-  WireLayer::Key key;
+  WireLayerKey key;
   key.shown = &scene.model;
   key.generation = scene.still->generation();
   key.size = size;
@@ -53,24 +53,11 @@ void DrawMoving(RasterCanvas& canvas, RenderSize size, const RenderScene& scene)
 }  // namespace
 
 void DrawWire(RasterCanvas& canvas, RenderSize canvasSize, const RenderScene& scene, WireLayer& layer) {
-  const WireLayer::Key key = KeyOf(canvasSize, scene, canvas.deviceScale());
-  if (layer.key != key || !scene.still->mostStay()) {
-    layer.key = key;
-    layer.drawn = false;
+  if (!layer.fits(KeyOf(canvasSize, scene, canvas.deviceScale())) || !scene.still->mostStay()) {
     return DrawWire(canvas, canvasSize, scene);
   }
-  if (layer.drawn) {
-    canvas.paste(layer.pixels);
-  } else {
-    canvas.keepRanks(layer.ranks);
-    DrawStill(canvas, canvasSize, scene);
-    canvas.freeRanks();
-    canvas.copyTo(layer.pixels);
-    layer.drawn = true;
-  }
-  canvas.obeyRanks(layer.ranks);
-  DrawMoving(canvas, canvasSize, scene);
-  canvas.freeRanks();
+  layer.draw(
+      canvas, [&] { DrawStill(canvas, canvasSize, scene); }, [&] { DrawMoving(canvas, canvasSize, scene); });
 }
 
 }  // namespace velk

@@ -11,20 +11,6 @@ namespace {
 constexpr const char* kLaunchCaption = "Velk - Launch BSPBuild";
 constexpr const char* kRunning = "A build is running already...";
 
-Answer AskYesNo(Editor& editor, const char* caption, const char* text) {
-  return editor.services().prompts.ask({.caption = caption,
-                                        .text = text,
-                                        .buttons = MessageBox::Buttons::YesNo,
-                                        .icon = MessageBox::Icon::Question});
-}
-
-// Saves as the Save command does and posts what it says; false when nothing was saved.
-bool SaveNow(Editor& editor) {
-  const auto saved = Save(editor, *editor.documents().current());
-  if (saved) editor.door().show(*saved);
-  return saved.has_value();
-}
-
 BuildMap BuildMapOf(Editor& editor) {
   BuildMap map;
   map.path = editor.documents().currentMap()->name;
@@ -58,7 +44,7 @@ Outcome RunBatch(Editor& editor, map& m, const char* stem) {
   if (inWindow && BuildRuns(editor)) return Outcome::Said(kRunning);
   const Paths& paths = editor.services().paths;
   Launch launch = BatchLaunch(paths, editor.settings(), stem, m.name);
-  if (AskYesNo(editor, "Velk - Export", "Okay to save map?") != Answer::Yes) return {};
+  if (!editor.services().prompts.agrees("Velk - Export", "Okay to save map?")) return {};
   const bool saved = SaveNow(editor);
   if (careful && !saved) return {};
   if (careful) launch = BatchLaunch(paths, editor.settings(), stem, m.name);
@@ -79,12 +65,12 @@ Outcome LaunchBuilder(Editor& editor, map& m) {
                 {MapArgument(m.name)},
                 settings.map_directory};
   if (!paths.exists(launch.program)) {
-    AskYesNo(editor, kLaunchCaption,
-             "Must have Orlund's BSPBuild.exe in the .bat directory\n"
-             "See Files | Directories for current .bat file directory...");
+    editor.services().prompts.agrees(kLaunchCaption,
+                                     "Must have Orlund's BSPBuild.exe in the .bat directory\n"
+                                     "See Files | Directories for current .bat file directory...");
     return {};
   }
-  if (AskYesNo(editor, kLaunchCaption, "Okay to save map before launching BSPBuild?") != Answer::Yes) {
+  if (!editor.services().prompts.agrees(kLaunchCaption, "Okay to save map before launching BSPBuild?")) {
     return {};
   }
   const bool saved = SaveNow(editor);

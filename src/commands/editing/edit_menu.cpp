@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "commands/building/build_commands.h"
 #include "commands/command_tables.h"
-#include "commands/editing/leak_commands.h"
+#include "commands/editing/leak_search_command.h"
 #include "commands/editing/repeat.h"
 #include "commands/editing/solid_commands.h"
 #include "commands/editing/transform_commands.h"

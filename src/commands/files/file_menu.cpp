@@ -86,12 +86,8 @@ Outcome SaveMapAs(Editor& editor, map&) {
 
 // A build goes on while its questions are asked, and ends with the editor.
 bool MayEndBuild(Editor& editor) {
-  if (!editor.build().job().running()) return true;
-  const Answer answer = editor.services().prompts.ask({.caption = "Velk - Build Running",
-                                                       .text = "A build is running. Stop it and exit?",
-                                                       .buttons = MessageBox::Buttons::YesNo,
-                                                       .icon = MessageBox::Icon::Question});
-  return answer == Answer::Yes;
+  return !editor.build().job().running() ||
+         editor.services().prompts.agrees("Velk - Build Running", "A build is running. Stop it and exit?");
 }
 
 Outcome ExitEditor(Editor& editor) {

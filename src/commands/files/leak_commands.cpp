@@ -1,25 +1,20 @@
 #include "commands/files/leak_commands.h"
 
-#include <cmath>
 #include <new>
-#include <numbers>
 
 #include "base/error.h"
 #include "base/text.h"
+#include "camera/flight.h"
 
 namespace velk {
 namespace {
 
 // Level, along the trail's next points; straight up or down it stays as it was.
-void LookAlong(camera& eye, std::span<const vec3> points, int from) {
+void LookAlongTrail(camera& eye, std::span<const vec3> points, int from) {
   for (size_t i = static_cast<size_t>(from) + 1; i < points.size(); ++i) {
     const double dx = double(points[i].x) - eye.origin.x, dy = double(points[i].y) - eye.origin.y;
     if (dx * dx + dy * dy < 1) continue;
-    camera level;
-    eye.roll = level.roll;
-    eye.pitch = level.pitch;
-    eye.yaw = static_cast<float>(std::atan2(dy, dx) + std::numbers::pi / 2);
-    return;
+    return LookAlong(eye, {float(dx), float(dy), 0});
   }
 }
 
@@ -63,7 +58,7 @@ Outcome StepLeak(Editor& editor, map& m, int by) {
   if (!leaks.shown()) return {};
   camera& eye = m.activeCamera();
   eye.origin = leaks.step(by);
-  LookAlong(eye, leaks.points(), leaks.current());
+  LookAlongTrail(eye, leaks.points(), leaks.current());
   Outcome outcome = Outcome::Drawn(
       Redraw::All, Format("Leak point %i of %zu...", leaks.current() + 1, leaks.points().size()));
   outcome.centre = Centre::Follow;

@@ -32,4 +32,10 @@ std::optional<Outcome> Save(Editor& editor, MapDocument& document) {
   return SaveDocument(editor.services(), editor.documents(), document, path);
 }
 
+bool SaveNow(Editor& editor) {
+  const auto saved = Save(editor, *editor.documents().current());
+  if (saved) editor.door().show(*saved);
+  return saved.has_value();
+}
+
 }  // namespace velk

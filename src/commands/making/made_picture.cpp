@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kWidth = 240;  // unscaled pixels, at least
 constexpr int kHeight = 180;
-constexpr int kTextured = 2;  // draw mode
 
 constexpr int kFirstPitch = 25;  // degrees
 constexpr int kFirstYaw = 30;
@@ -77,7 +76,7 @@ std::array<std::uint32_t, 256> ImageColours(const Wad* wad) {
 }
 
 Settings PictureSettings(Settings settings) {
-  settings.drawmode = kTextured;
+  settings.drawmode = kTexturedMode;
   settings.filter = {};
   settings.groupmode = false;
   settings.outline = true;

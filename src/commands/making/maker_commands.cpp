@@ -80,11 +80,8 @@ std::shared_ptr<MadePicture> PictureOf(Editor& editor, const Seed& seed,
 std::optional<FormRefusal> ConfirmHeight(Prompts& prompts, double height) {
   const auto question = StepHeightQuestion(height);
   if (!question) return std::nullopt;
-  const Answer answer = prompts.ask({.caption = kStepHeightCaption,
-                                     .text = *question,
-                                     .buttons = MessageBox::Buttons::YesNo,
-                                     .icon = MessageBox::Icon::Question});
-  return answer == Answer::Yes ? std::nullopt : std::optional(FormRefusal{.text = {}, .field = "steps"});
+  if (prompts.agrees(kStepHeightCaption, *question)) return std::nullopt;
+  return FormRefusal{.text = {}, .field = "steps"};
 }
 
 // Its picture shows how high the steps come out.

@@ -16,12 +16,8 @@ Outcome MakeEntityOfChosenClass(Editor& editor, map&) {
 Outcome AskRevert(Editor& editor, map& m) {
   if (!CanRevert(m)) return {};
   const std::string name = m.currentEntity()->valueOfKey("classname");
-  const Answer answer =
-      editor.services().prompts.ask({.caption = "Velk - Revert",
-                                     .text = Format("Revert brushes of entity %s to world?", name.c_str()),
-                                     .buttons = MessageBox::Buttons::YesNo,
-                                     .icon = MessageBox::Icon::Question});
-  if (answer != Answer::Yes) return {};
+  const std::string text = Format("Revert brushes of entity %s to world?", name.c_str());
+  if (!editor.services().prompts.agrees("Velk - Revert", text)) return {};
   RevertToWorld(m);
   return Outcome::Drawn(Redraw::All, "Entity reverted...");
 }

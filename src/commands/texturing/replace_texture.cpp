@@ -24,12 +24,8 @@ Outcome AskForReplacing(Editor& editor, map&) {
 Outcome ReplaceTextureBy(Editor& editor, map& m, const std::string& from, const std::string& to) {
   const std::string upperFrom = UpperCase(from);
   const std::string upperTo = UpperCase(to);
-  const Answer answer = editor.services().prompts.ask(
-      {.caption = kReplaceCaption,
-       .text = Format("Replace %s\nWith %s?", upperFrom.c_str(), upperTo.c_str()),
-       .buttons = MessageBox::Buttons::YesNo,
-       .icon = MessageBox::Icon::Question});
-  if (answer != Answer::Yes) return {};
+  const std::string text = Format("Replace %s\nWith %s?", upperFrom.c_str(), upperTo.c_str());
+  if (!editor.services().prompts.agrees(kReplaceCaption, text)) return {};
   ReplaceTexture(m, upperFrom, upperTo);
   return Outcome::Drawn(Redraw::All,
                         Format("Texture %s replaced with %s...", upperFrom.c_str(), upperTo.c_str()));

@@ -3,6 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "base/text.h"
+
 namespace velk {
 namespace {
 
@@ -52,7 +54,7 @@ std::optional<Motion> MotionOf(const Editor& editor, const KeyStroke& stroke) {
   const bool smooth = editor.settings().smooth_camera && editor.documents().currentMap();
   const Command* command = smooth ? CommandForStroke(stroke) : nullptr;
   for (const auto& [name, motion] : kMotionCommands) {
-    if (command && FindCommand(name) == command) return motion;
+    if (command && EqualNoCase(command->name, name)) return motion;
   }
   return std::nullopt;
 }

@@ -11,6 +11,7 @@
 #include <QTreeView>
 
 #include "base/text.h"
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -97,8 +98,6 @@ void PresentProgram(QMessageBox& dialog) {
   dialog.setInformativeText(QStringLiteral("Built with Qt %1, in C++20.").arg(qVersion()));
   dialog.setIconPixmap(QApplication::windowIcon().pixmap(kProgramIcon));
 }
-
-QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 }  // namespace
 

@@ -114,6 +114,7 @@ void TVelkWindow::buildWindows() {
   children_->add(ToolWindow::Camera, camera_);
   groups_ = new TGroupWindow(editor_);
   children_->add(ToolWindow::Groups, groups_);
+  clock_ = new InputClock(editor_.input(), *this);
   children_->setSharedBorders([this] { return editor_.settings().shared_borders; });
   children_->setBars(bars_);
   editor_.windows().setWindows(*children_);

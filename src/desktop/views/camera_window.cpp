@@ -4,18 +4,13 @@
 #include <vector>
 
 #include "app/view_overlay.h"
-#include "camera/leak_line.h"
-#include "camera/wire.h"
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/views/palette_image.h"
 #include "desktop/views/qt_canvas.h"
 
 namespace velk {
 namespace {
-
-constexpr int kWireMode = 0;
-
-QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 QString FontFamily(const Editor& editor) { return ShownText(editor.settings().velk_font); }
 
@@ -61,13 +56,6 @@ QImage LastingPicture(Editor& editor, double devicePixelRatio) {
     return image;
   }
   if (editor.settings().drawmode == kWireMode) editor.views().drawWire(canvas);
-  const Views& views = editor.views();
-  if (!views.ghosts.empty()) {
-    DrawWireGhosts(canvas, {width, height}, views.renderSize(), editor.views().cameraScene(), views.ghosts,
-                   kGhostColour);
-  }
-  DrawLeakLine(canvas, {width, height}, editor.views().renderSize(), *shown, editor.settings(),
-               editor.views().lens, editor.views().leaks.points());
   DrawCameraMarks(canvas, editor);
   return image;
 }
@@ -77,7 +65,7 @@ QImage LastingPicture(Editor& editor, double devicePixelRatio) {
 QImage PictureOfCamera(Editor& editor, double devicePixelRatio) {
   QImage image = LastingPicture(editor, devicePixelRatio);
   QtCanvas canvas(image, FontFamily(editor));
-  DrawCameraOverlay(canvas, editor);
+  DrawViewOverlay(canvas, editor, kCameraView, editor.input().hovered(kCameraView));
   return image;
 }
 
@@ -113,7 +101,5 @@ void TCameraWindow::drawOnTop(QPainter& painter) {
     painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, line);
   }
 }
-
-void TCameraWindow::drawOverlay(QtCanvas& canvas) { DrawCameraOverlay(canvas, editor()); }
 
 }  // namespace velk

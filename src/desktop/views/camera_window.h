@@ -26,7 +26,6 @@ class TCameraWindow : public ViewWindow {
 
  protected:
   QImage drawPicture() override;
-  void drawOverlay(QtCanvas& canvas) override;
   void drawOnTop(QPainter& painter) override;
 
  private:

@@ -41,7 +41,7 @@ QImage LastingPicture(Editor& editor, int view, double devicePixelRatio, const Q
 QImage PictureOfPlanView(Editor& editor, int view, double devicePixelRatio, const QPalette& palette) {
   QImage image = LastingPicture(editor, view, devicePixelRatio, palette);
   QtCanvas canvas(image, ShownText(editor.settings().velk_font));
-  DrawPlanOverlay(canvas, editor, view);
+  DrawViewOverlay(canvas, editor, view, editor.input().hovered(view));
   return image;
 }
 
@@ -61,8 +61,6 @@ QImage TXYViewWindow::drawPicture() {
   setWindowTitle(QString::fromLatin1(CaptionText(record, editor().settings()).c_str()));
   return LastingPicture(editor(), view(), devicePixelRatioF(), palette());
 }
-
-void TXYViewWindow::drawOverlay(QtCanvas& canvas) { DrawPlanOverlay(canvas, editor(), view()); }
 
 void TXYViewWindow::drawOnTop(QPainter& painter) {
   if (stripStale_) {

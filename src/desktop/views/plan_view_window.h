@@ -16,7 +16,6 @@ class TXYViewWindow : public ViewWindow {
 
  protected:
   QImage drawPicture() override;
-  void drawOverlay(QtCanvas& canvas) override;
   void drawOnTop(QPainter& painter) override;
   void mousePressEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

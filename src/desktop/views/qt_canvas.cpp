@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -36,7 +37,7 @@ void QtCanvas::text(const std::string& text, Pixel at, int height, Colour colour
     painter_.fillRect(at.x, at.y, metrics.horizontalAdvance(shown), metrics.height(),
                       QColor(background->red, background->green, background->blue));
   }
-  painter_.setPen(QColor(colour.red, colour.green, colour.blue));
+  painter_.setPen(QtColour(colour));
   painter_.drawText(at.x, at.y + metrics.ascent(), shown);
 }
 

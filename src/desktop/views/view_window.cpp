@@ -32,10 +32,11 @@ void ViewWindow::paintEvent(QPaintEvent*) {
     if (underMouse()) showCursor();  // what is there became another, or a drag ended
   }
   QPainter painter(this);
-  if (HasOverlay(editor_, view_)) {
+  const FacePick hovered = editor_.input().hovered(view_);
+  if (HasOverlay(editor_, hovered)) {
     QImage shown = picture_;
     QtCanvas canvas(shown, ShownText(editor_.settings().velk_font));
-    drawOverlay(canvas);
+    DrawViewOverlay(canvas, editor_, view_, hovered);
     painter.drawImage(0, 0, shown);
   } else {
     painter.drawImage(0, 0, picture_);

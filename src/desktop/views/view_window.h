@@ -23,7 +23,6 @@ class ViewWindow : public QWidget {
 
  protected:
   virtual QImage drawPicture() = 0;
-  virtual void drawOverlay(QtCanvas& canvas) = 0;
   // Draws over picture and overlay.
   virtual void drawOnTop(QPainter& /*painter*/) {}
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/views/palette_image.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr int kPixelsAStep = 6;
 constexpr int kWheelStep = 120;
 constexpr int kTextHeight = 10;
-
-QColor QtColour(const Colour& from) { return {from.red, from.green, from.blue}; }
 
 QString PointText(const char* name, const vec3& at) {
   return ShownText(Format("%s %g %g %g", name, double(at.x), double(at.y), double(at.z)));

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "base/text.h"
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 #include "ops/face_textures.h"
 
@@ -15,8 +16,6 @@ constexpr int kFontHeight = 10;  // pixels
 constexpr int kTabStops[] = {30, 100, 150, 200};
 constexpr int kFewestLines = 8;  // that the list always shows
 constexpr int kLineHeight = 15;
-
-QColor QtColour(const Colour& from) { return QColor(from.red, from.green, from.blue); }
 
 // A quarter of the way from one to the other.
 QColor Between(const QColor& from, const QColor& to) {

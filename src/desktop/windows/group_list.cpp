@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 #include "desktop/frame/context_menu.h"
 #include "desktop/windows/selection_handle.h"
@@ -20,7 +21,7 @@ QPixmap SwatchOf(Colour colour) {
   constexpr int kSide = 20;
   QPixmap swatch(kSide, kSide);
   swatch.setDevicePixelRatio(2);
-  swatch.fill(QColor(colour.red, colour.green, colour.blue));
+  swatch.fill(QtColour(colour));
   QPainter painter(&swatch);
   painter.setPen(QColor(128, 128, 128));
   painter.drawRect(QRectF(0, 0, kSide / 2.0 - 0.5, kSide / 2.0 - 0.5));

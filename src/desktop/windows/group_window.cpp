@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "base/text.h"
+#include "desktop/dialogs/qt_colour.h"
 #include "desktop/dialogs/shown_text.h"
 
 namespace velk {
@@ -70,7 +71,7 @@ void TGroupWindow::refresh() {
   const Colour colour = panel().currentColour();
   QPixmap swatch(24, 24);
   swatch.setDevicePixelRatio(2);
-  swatch.fill(QColor(colour.red, colour.green, colour.blue));
+  swatch.fill(QtColour(colour));
   swatch_->setIcon(swatch);
   swatch_->setToolTip(
       ShownText("New brushes join " + panel().currentName() + "; a click changes its colour"));

@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kCompassReach = 31;  // a press is nearer to its centre than this on both axes, pixels
 constexpr int kCompassMiddle = 2;  // and not nearer than this on both
-constexpr int kWireReach = 8;      // of a press to an edge of the wire picture, pixels
 
 // A click acts at the press and runs until the release, which says what it did.
 class HeldClick : public Drag {
@@ -72,8 +71,8 @@ bool Toggle(const MouseContext& context, const FacePick& pick) {
 }
 
 FacePick BrushUnder(const MouseContext& context, const PointerEvent& event) {
-  if (context.settings.drawmode != 0) return context.camera.under;
-  brush* hit = context.camera.pickWire ? context.camera.pickWire(event.at, kWireReach) : nullptr;
+  if (context.settings.drawmode != kWireMode) return context.camera.under;
+  brush* hit = context.camera.pick(event.at).hit;
   return {hit, hit ? hit->currentFace() : -1};
 }
 

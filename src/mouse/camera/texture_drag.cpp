@@ -12,11 +12,9 @@ namespace {
 constexpr int kPixelsAStep = 4;
 constexpr double kScaleStep = 0.1;
 
-// From 0 to 360 degrees, which stays.
-double WithinTurn(double degrees) {
-  if (!std::isfinite(degrees)) return 0;
-  const double turned = std::fmod(degrees, 360);
-  if (turned < 0) return turned + 360;
+// A whole turn stays one.
+double UpToTurn(double degrees) {
+  const double turned = WithinTurn(degrees);
   return turned == 0 && degrees > 0 ? 360 : turned;
 }
 
@@ -66,7 +64,7 @@ class TextureDrag : public Drag {
       texture.scale[1] = float(texture.scale[1] - kScaleStep * step.y);
       return Format("(SX %3.1f, SY %3.1f)     ", texture.scale[0], texture.scale[1]);
     }
-    const double rotation = WithinTurn(rotation_ + Truncate(DirectionDegrees(total_.x, -total_.y)));
+    const double rotation = UpToTurn(rotation_ + Truncate(DirectionDegrees(total_.x, -total_.y)));
     texture.rotate = float(rotation);
     return Format("(R %i)     ", Truncate(rotation));
   }

@@ -33,7 +33,7 @@ class BrushDrag : public Drag {
 bool HitsSelected(map& m, const PickRay& ray) {
   bool hit = false;
   VisitBrushes(m, BrushFilter::Selected, [&](const brush& b) {
-    hit = hit || (!b.invalid && IsShown(m, b) && b.hitByRay(ray.start, ray.end).t >= 0);
+    hit = hit || (CanBeHit(m, b) && b.hitByRay(ray.start, ray.end).t >= 0);
   });
   return hit;
 }

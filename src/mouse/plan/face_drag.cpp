@@ -24,7 +24,7 @@ std::optional<vec3> FaceDragPoint(const MouseContext& context, const brush& b, V
 }
 
 ToolStart StartFaceDrag(const MouseContext& context, const PointerEvent& event) {
-  brush* b = OnlySelected(context.model);
+  brush* b = OnlyShownSelected(context.model);
   if (!b) return {};
   BeginPointDrag(context, kFacing);
   const PlanView& view = context.plan();
@@ -44,7 +44,7 @@ ToolStart StartFaceDrag(const MouseContext& context, const PointerEvent& event) 
 }
 
 ToolStart StartCurrentFaceDrag(const MouseContext& context, const PointerEvent& /*event*/) {
-  brush* b = OnlySelected(context.model);
+  brush* b = OnlyShownSelected(context.model);
   if (!b || b->faces().empty()) return {};
   BeginPointDrag(context, kCurrent);
   std::vector<PlanePoint> points;

@@ -61,11 +61,7 @@ class NewBrushDrag : public Drag {
     if (!CleanUpBrush(made_)) return outcome;
     GroupList& groups = context.model.groups;
     if (!context.settings.groupmode || groups.passes(group)) return outcome;
-    const Answer answer = context.prompts.ask({.caption = kNewBrushTitle,
-                                               .text = kShowGroup,
-                                               .buttons = MessageBox::Buttons::YesNo,
-                                               .icon = MessageBox::Icon::Question});
-    if (answer != Answer::Yes) return outcome;
+    if (!context.prompts.agrees(kNewBrushTitle, kShowGroup)) return outcome;
     groups.setVisible(group, true);
     outcome.groups = true;
     return outcome;

@@ -60,7 +60,7 @@ bool CleanUpBrush(brush& b) {
   return false;
 }
 
-brush* OnlySelected(const map& m) {
+brush* OnlyShownSelected(const map& m) {
   brush* b = m.totalSelected() == 1 ? m.firstSelected() : nullptr;
   return b && IsShown(m, *b) ? b : nullptr;
 }

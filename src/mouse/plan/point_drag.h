@@ -20,7 +20,7 @@ void AddFacePoints(std::vector<PlanePoint>& points, int face);
 bool CleanUpBrush(brush& b);
 
 // The one selected brush; none when there are several or none, or when it is hidden.
-brush* OnlySelected(const map& m);
+brush* OnlyShownSelected(const map& m);
 
 struct PointDragKind {
   int code = 0;

@@ -123,7 +123,7 @@ void Apply(brush& b, const ShearedFace& sheared, std::vector<PlanePoint>& points
 }  // namespace
 
 ToolStart StartShear(const MouseContext& context, const PointerEvent& event) {
-  brush* b = OnlySelected(context.model);
+  brush* b = OnlyShownSelected(context.model);
   if (!b) return {};
   const std::vector<int> moving = MovingFaces(*b, PointBefore(context, *b, PointUnder(context, event)));
   const auto sheared = ShearedFaces(*b, moving);

@@ -115,7 +115,7 @@ ToolStart StartVertexDrag(const MouseContext& context, const PointerEvent& event
   const Settings& settings = context.settings;
   if (settings.drag_vertex == 0) return start;
   start.outcome.status = "Searching for vertex...";
-  brush* b = OnlySelected(context.model);
+  brush* b = OnlyShownSelected(context.model);
   if (!b) return start;
   const PointDragKind kind{kVertexDragCode, "Manipulate Vertex", settings.vertex_use_grid};
   BeginPointDrag(context, kind);

@@ -254,7 +254,10 @@ WrappedTextures WrapTexture(map& m) {
     for (float& shift : each.definition.shift) shift = float(RoundHalfAway(shift));
     each.b->editFaces()[static_cast<size_t>(each.index)].texture = each.definition;
   }
-  for (const Found& each : found) each.b->buildWindings();
+  // They stand brush by brush.
+  for (size_t i = 0; i < found.size(); ++i) {
+    if (i + 1 == found.size() || found[i + 1].b != found[i].b) found[i].b->buildWindings();
+  }
   wrapped.faces = static_cast<int>(found.size());
   if (wrapped.faces > 0) m.modified = true;
   return wrapped;

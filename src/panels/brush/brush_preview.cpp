@@ -16,8 +16,6 @@ constexpr double kLeastZoom = 0.2;
 constexpr double kLargestZoom = 8;
 constexpr double kFilled = 0.85;  // of the picture at zoom 1
 constexpr double kFullTurn = 360;
-constexpr int kWire = 0;
-constexpr int kTextured = 2;
 
 double Radians(double degrees) { return degrees * std::numbers::pi / 180; }
 
@@ -73,7 +71,7 @@ BrushPreview::BrushPreview(const Settings& settings, const EntityClassList& clas
 
 void BrushPreview::takeSettings() {
   settings_ = wanted_;
-  settings_.drawmode = std::clamp(wanted_.camera_mode, kWire, kTextured);
+  settings_.drawmode = std::clamp(wanted_.camera_mode, kWireMode, kTexturedMode);
   settings_.groupmode = false;
   settings_.filter = {};
   settings_.outline = true;

@@ -30,7 +30,7 @@ class BrushPreview {
   // Draws the picture with settings.camera_mode: 0 nothing but edges, 1 flat, 2 textured.
   void render(const RenderAssets& assets, RenderSize size);
   // Whether the picture is drawn by the renderer; otherwise its edges are all there is.
-  bool isSolid() const { return settings_.drawmode != 0; }
+  bool isSolid() const { return settings_.drawmode != kWireMode; }
   const Renderer& renderer() const { return renderer_; }
 
   // The edges of the current face, and in the wire picture those of all faces, on a picture of that size.

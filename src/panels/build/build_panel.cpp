@@ -91,6 +91,10 @@ void BuildPanel::buildEnded() {
   const BuildJob& job = tools_.job();
   const Services& services = context_.services;
   const auto file = leakWatch_.changed(services.paths, tools_.builtMap());
+  // The watch of the map's own file has nothing more to tell.
+  if (MapDocument* built = context_.documents.at(context_.documents.indexOfFile(tools_.builtMap()))) {
+    built->leakFiles.changed(services.paths, built->model.name);
+  }
   std::vector<vec3> points = file ? ReadLeakFile(services.paths, *file) : std::vector<vec3>();
   Outcome outcome =
       Outcome::Said(Format("Build %s: %s...", job.name().c_str(), job.lines().back().text.c_str()));
@@ -124,6 +128,14 @@ bool BuildPanel::mend(int line) {
   map& own = OwnerOf(finding).parent();
   showMap(own);
   if (currentMap() != &own) return false;
+  // The map may have changed since it was looked at.
+  const auto stands = [&finding](const CheckFinding& f) {
+    return f.owner == finding.owner && f.found == finding.found && f.mend == finding.mend;
+  };
+  if (std::ranges::none_of(CheckMap(own, context_.documents.current()->textures), stands)) {
+    check();
+    return false;
+  }
   context_.door.perform({.name = "Mend"}, [&] {
     MendFinding(own, finding);
     return Outcome::Drawn(Redraw::All, "Mended: " + finding.text);

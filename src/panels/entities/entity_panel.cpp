@@ -184,8 +184,10 @@ void EntityPanel::askColour() {
 void EntityPanel::deleteKey() {
   const std::string key = key_.substr(0, MAX_KEY - 1);
   if (key.empty()) return;
+  if (shown() && KeepsItsClass(*shown(), key)) return context_.door.show(Outcome::Said(kWorldKeepsClass));
   clearFields();
   change("Remove " + key, [&](entity& e) {
+    if (KeepsItsClass(e, key)) return;
     e.parent().modified = true;
     e.removeKeyPair(key);
   });

@@ -30,7 +30,6 @@ class GroupPanel : public Panel {
   std::string currentName();  // "" without a map
   // Of the current group, as the swatch shows it.
   Colour currentColour();
-  bool showsResults() const { return showsResults_; }
 
   // Turns group mode on or off.
   Outcome toggleGroupMode();

@@ -11,10 +11,9 @@ namespace {
 constexpr double kScaleStep = 0.1;
 constexpr double kFullTurn = 360;
 
-float WithinTurn(double degrees) {
-  double turned = std::fmod(degrees, kFullTurn);
-  if (turned < 0) turned += kFullTurn;
-  const auto stored = static_cast<float>(turned);
+// As a definition holds it, where what is next to a whole turn is one.
+float StoredTurn(double degrees) {
+  const auto stored = static_cast<float>(WithinTurn(degrees));
   return stored < kFullTurn ? stored : 0;
 }
 
@@ -43,7 +42,7 @@ void StepTextureField(TextureChoice& choice, TextureField field, int direction) 
       stepped.shift[1] += static_cast<float>(direction);
       break;
     case TextureField::Rotate:
-      stepped.rotate = WithinTurn(stepped.rotate + 5.0 * direction);
+      stepped.rotate = StoredTurn(stepped.rotate + 5.0 * direction);
       break;
     case TextureField::ScaleS:
       stepped.scale[0] = SteppedScale(stepped.scale[0], direction);
@@ -67,7 +66,7 @@ void SetTextureField(TextureChoice& choice, TextureField field, double value) {
       typed.shift[1] = number;
       break;
     case TextureField::Rotate:
-      typed.rotate = WithinTurn(value);
+      typed.rotate = StoredTurn(value);
       break;
     case TextureField::ScaleS:
       typed.scale[0] = number == 0 ? 1 : number;

@@ -183,8 +183,7 @@ bool TexturePanel::tick() {
   const std::vector<int> places = movingPlaces();
   bool inCamera = false;
   for (const int place : places) inCamera |= advance(set().at(place));
-  constexpr int kTextured = 2;
-  if (inCamera && settings().drawmode == kTextured) {
+  if (inCamera && settings().drawmode == kTexturedMode) {
     Changes changes;
     changes.camera = true;
     context_.services.observer.changed(changes);

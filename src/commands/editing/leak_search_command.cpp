@@ -1,8 +1,8 @@
-#include "commands/editing/leak_commands.h"
+#include "commands/editing/leak_search_command.h"
 
 #include <cstdio>
 
-#include "commands/dispatch.h"
+#include "commands/files/save_map.h"
 #include "ops/leak_search.h"
 
 namespace velk {
@@ -15,10 +15,8 @@ Answer Ask(Editor& editor, const std::string& text, MessageBox::Buttons buttons)
 
 // False when the user wanted to save and it came to nothing.
 bool SavedFirst(Editor& editor) {
-  if (!editor.documents().current()->isChanged()) return true;
-  if (Ask(editor, kLeakSaveFirst, MessageBox::Buttons::YesNo) != Answer::Yes) return true;
-  RunCommand(editor, *FindCommand("CM_FILESAVE"));
-  return !editor.documents().current()->isChanged();
+  return !editor.documents().current()->isChanged() ||
+         !editor.services().prompts.agrees(kLeakTitle, kLeakSaveFirst) || SaveNow(editor);
 }
 
 // The views look at a pair, which is selected, for as long as this lives.
